@@ -1,0 +1,1 @@
+// Holds the precompiled header that every folder of the library reuses.

@@ -1,0 +1,4 @@
+#pragma once
+
+#include "../../ovk/pch_p.h"
+#include <QtTest/QtTest>
