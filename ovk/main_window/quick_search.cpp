@@ -1,0 +1,281 @@
+#include "ovk/main_window/quick_search_p.h"
+
+#include "ovk/commands/ui_command.h"
+#include "ovk/commands/ui_controller.h"
+#include "ovk/main_window/ribbon_window_p.h"
+#include "ovk/ui_state/features/ui_features_controller.h"
+#include "ovk/ui_state/ui_layout.h"
+
+#include <qtitan/ribbon.h>
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QToolBar>
+#include <QWidgetAction>
+
+namespace ovk {
+
+namespace {
+
+constexpr int c_edit_width = 200;
+constexpr int c_visible_rows = 20;
+/// Shift+Q as a key code.
+constexpr int c_shortcut = 0x2000051;
+
+/// The action with the shortcut: one for the process, gone with the edit that it serves.
+QPointer<QAction>& ShowAction()
+{
+    static QPointer<QAction> action;
+    return action;
+}
+
+QString DisplayText(const UiCommand& command)
+{
+    const QString shortcut = command.shortcut().toString(QKeySequence::PortableText);
+    const QString title = command.GetTitle();
+    return shortcut.isEmpty() ? title : title + QStringLiteral(" (") + shortcut + QLatin1Char(')');
+}
+
+UiCommand* CommandAt(const QModelIndex& index)
+{
+    return index.data(Qt::UserRole).value<UiCommand*>();
+}
+
+} // namespace
+
+QSCommandModel::QSCommandModel(QObject* parent)
+    : QAbstractTableModel(parent)
+{
+}
+
+QSCommandModel::~QSCommandModel() = default;
+
+int QSCommandModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : size();
+}
+
+int QSCommandModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : 1;
+}
+
+QVariant QSCommandModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= size())
+        return {};
+    UiCommand* command = at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return DisplayText(*command);
+    case Qt::DecorationRole:
+        return command->icon();
+    case Qt::ToolTipRole:
+        return command->toolTip();
+    case Qt::StatusTipRole:
+        return command->statusTip();
+    case Qt::UserRole:
+        return QVariant::fromValue(command);
+    default:
+        return {};
+    }
+}
+
+Qt::ItemFlags QSCommandModel::flags(const QModelIndex& index) const
+{
+    Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    if (index.isValid() && index.row() < size() && !at(index.row())->isEnabled())
+        flags &= ~Qt::ItemIsEnabled;
+    return flags;
+}
+
+void QSCommandModel::SetLayout(UiLayout* layout)
+{
+    beginResetModel();
+    clear();
+    if (layout)
+        UiFeaturesController::GetInstance()->GetAvailableLayoutCommands(layout->GetName(), *this);
+    endResetModel();
+}
+
+QuickSearchWidget::QuickSearchWidget(QWidget* parent)
+    : QLineEdit(parent)
+{
+    setAccessibleName(QStringLiteral("QuickSearchWidget"));
+    setWindowTitle(QObject::tr("Quick search"));
+
+    m_proxy.setSourceModel(&m_model);
+    m_proxy.setFilterCaseSensitivity(Qt::CaseInsensitive);
+
+    m_completer.setModel(&m_proxy);
+    m_completer.setCaseSensitivity(Qt::CaseInsensitive);
+    m_completer.setFilterMode(Qt::MatchContains);
+    m_completer.setMaxVisibleItems(c_visible_rows);
+    // The proxy is sorted when the edit gets the focus, so that the completer need not.
+    m_completer.setModelSorting(QCompleter::CaseSensitivelySortedModel);
+    m_completer.setCompletionRole(Qt::DisplayRole);
+
+    setClearButtonEnabled(true);
+    setPlaceholderText(QObject::tr("Quick search (Shift+Q)"));
+    setFixedWidth(c_edit_width);
+    setCompleter(&m_completer);
+    connect(this, &QLineEdit::returnPressed, this, &QuickSearchWidget::OnReturnPressed);
+    connect(this, &QLineEdit::textEdited, this, &QuickSearchWidget::OnTextEdited);
+    setFocusPolicy(Qt::ClickFocus);
+}
+
+QuickSearchWidget::~QuickSearchWidget()
+{
+    // An edit that was removed while it ran must not take its successor's action with it.
+    if (!m_running)
+        delete ShowAction();
+}
+
+bool QuickSearchWidget::event(QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+        clearFocus();
+    return QLineEdit::event(event);
+}
+
+void QuickSearchWidget::focusInEvent(QFocusEvent* event)
+{
+    if (m_stale) {
+        UiController* controller = UiController::GetInstance();
+        m_model.SetLayout(controller ? controller->GetActiveLayout() : nullptr);
+        m_proxy.sort(0, Qt::AscendingOrder);
+        m_stale = false;
+    }
+    connect(&m_completer, QOverload<const QModelIndex&>::of(&QCompleter::highlighted), this,
+            &QuickSearchWidget::OnHighlighted, Qt::UniqueConnection);
+    connect(&m_completer, QOverload<const QModelIndex&>::of(&QCompleter::activated), this,
+            &QuickSearchWidget::OnActivated, Qt::UniqueConnection);
+    QLineEdit::focusInEvent(event);
+}
+
+void QuickSearchWidget::focusOutEvent(QFocusEvent* event)
+{
+    m_stale = true;
+    QLineEdit::focusOutEvent(event);
+}
+
+void QuickSearchWidget::OnHighlighted(const QModelIndex&)
+{
+    m_highlighted = true;
+}
+
+void QuickSearchWidget::OnActivated(const QModelIndex& index)
+{
+    m_highlighted = false;
+    Run(index);
+}
+
+void QuickSearchWidget::OnTextEdited()
+{
+    m_last_activated = QModelIndex();
+    m_highlighted = false;
+}
+
+QModelIndex QuickSearchWidget::FindFirstEnabled()
+{
+    QAbstractItemModel* matches = m_completer.completionModel();
+    QModelIndex found;
+    for (int row = 0; row < matches->rowCount() && !m_last_activated.isValid(); ++row) {
+        found = matches->index(row, 0);
+        if (!found.isValid() || !(found.flags() & Qt::ItemIsEnabled) || m_highlighted)
+            continue;
+        if (UiCommand* command = CommandAt(found)) {
+            setText(command->GetTitle());
+            break;
+        }
+    }
+    return found;
+}
+
+void QuickSearchWidget::OnReturnPressed()
+{
+    // The completer's own activation runs a highlighted row; running it here too would run it twice.
+    if (m_highlighted) {
+        m_highlighted = false;
+        return;
+    }
+    const QModelIndex found = FindFirstEnabled();
+    const QPointer<QuickSearchWidget> guard(this);
+    Run(m_last_activated.isValid() ? m_last_activated : found);
+    if (guard)
+        m_highlighted = false;
+}
+
+bool QuickSearchWidget::Run(const QModelIndex& index)
+{
+    if (!index.isValid() || index.row() >= m_completer.completionModel()->rowCount())
+        return false;
+    UiCommand* command = CommandAt(index);
+    if (!command)
+        return false;
+    clearFocus();
+    m_last_activated = index;
+    const QPointer<QuickSearchWidget> guard(this);
+    m_running = true;
+    const bool executed = command->Execute();
+    if (guard)
+        m_running = false;
+    return executed;
+}
+
+void RemoveQuickSearch(QToolBar& bar)
+{
+    for (QAction* action : bar.actions()) {
+        auto* widget_action = qobject_cast<QWidgetAction*>(action);
+        auto* edit = widget_action ? qobject_cast<QuickSearchWidget*>(widget_action->defaultWidget())
+                                   : nullptr;
+        if (!edit)
+            continue;
+        delete ShowAction();
+        bar.removeAction(widget_action);
+        if (edit->IsRunning()) {
+            widget_action->setParent(nullptr);
+            edit->setParent(nullptr);
+            widget_action->deleteLater();
+        } else {
+            delete widget_action;
+        }
+    }
+}
+
+void InstallQuickSearch()
+{
+    RibbonWindow* window = LiveRibbonWindow();
+    UiFeaturesController* features = UiFeaturesController::GetInstance();
+    if (!window || !features ||
+        !features->GetCommandFromActiveProduct(QStringLiteral("View.QuickSearch"), 0))
+        return;
+    QPointer<QToolBar> quick_access = window->ribbonBar()->quickAccessBar();
+    if (!quick_access)
+        return;
+
+    QPointer<QuickSearchWidget> edit = std::make_unique<QuickSearchWidget>(quick_access).release();
+    QPointer<QAction> edit_action = quick_access->addWidget(edit);
+    edit_action->setText(QObject::tr("Quick search"));
+
+    QPointer<QAction>& show = ShowAction();
+    if (!show) {
+        show = std::make_unique<QAction>(window).release();
+        show->setShortcut(QKeySequence(c_shortcut));
+        window->addAction(show);
+    }
+    show->disconnect();
+    QObject::connect(show, &QAction::triggered, window, [quick_access, edit_action, edit] {
+        if (!quick_access || !edit_action || !edit)
+            return;
+        edit_action->setVisible(true);
+        edit->setVisible(true);
+        edit->setFocus();
+        edit->selectAll();
+    });
+}
+
+} // namespace ovk
+
+#include "moc_quick_search_p.cpp"

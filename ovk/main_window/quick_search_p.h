@@ -1,0 +1,91 @@
+#pragma once
+
+#include <ovk/core/export.h>
+
+#include <QAbstractTableModel>
+#include <QCompleter>
+#include <QLineEdit>
+#include <QList>
+#include <QModelIndex>
+#include <QSortFilterProxyModel>
+
+class QToolBar;
+
+namespace ovk {
+
+class UiCommand;
+class UiLayout;
+
+/// The commands of a layout as rows of one column, for the completer of the quick search.
+class OVK_TEST_EXPORT QSCommandModel : public QAbstractTableModel, public QList<UiCommand*>
+{
+    Q_OBJECT
+
+public:
+    explicit QSCommandModel(QObject* parent = nullptr);
+    ~QSCommandModel() override;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+
+    /// The title with the shortcut in brackets, the icon, tool tip and status tip; Qt::UserRole
+    /// holds the `UiCommand*`.
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
+    /// A command that is disabled now has a row that is not enabled.
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+    /// Lists the commands that the layout offers; none for null. They are not owned.
+    void SetLayout(UiLayout* layout);
+};
+
+/// The edit at the end of the quick access bar that finds a command by its title and runs it.
+class OVK_TEST_EXPORT QuickSearchWidget : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit QuickSearchWidget(QWidget* parent = nullptr);
+    ~QuickSearchWidget() override;
+
+    bool event(QEvent* event) override;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+public:
+    /// Whether a command started here has not returned yet.
+    bool IsRunning() const { return m_running; }
+
+private Q_SLOTS:
+    void OnHighlighted(const QModelIndex& index);
+    void OnActivated(const QModelIndex& index);
+    void OnReturnPressed();
+    void OnTextEdited();
+
+private:
+    bool Run(const QModelIndex& index);
+    QModelIndex FindFirstEnabled();
+
+    QCompleter m_completer;
+    QSCommandModel m_model;
+    QSortFilterProxyModel m_proxy;
+    /// The row that ran last, in the completer's completion model: Return runs it again until the
+    /// text is edited.
+    QModelIndex m_last_activated;
+    bool m_highlighted = false;
+    bool m_stale = true;
+    bool m_running = false;
+};
+
+/// Takes the quick search edit off a tool bar, before the bar is cleared; does nothing where there
+/// is none. An edit that is just running a command (which may be what rebuilds the bar) leaves the
+/// bar at once and dies when control is back in the event loop.
+OVK_TEST_EXPORT void RemoveQuickSearch(QToolBar& bar);
+
+/// Puts a quick search edit at the end of the quick access bar and binds Shift+Q to it, provided
+/// that the product has the command "View.QuickSearch". Called after each rebuild of that bar.
+OVK_TEST_EXPORT void InstallQuickSearch();
+
+} // namespace ovk
