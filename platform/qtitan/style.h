@@ -1,0 +1,5 @@
+#pragma once
+
+#include "draw_helpers.h"
+#include "office_style.h"
+#include "ribbon_style.h"
