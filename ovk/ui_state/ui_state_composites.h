@@ -1,0 +1,42 @@
+#pragma once
+
+#include <ovk/ui_state/t_ui_state.h>
+#include <ovk/ui_state/ui_state_composite.h>
+
+namespace ovk {
+
+/// The composite commands that the user (or the default) made in a layout.
+class OVK_EXPORT UiStateComposites
+    : public TUiState<UiStateComposites, UiStateComposite, Dummy::Dummy>
+{
+public:
+    UiStateComposites();
+    explicit UiStateComposites(const QJsonObject& json);
+    UiStateComposites(const UiStateComposites& other);
+    ~UiStateComposites() override;
+
+    /// "composite".
+    static const QString& GetSuiteName();
+
+    /// A new menu button with an empty name; the caller owns it.
+    static UiStateCompositeMenu* CreateMenu();
+    /// A new split button with an empty name; the caller owns it.
+    static UiStateCompositeCommand* CreateCommand();
+
+    /// Takes the composite over and puts it at that index; an index below 0 appends.
+    void InsertComposite(UiStateComposite* composite, int index);
+    /// Takes a composite out; the caller owns it. Null out of range.
+    UiStateComposite* RemoveComposite(int index);
+    /// Takes the live command off every site and deletes the composite. Nothing happens out of
+    /// range.
+    void DeleteComposite(int index);
+
+    /// The composite with that identifier; null if absent.
+    UiStateComposite* Find(const QString& id) const;
+
+protected:
+    /// A menu for the type "menu", a split button for every other.
+    UiProfileItem* _CreateSubItem(const QJsonObject& json) override;
+};
+
+} // namespace ovk
