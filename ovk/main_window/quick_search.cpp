@@ -30,7 +30,7 @@ QPointer<QAction>& ShowAction()
     return action;
 }
 
-QString DisplayText(const UiCommand& command)
+QString DisplayText(UiCommand& command)
 {
     const QString shortcut = command.shortcut().toString(QKeySequence::PortableText);
     const QString title = command.GetTitle();
@@ -39,7 +39,7 @@ QString DisplayText(const UiCommand& command)
 
 UiCommand* CommandAt(const QModelIndex& index)
 {
-    return index.data(Qt::UserRole).value<UiCommand*>();
+    return static_cast<UiCommand*>(index.data(Qt::UserRole).value<void*>());
 }
 
 } // namespace
@@ -76,7 +76,7 @@ QVariant QSCommandModel::data(const QModelIndex& index, int role) const
     case Qt::StatusTipRole:
         return command->statusTip();
     case Qt::UserRole:
-        return QVariant::fromValue(command);
+        return QVariant::fromValue(static_cast<void*>(command));
     default:
         return {};
     }

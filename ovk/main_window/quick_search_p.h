@@ -29,7 +29,7 @@ public:
     int columnCount(const QModelIndex& parent = {}) const override;
 
     /// The title with the shortcut in brackets, the icon, tool tip and status tip; Qt::UserRole
-    /// holds the `UiCommand*`.
+    /// holds the `UiCommand*` as a `void*`.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     /// A command that is disabled now has a row that is not enabled.
