@@ -10,6 +10,7 @@ class OVK_EXPORT IApplicationController
 public:
     IApplicationController(const IApplicationController&) = delete;
     IApplicationController& operator=(const IApplicationController&) = delete;
+    /// Leaves the RootController, if that still lives.
     virtual ~IApplicationController();
 
     /// Runs the start hook. Calling it again runs it again.

@@ -28,6 +28,7 @@ private:
 
     RootController();
     void _Register(IApplicationController& controller);
+    static void _Unregister(IApplicationController& controller);
 
     std::unique_ptr<QList<IApplicationController*>> mp_controllers;
 };

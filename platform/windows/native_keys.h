@@ -18,8 +18,8 @@ OVK_EXPORT quint32 NativeModifiers(const QKeyEvent& event);
 
 /// The name of a native key, such as "A", "F5", "Num 5" or "Page Down": the system's own on
 /// Windows, the US layout's elsewhere. The low 16 bits of \a key are the virtual key; bit 24 asks
-/// for the extended key of the same scan code ("Num Enter" beside "Enter"). "0" for a key without
-/// a name.
+/// for the extended key of the same scan code ("Num Enter" beside "Enter"). Empty for 0, which is
+/// no key; "0" for a key without a name.
 OVK_EXPORT QString KeyName(int key);
 
 } // namespace ovk
