@@ -1,0 +1,7 @@
+#include "ui_item.h"
+
+namespace ovk {
+
+IUiItem::~IUiItem() = default;
+
+} // namespace ovk

@@ -1,0 +1,7 @@
+#include "commands_factory.h"
+
+namespace ovk {
+
+ICommandsFactory::~ICommandsFactory() = default;
+
+} // namespace ovk
