@@ -1,0 +1,19 @@
+#!/usr/bin/env python3
+"""Renders icons/*.svg to the PNG files that go into the library: the size of the drawing, and twice
+that size as name@2x.png for screens of a high density. Needs rsvg-convert."""
+
+import pathlib
+import re
+import subprocess
+
+icons = pathlib.Path(__file__).resolve().parent / "icons"
+for source in sorted(icons.glob("*.svg")):
+    size = int(re.search(r'width="(\d+)"', source.read_text()).group(1))
+    for scale, suffix in ((1, ""), (2, "@2x")):
+        target = source.with_name(source.stem + suffix + ".png")
+        edge = str(size * scale)
+        subprocess.run(["rsvg-convert", "-w", edge, "-h", edge, "-o", target, source], check=True)
+names = "\n".join(
+    f'        <file alias="{png.name}">icons/{png.name}</file>' for png in sorted(icons.glob("*.png")))
+(icons.parent / "ovk.qrc").write_text(
+    f'<RCC>\n    <qresource prefix="/icons">\n{names}\n    </qresource>\n</RCC>\n')
