@@ -1,4 +1,4 @@
-#include "test_main.h"
+#include "../support/test_main.h"
 
 #include "model/mesh_edit.h"
 #include "model/mesh_repair.h"

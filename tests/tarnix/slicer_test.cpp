@@ -1,4 +1,4 @@
-#include "test_main.h"
+#include "../support/test_main.h"
 
 #include "model/measure.h"
 #include "model/primitives.h"

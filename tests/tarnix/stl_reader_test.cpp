@@ -1,4 +1,4 @@
-#include "test_main.h"
+#include "../support/test_main.h"
 
 #include "model/primitives.h"
 #include "model/stl_reader.h"

@@ -116,7 +116,7 @@ BuildFile::Result BuildFile::Read(const QByteArray& bytes)
         meshes.push_back(std::move(mesh));
     }
     stream >> count;
-    if (count > k_most_parts)
+    if (stream.status() != QDataStream::Ok || count > k_most_parts)
         return fail(tr("The build is damaged: its list of parts makes no sense."));
     for (quint32 i = 0; i < count; ++i) {
         QString name, file;

@@ -123,10 +123,10 @@ Box MappedBounds(const Mesh& mesh, const Transform& map)
     return box;
 }
 
-bool IsOverhang(const Vec3& world_normal, double lowest_z, double degrees)
+bool IsOverhang(const Vec3& world_normal, double highest_z, double degrees)
 {
     constexpr double k_on_plate = 0.05;
-    return -world_normal.z > std::sin(qDegreesToRadians(degrees)) + 1e-9 && lowest_z > k_on_plate;
+    return -world_normal.z > std::sin(qDegreesToRadians(degrees)) + 1e-9 && highest_z > k_on_plate;
 }
 
 double OverhangArea(const Mesh& mesh, const Transform& map, double degrees)
@@ -137,7 +137,7 @@ double OverhangArea(const Mesh& mesh, const Transform& map, double degrees)
         const Vec3 a = map.Map(mesh.Points()[t.a]);
         const Vec3 b = map.Map(mesh.Points()[t.b]);
         const Vec3 c = map.Map(mesh.Points()[t.c]);
-        if (IsOverhang(map.MapNormal(mesh.Normals()[i]), std::min({a.z, b.z, c.z}), degrees))
+        if (IsOverhang(map.MapNormal(mesh.Normals()[i]), std::max({a.z, b.z, c.z}), degrees))
             area += 0.5 * Length(Cross(b - a, c - a));
     }
     return area;

@@ -102,7 +102,7 @@ Box MappedBounds(const Mesh& mesh, const Transform& map);
 
 /// A triangle of the mesh taken as an overhang: it looks down more steeply than `degrees` from
 /// the vertical (0 ... 90) after the map, and does not lie on the plate.
-bool IsOverhang(const Vec3& world_normal, double lowest_z, double degrees);
+bool IsOverhang(const Vec3& world_normal, double highest_z, double degrees);
 
 /// The surface in square millimetres that hangs over, after the map.
 double OverhangArea(const Mesh& mesh, const Transform& map, double degrees);

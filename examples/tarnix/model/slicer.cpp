@@ -181,7 +181,7 @@ int LayerStack::LayerAt(double z) const
 {
     if (m_count == 0)
         return -1;
-    return std::clamp(static_cast<int>(std::floor(z / m_thickness)), 0, m_count - 1);
+    return static_cast<int>(std::clamp(std::floor(z / m_thickness), 0.0, m_count - 1.0));
 }
 
 } // namespace tarnix
