@@ -82,7 +82,9 @@ public:
 
     UiProfileItem* ForEach(std::function<bool(UiProfileItem*)> visit) override
     {
-        for (Child* child : qAsConst(m_children)) {
+        // By position: a visitor may add children behind the one it is called for.
+        for (int i = 0; i < m_children.size(); ++i) {
+            Child* const child = m_children.at(i);
             if (!visit(child))
                 return child;
         }

@@ -81,6 +81,10 @@ protected:
     void _DoOnAppShutdown() override;
 
 private:
+    friend void LogProfile(const QString& line);
+
+    void _Log(const QString& line) const;
+
     class Impl;
     Impl* _pp() const { return mp_impl.get(); }
     Impl& _pr() const { return *mp_impl; }

@@ -9,7 +9,7 @@ class OVK_EXPORT UiStateItem : public UiProfileItem
 {
 public:
     /// What the user may do with a node. The files hold the numbers.
-    enum ItemPersitence
+    enum ItemPersitence : int
     {
         ipFixed = 0,            ///< Written; can neither be hidden nor deleted.
         ipOrdinary = 1,         ///< Written; can be hidden and deleted. The default.
