@@ -25,6 +25,8 @@ public:
     IUiItem* GetUiItem() const;
     /// Replaces the remembered item; null makes the next `GetUiItem` look it up again.
     void SetUiItem(IUiItem* item);
+    /// Whether `item` is the remembered one; nothing is looked up.
+    bool IsRemembered(const IUiItem& item) const { return mp_item == &item; }
     /// Looks the item up again; when that gives another one, the name goes into `changed`.
     void Validate(QSet<QString>& changed) override;
 
