@@ -1,0 +1,5 @@
+/// Stands for the host where only its version is looked at.
+int main()
+{
+    return 0;
+}
