@@ -97,10 +97,9 @@ Q_SIGNALS:
     /// of it.
     void themeChanged();
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
+    void followPalette();
+
     class Impl;
     std::unique_ptr<Impl> m_impl;
 };

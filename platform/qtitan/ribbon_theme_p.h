@@ -177,7 +177,6 @@ public:
 private:
     friend class OfficeStyle;
     static void setCurrent(const RibbonTheme* theme);
-    void resolve();
 
     OfficeStyle::Theme m_theme;
     Family m_family;
