@@ -2,11 +2,13 @@
 
 #include <ovk/core/application_controller.h>
 
+#include <QMap>
+#include <QString>
+
 #include <functional>
 #include <memory>
 
 class QDir;
-class QString;
 
 namespace ovk {
 
@@ -65,13 +67,14 @@ protected:
 
 private:
     class RootChapter;
-    struct LegacyWalk;
 
     PreferencesController();
     bool _LoadCurrentFile(const QString& path);
     bool _LoadLegacyFile(const QString& path);
     bool _LoadFolder(const QDir& folder);
     bool _UpdateFromOlderVersion();
+    bool _ApplyLegacyValues(PreferenceChapter& chapter, QMap<QString, QString>& values);
+    void _ApplyLegacyValue(PreferenceBasics& item, QMap<QString, QString>& values);
 
     std::unique_ptr<RootChapter> mp_root;
 };
