@@ -1,0 +1,48 @@
+#pragma once
+
+#include <ovk/core/export.h>
+
+#include <memory>
+
+namespace ovk {
+
+/// What is being dragged inside the customise dialog. The MIME data of such a drag are empty; they
+/// only tell that the drag is ours, and what is dragged is found here.
+class OVK_TEST_EXPORT IDragSource
+{
+public:
+    virtual ~IDragSource();
+};
+
+/// A drag source with a payload on the heap.
+template <class T>
+class DragSource : public IDragSource
+{
+public:
+    /// With `ownsPayload` the payload is deleted with the source.
+    explicit DragSource(T* payload, bool ownsPayload = true)
+        : m_owns_payload(ownsPayload), mp_payload(payload)
+    {
+    }
+    DragSource(const DragSource&) = delete;
+    DragSource& operator=(const DragSource&) = delete;
+    ~DragSource() override
+    {
+        if (m_owns_payload)
+            delete mp_payload;
+    }
+
+    T* GetPayload() const { return mp_payload; }
+
+private:
+    bool m_owns_payload;
+    T* mp_payload;
+};
+
+/// The present drag source of the process; null while nothing was dragged.
+OVK_TEST_EXPORT IDragSource* GetDragSource();
+
+/// Replaces the present drag source and deletes the former one; null empties the slot.
+OVK_TEST_EXPORT void SetDragSource(std::unique_ptr<IDragSource> source);
+
+} // namespace ovk
