@@ -16,7 +16,7 @@ struct Shortcut;
 /// Puts what an old profile holds into one that has the current defaults: its tool bars come beside
 /// the default ones, its menus and shortcuts in their place. A layout takes from every old layout of
 /// its name; commands that the product does not have are dropped.
-void ConvertLegacyProfile(const legacy_profile::Profile& old, UiProfile& profile);
+OVK_TEST_EXPORT void ConvertLegacyProfile(const legacy_profile::Profile& old, UiProfile& profile);
 
 /// The keys of an old shortcut.
 OVK_TEST_EXPORT QKeySequence LegacyKeySequence(const legacy_profile::Shortcut& shortcut);

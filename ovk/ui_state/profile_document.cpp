@@ -153,10 +153,9 @@ WriteResult WriteDocument(const QString& path, const QJsonObject& root, Document
     if (!file.open(QIODevice::WriteOnly))
         return WriteResult::NotOpened;
     const QByteArray data = FormatDocument(root, format);
-    if (data.isEmpty())
+    // On a disk that fills up a write ends early, which is no error of its own to QSaveFile.
+    if (data.isEmpty() || file.write(data) != data.size())
         file.cancelWriting();
-    else
-        file.write(data);
     return file.commit() ? WriteResult::Written : WriteResult::Failed;
 }
 
