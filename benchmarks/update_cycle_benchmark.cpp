@@ -183,8 +183,8 @@ void Cycle(benchmark::State& state)
         host.Controller().UpdateUi();
         benchmark::ClobberMemory();
     }
-    state.counters["allocations"] = benchmark::Counter(
-        static_cast<double>(g_allocations - before), benchmark::Counter::kAvgIterations);
+    state.counters["allocations"] = benchmark::Counter(static_cast<double>(g_allocations - before),
+                                                       benchmark::Counter::kAvgIterations);
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(Cycle)->Arg(100)->Arg(1000)->Arg(10000)->Complexity(benchmark::oN);

@@ -34,9 +34,7 @@ private:
 ICompositeCommand::Impl::Impl(ICompositeCommand& owner) : PimplBasics<ICompositeCommand>(owner) {}
 
 ICompositeCommand::Impl::Impl(const Impl& other, ICompositeCommand& owner)
-    : PimplBasics<ICompositeCommand>(owner),
-      items(other.items),
-      title(other.title),
+    : PimplBasics<ICompositeCommand>(owner), items(other.items), title(other.title),
       icon(other.icon)
 {
 }
@@ -83,9 +81,7 @@ ICompositeCommand::ICompositeCommand(const QString& id)
 }
 
 ICompositeCommand::ICompositeCommand(const ICompositeCommand& other)
-    : IUiItem(other),
-      Named(other),
-      IEnumerable<IUiItem*>(other),
+    : IUiItem(other), Named(other), IEnumerable<IUiItem*>(other),
       m_impl(std::make_unique<Impl>(*other.m_impl, *this))
 {
 }

@@ -14,9 +14,7 @@ namespace ovk {
 ///
 /// It does not own its items. The popup is made when it is first asked for and made anew after the
 /// list has changed.
-class OVK_EXPORT ICompositeCommand : public IUiItem,
-                                     protected Named,
-                                     public IEnumerable<IUiItem*>
+class OVK_EXPORT ICompositeCommand : public IUiItem, protected Named, public IEnumerable<IUiItem*>
 {
 public:
     QString GetId() override;

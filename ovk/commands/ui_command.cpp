@@ -61,7 +61,8 @@ UiCommand::UiCommand(const QString& id)
 {
     setObjectName(id);
     setIcon(IconsController::Load(id));
-    connect(this, &QAction::triggered, this, [this] { Execute(); }, Qt::DirectConnection);
+    connect(
+        this, &QAction::triggered, this, [this] { Execute(); }, Qt::DirectConnection);
     impl::NextCommandsGeneration();
 }
 
@@ -190,8 +191,8 @@ void UiCommand::UpdateCommandStrings()
 {
     const Impl& impl = _pr();
     const QByteArray context = (QStringLiteral("commands.") + objectName()).toUtf8();
-    setText(Utilities::EscapeAmpersands(
-        impl.Text(context, impl.title, "title", impl.translate_title)));
+    setText(
+        Utilities::EscapeAmpersands(impl.Text(context, impl.title, "title", impl.translate_title)));
     setToolTip(impl.Text(context, impl.tooltip, "tooltip", impl.translate_tooltip));
     setStatusTip(impl.Text(context, impl.status_tip, "statustip", impl.translate_status_tip));
 }

@@ -169,9 +169,14 @@ private Q_SLOTS:
         menu.Add(&a);
         const QPointer<QMenu> former = menu.GetMenu();
         switch (change) {
-        case 0: menu.Add(&b); break;
-        case 1: menu.AddSeparator(); break;
-        default: menu.Clear();
+        case 0:
+            menu.Add(&b);
+            break;
+        case 1:
+            menu.AddSeparator();
+            break;
+        default:
+            menu.Clear();
         }
         QVERIFY(!former);
         if (change == 2) {

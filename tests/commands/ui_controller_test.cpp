@@ -25,9 +25,11 @@ public:
     void Validate(QSet<QString>&) override { m_log.append(GetLayout()->GetName() + " validate"); }
     bool IsActive() const override { return false; }
     ovk::UiProfileItem* Clone() const override { return new SpySuite(GetName(), m_log); }
-    ovk::UiProfileItem* ForEach(std::function<bool(ovk::UiProfileItem*)>) override { return nullptr; }
-    const ovk::UiProfileItem*
-    ForEach(std::function<bool(const ovk::UiProfileItem*)>) const override
+    ovk::UiProfileItem* ForEach(std::function<bool(ovk::UiProfileItem*)>) override
+    {
+        return nullptr;
+    }
+    const ovk::UiProfileItem* ForEach(std::function<bool(const ovk::UiProfileItem*)>) const override
     {
         return nullptr;
     }
@@ -281,8 +283,9 @@ private Q_SLOTS:
         {
             FakeHost host;
             host.Start();
-            path = host.Profiles().GetBinaryFilePath(
-                DataHome() + "/data/" + QCoreApplication::applicationName() + "/GuiProfiles/0.0.0.0");
+            path = host.Profiles().GetBinaryFilePath(DataHome() + "/data/" +
+                                                     QCoreApplication::applicationName() +
+                                                     "/GuiProfiles/0.0.0.0");
             QVERIFY2(QFile::exists(path), qPrintable(path));
             QVERIFY(QFile::remove(path));
             host.Shutdown();

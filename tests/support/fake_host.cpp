@@ -134,7 +134,8 @@ QJsonObject SmallProfile()
 class FakeHost::Frame : public ovk::Application
 {
 public:
-    Frame(const QJsonObject& catalogue, const QJsonObject& profile) : m_files(Files(catalogue, profile))
+    Frame(const QJsonObject& catalogue, const QJsonObject& profile)
+        : m_files(Files(catalogue, profile))
     {
     }
 
@@ -157,7 +158,7 @@ private:
 
 FakeHost::FakeHost(const QJsonObject& catalogue, const QJsonObject& profile, const QString& product)
     : mp_frame(std::make_unique<Frame>(catalogue, profile)),
-      mp_controller(new ovk::UiController),       // the RootController's
+      mp_controller(new ovk::UiController),      // the RootController's
       mp_profiles(new ovk::UiProfileController), // the RootController's
       mp_features(std::make_unique<ovk::UiFeaturesController>())
 {
@@ -167,6 +168,14 @@ FakeHost::FakeHost(const QJsonObject& catalogue, const QJsonObject& profile, con
     mp_features->LoadDefinitions(product);
     mp_features->AddSubFactory(&factory);
     mp_profiles->SetProductName(product);
+}
+
+std::unique_ptr<FakeHost> FakeHost::WithBareLayouts()
+{
+    auto host = std::make_unique<FakeHost>(SmallCatalogue(), QJsonObject());
+    for (const char* const layout : {"Model", "Slice", "Foreign"})
+        host->Profile().GetOrCreateLayout(QString::fromLatin1(layout));
+    return host;
 }
 
 FakeHost::~FakeHost()

@@ -162,6 +162,9 @@ public:
     explicit FakeHost(const QJsonObject& catalogue = SmallCatalogue(),
                       const QJsonObject& profile = SmallProfile(),
                       const QString& product = QStringLiteral("Fake"));
+    /// A host that is not started, whose profile has the layouts "Model", "Slice" and "Foreign" (of
+    /// which the catalogue knows nothing), with nothing on them.
+    static std::unique_ptr<FakeHost> WithBareLayouts();
     ~FakeHost();
     FakeHost(const FakeHost&) = delete;
     FakeHost& operator=(const FakeHost&) = delete;

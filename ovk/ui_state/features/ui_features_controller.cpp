@@ -27,8 +27,8 @@ UiFeaturesController* g_instance = nullptr;
 
 QString DefinitionPath()
 {
-    return QStringLiteral(":/%1.%2")
-        .arg(QStringLiteral("features.definition.default"), QStringLiteral("json"));
+    return QStringLiteral(":/%1.%2").arg(QStringLiteral("features.definition.default"),
+                                         QStringLiteral("json"));
 }
 
 UiLayout* ActiveLayout()
@@ -134,8 +134,8 @@ public:
     std::shared_ptr<const CycleCommands> Cycle(const UiFeatureLayout& layout)
     {
         const quint64 generation = impl::CommandsGeneration();
-        if (!cycle->IsCurrent(layout.GetName(), layout.GetCommandIds(), generation)
-            || HasNewAnswer(cycle->Unresolved())) {
+        if (!cycle->IsCurrent(layout.GetName(), layout.GetCommandIds(), generation) ||
+            HasNewAnswer(cycle->Unresolved())) {
             const QReadLocker locker(&lock);
             cycle = std::make_shared<const CycleCommands>(
                 layout.GetName(), layout.GetCommandIds(), generation,
@@ -290,8 +290,7 @@ UiCommand* UiFeaturesController::GetAvailableCommand(const QString& layout, cons
     return command && command->IsVisual() ? command : nullptr;
 }
 
-UiCommand* UiFeaturesController::GetAvailableCommandFromActiveLayout(const QString& id,
-                                                                     int variant)
+UiCommand* UiFeaturesController::GetAvailableCommandFromActiveLayout(const QString& id, int variant)
 {
     const UiLayout* const layout = ActiveLayout();
     return layout ? GetAvailableCommand(layout->GetName(), id, variant) : nullptr;
@@ -304,8 +303,8 @@ UiCommand* UiFeaturesController::GetLayoutCommand(const QString& layout, const Q
     if (!command || !_pr().product)
         return nullptr;
     const UiFeatureLayout* const definition = _pr().product->GetLayout(layout);
-    const bool listed = definition->HasCommand(command->GetId())
-                        || definition->HasCommand(command->GetDynamicContext());
+    const bool listed = definition->HasCommand(command->GetId()) ||
+                        definition->HasCommand(command->GetDynamicContext());
     return listed ? command : nullptr;
 }
 

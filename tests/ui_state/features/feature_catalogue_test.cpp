@@ -21,6 +21,13 @@ QJsonObject Json(const char* text)
     return QJsonDocument::fromJson(text).object();
 }
 
+class Renamable : public ovk::UiFeatureCommand
+{
+public:
+    using ovk::UiFeatureCommand::UiFeatureCommand;
+    using ovk::UiFeatureCommand::_SetName;
+};
+
 const QString g_definition = QStringLiteral("features.definition.default.json");
 
 } // namespace
@@ -114,6 +121,12 @@ private Q_SLOTS:
         QCOMPARE(commands.Find("A"), first);
         delete commands.RemoveChild(0);
         QVERIFY(!commands.Find("A"));
+        auto* const renamed = new Renamable(QString("B"));
+        commands.AppendChild(renamed);
+        QCOMPARE(commands.Find("B"), renamed);
+        renamed->_SetName("A");
+        QCOMPARE(commands.Find("A"), renamed);
+        QVERIFY(!commands.Find("B"));
     }
 
     void aCopiedListFindsItsOwnCommands()
