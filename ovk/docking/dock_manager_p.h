@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QtCore/QList>
+
+#include <memory>
+
+#include "ovk/docking/dock_area_p.h"
+#include "ovk/docking/dock_manager.h"
+
+namespace ovk {
+
+class DockDragController;
+
+/// The private part of the manager: the registry of areas and floating panels.
+class OVK_TEST_EXPORT DockManager::Impl : public DockArea::Impl
+{
+public:
+    Impl();
+    ~Impl() override;
+
+    DockManager* Manager() const { return static_cast<DockManager*>(window); }
+
+    void HidePanels(const QRect* limit);
+    /// Deletes a panel, or only retires it and deletes it later if one of docking's own callbacks
+    /// is running: the panel may be the one that called.
+    void DeletePanel(DockWidget* panel);
+    /// A name that no panel of the manager has, and none of the profile.
+    QString UniqueName() const;
+    /// Brings back panels that a screen took with it when it was unplugged.
+    void OnScreenRemoved();
+    /// States the rules between the lists, the flags of the panels and the sites. Empty if all
+    /// hold, else what is wrong.
+    QString CheckConsistency() const;
+
+    QList<DockWindow*> floating;
+    QList<DockArea*> areas;
+    QList<DockWindow*> hidden;
+    QList<DockWindow*> disabled;
+    std::unique_ptr<DockDragController> controller;
+    bool customization_enabled = true;
+    int callback_depth = 0;
+};
+
+/// While it lives, docking runs code of the host, or was entered from an event of one of its own
+/// widgets: a panel must not be deleted on the spot.
+class DockCallbackScope
+{
+public:
+    explicit DockCallbackScope(DockManager* manager);
+    ~DockCallbackScope();
+    DockCallbackScope(const DockCallbackScope&) = delete;
+    DockCallbackScope& operator=(const DockCallbackScope&) = delete;
+
+private:
+    QPointer<DockManager> mp_manager;
+};
+
+} // namespace ovk

@@ -1,0 +1,254 @@
+#include "ovk/docking/dock_title_p.h"
+
+#include "ovk/core/icons_controller.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QStyle>
+
+#include <algorithm>
+
+namespace ovk {
+
+namespace {
+
+QIcon Icon(const char* name)
+{
+    return IconsController::Load(QString::fromLatin1(name));
+}
+
+} // namespace
+
+DockTitle::DockTitle(QWidget* parent) : QWidget(parent) {}
+
+void DockTitle::SetTitle(const QString& title)
+{
+    if (m_title == title)
+        return;
+    m_title = title;
+    updateGeometry();
+    update();
+}
+
+void DockTitle::AddLeft(QWidget* button)
+{
+    m_left.append(button);
+    LayoutButtons();
+}
+
+void DockTitle::AddRight(QWidget* button)
+{
+    m_right.append(button);
+    LayoutButtons();
+}
+
+int DockTitle::GetMargin() const
+{
+    return style()->pixelMetric(QStyle::PM_DockWidgetTitleMargin, nullptr, this);
+}
+
+int DockTitle::GetLeftExtent() const
+{
+    const int margin = GetMargin();
+    int extent = margin;
+    for (const QWidget* button : m_left)
+        extent += button->width() + margin;
+    return extent;
+}
+
+int DockTitle::GetRightExtent() const
+{
+    const int margin = GetMargin();
+    int extent = margin;
+    for (const QWidget* button : m_right) {
+        if (!button->isHidden())
+            extent += button->width() + margin;
+    }
+    return extent;
+}
+
+int DockTitle::GetTextWidth() const
+{
+    return fontMetrics().horizontalAdvance(m_title);
+}
+
+QSize DockTitle::sizeHint() const
+{
+    int height = fontMetrics().height();
+    for (const QWidget* button : m_right)
+        height = std::max(height, button->height());
+    return {QWidget::sizeHint().width(), height + 2 * GetMargin()};
+}
+
+void DockTitle::LayoutButtons()
+{
+    const int margin = GetMargin();
+    const auto place = [this, margin](QWidget* button, int x) {
+        const QRect rect(QPoint(x, margin), button->size());
+        button->move(QStyle::visualRect(layoutDirection(), this->rect(), rect).topLeft());
+    };
+    int x = margin;
+    for (QWidget* button : qAsConst(m_left)) {
+        place(button, x);
+        x += button->width() + margin;
+    }
+    x = width();
+    for (QWidget* button : qAsConst(m_right)) {
+        x -= button->width() + margin;
+        place(button, x);
+    }
+}
+
+void DockTitle::DrawText(QPainter& painter) const
+{
+    const int x = GetLeftExtent() + GetMargin();
+    const int baseline = GetMargin() + fontMetrics().height();
+    painter.setPen(palette().color(QPalette::WindowText));
+    if (isRightToLeft())
+        painter.drawText(QPoint(width() - x - GetTextWidth(), baseline), m_title);
+    else
+        painter.drawText(QPoint(x, baseline), m_title);
+}
+
+void DockTitle::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    DrawText(painter);
+}
+
+void DockTitle::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    LayoutButtons();
+}
+
+bool DockTitle::event(QEvent* event)
+{
+    const bool handled = QWidget::event(event);
+    switch (event->type()) {
+    case QEvent::StyleChange:
+    case QEvent::FontChange:
+    case QEvent::LayoutDirectionChange:
+        LayoutButtons();
+        updateGeometry();
+        update();
+        break;
+    default:
+        break;
+    }
+    return handled;
+}
+
+DockButton::DockButton(QWidget* parent) : QToolButton(parent)
+{
+    setAutoRaise(true);
+    setToolButtonStyle(Qt::ToolButtonIconOnly);
+    setFocusPolicy(Qt::NoFocus);
+    const int size = style()->pixelMetric(QStyle::PM_TabBarIconSize, nullptr, this);
+    setFixedSize(size, size);
+}
+
+QSize DockButton::sizeHint() const
+{
+    return maximumSize();
+}
+
+MinimizeButton::MinimizeButton(QWidget* parent) : DockButton(parent)
+{
+    SetCollapsed(false);
+}
+
+void MinimizeButton::SetCollapsed(bool collapsed)
+{
+    setIcon(Icon(collapsed ? "dockUnfold" : "dockFold"));
+}
+
+CollapsibleButton::CollapsibleButton(QWidget* parent) : DockButton(parent)
+{
+    SetCollapsible(true);
+}
+
+void CollapsibleButton::SetCollapsible(bool collapsible)
+{
+    setIcon(Icon(collapsible ? "dockUnpin" : "dockPin"));
+}
+
+CloseButton::CloseButton(QWidget* parent) : DockButton(parent)
+{
+    setIcon(style()->standardIcon(QStyle::SP_DockWidgetCloseButton, nullptr, this));
+}
+
+DockWidgetTitle::DockWidgetTitle(QWidget* parent)
+    : DockTitle(parent), mp_minimize(new MinimizeButton(this)),
+      mp_collapsible(new CollapsibleButton(this)), mp_close(new CloseButton(this))
+{
+    AddLeft(mp_minimize);
+    AddRight(mp_collapsible);
+    AddRight(mp_close);
+}
+
+QRect DockWidgetTitle::GripRect(const QSize& size, int margin, int left_extent, int text_width,
+                                int right_extent)
+{
+    const QRect rect(QPoint(0, 0), size);
+    const int top = (rect.bottom() - rect.top() - 5) / 2;
+    const int bottom = size.height() - top - 6;
+    return rect.adjusted(left_extent + 2 * margin + text_width, top, -right_extent, -bottom);
+}
+
+void DockWidgetTitle::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const QRect grip =
+        GripRect(size(), GetMargin(), GetLeftExtent(), GetTextWidth(), GetRightExtent());
+    if (grip.isValid()) {
+        painter.fillRect(QStyle::visualRect(layoutDirection(), rect(), grip),
+                         QBrush(palette().color(QPalette::WindowText), Qt::Dense6Pattern));
+    }
+    DrawText(painter);
+}
+
+AreaMinimizeButton::AreaMinimizeButton(QWidget* parent) : DockButton(parent)
+{
+    setIcon(style()->standardIcon(QStyle::SP_TitleBarMinButton, nullptr, this));
+}
+
+AreaMaximizeButton::AreaMaximizeButton(QWidget* parent) : DockButton(parent)
+{
+    SetMaximized(false);
+}
+
+void AreaMaximizeButton::SetMaximized(bool maximized)
+{
+    setIcon(style()->standardIcon(
+        maximized ? QStyle::SP_TitleBarNormalButton : QStyle::SP_TitleBarMaxButton, nullptr, this));
+}
+
+AreaCloseButton::AreaCloseButton(QWidget* parent) : DockButton(parent)
+{
+    setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton, nullptr, this));
+}
+
+DockSiteTitle::DockSiteTitle(QWidget* parent)
+    : DockTitle(parent), mp_minimize(new AreaMinimizeButton(this)),
+      mp_maximize(new AreaMaximizeButton(this)), mp_close(new AreaCloseButton(this))
+{
+    AddRight(mp_minimize);
+    AddRight(mp_maximize);
+    AddRight(mp_close);
+    connect(mp_minimize, &QToolButton::clicked, this,
+            [this] { parentWidget()->setWindowState(Qt::WindowMinimized); });
+    connect(mp_maximize, &QToolButton::clicked, this, &DockSiteTitle::ToggleMaximized);
+    connect(mp_close, &QToolButton::clicked, this, [this] { parentWidget()->deleteLater(); });
+}
+
+void DockSiteTitle::ToggleMaximized()
+{
+    const bool maximize = parentWidget()->windowState() != Qt::WindowMaximized;
+    parentWidget()->setWindowState(maximize ? Qt::WindowMaximized : Qt::WindowNoState);
+    if (mp_maximize)
+        mp_maximize->SetMaximized(maximize);
+}
+
+} // namespace ovk
+
+#include "moc_dock_title_p.cpp"

@@ -1,0 +1,165 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QPointer>
+#include <QtCore/QString>
+#include <QtWidgets/QToolButton>
+#include <QtWidgets/QWidget>
+
+#include <ovk/core/export.h>
+
+namespace ovk {
+
+/// A title bar: a text with buttons before and behind it.
+class OVK_TEST_EXPORT DockTitle : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DockTitle(QWidget* parent);
+
+    void SetTitle(const QString& title);
+    const QString& GetTitle() const { return m_title; }
+
+    /// Buttons are children of the title. The left ones come from the leading edge inward, the
+    /// right ones from the other edge, each in the order in which they were added.
+    void AddLeft(QWidget* button);
+    void AddRight(QWidget* button);
+    const QList<QWidget*>& GetLeft() const { return m_left; }
+    const QList<QWidget*>& GetRight() const { return m_right; }
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool event(QEvent* event) override;
+
+    int GetMargin() const;
+    int GetLeftExtent() const;
+    int GetRightExtent() const;
+    int GetTextWidth() const;
+    void DrawText(QPainter& painter) const;
+
+private:
+    void LayoutButtons();
+
+    QString m_title;
+    QList<QWidget*> m_left;
+    QList<QWidget*> m_right;
+};
+
+/// A small flat button of a title.
+class OVK_TEST_EXPORT DockButton : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    explicit DockButton(QWidget* parent);
+
+    QSize sizeHint() const override;
+};
+
+/// Folds and opens a panel.
+class OVK_TEST_EXPORT MinimizeButton : public DockButton
+{
+    Q_OBJECT
+
+public:
+    explicit MinimizeButton(QWidget* parent);
+    void SetCollapsed(bool collapsed);
+};
+
+/// Pins a panel, so that it cannot be folded.
+class OVK_TEST_EXPORT CollapsibleButton : public DockButton
+{
+    Q_OBJECT
+
+public:
+    explicit CollapsibleButton(QWidget* parent);
+    void SetCollapsible(bool collapsible);
+};
+
+/// Closes a panel.
+class OVK_TEST_EXPORT CloseButton : public DockButton
+{
+    Q_OBJECT
+
+public:
+    explicit CloseButton(QWidget* parent);
+};
+
+/// The title of a panel, with a grip between text and buttons.
+class OVK_TEST_EXPORT DockWidgetTitle : public DockTitle
+{
+    Q_OBJECT
+
+public:
+    explicit DockWidgetTitle(QWidget* parent);
+
+    MinimizeButton* GetMinimizeButton() const { return mp_minimize; }
+    CollapsibleButton* GetCollapsibleButton() const { return mp_collapsible; }
+    CloseButton* GetCloseButton() const { return mp_close; }
+
+    /// The part of a title of that size that the grip fills.
+    static QRect GripRect(const QSize& size, int margin, int left_extent, int text_width,
+                          int right_extent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    MinimizeButton* mp_minimize;
+    CollapsibleButton* mp_collapsible;
+    CloseButton* mp_close;
+};
+
+/// Minimises the window of an area.
+class OVK_TEST_EXPORT AreaMinimizeButton : public DockButton
+{
+    Q_OBJECT
+
+public:
+    explicit AreaMinimizeButton(QWidget* parent);
+};
+
+/// Maximises the window of an area and puts it back.
+class OVK_TEST_EXPORT AreaMaximizeButton : public DockButton
+{
+    Q_OBJECT
+
+public:
+    explicit AreaMaximizeButton(QWidget* parent);
+    void SetMaximized(bool maximized);
+};
+
+/// Deletes an area.
+class OVK_TEST_EXPORT AreaCloseButton : public DockButton
+{
+    Q_OBJECT
+
+public:
+    explicit AreaCloseButton(QWidget* parent);
+};
+
+/// The title of an area. Its buttons act on the parent widget.
+class OVK_TEST_EXPORT DockSiteTitle : public DockTitle
+{
+    Q_OBJECT
+
+public:
+    explicit DockSiteTitle(QWidget* parent);
+
+    void ToggleMaximized();
+
+    AreaMinimizeButton* GetMinimizeButton() const { return mp_minimize; }
+    AreaMaximizeButton* GetMaximizeButton() const { return mp_maximize; }
+    AreaCloseButton* GetCloseButton() const { return mp_close; }
+
+private:
+    QPointer<AreaMinimizeButton> mp_minimize;
+    QPointer<AreaMaximizeButton> mp_maximize;
+    QPointer<AreaCloseButton> mp_close;
+};
+
+} // namespace ovk

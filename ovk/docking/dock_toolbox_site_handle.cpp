@@ -1,0 +1,154 @@
+#include "ovk/docking/dock_toolbox_site_handle_p.h"
+
+#include "ovk/core/icons_controller.h"
+#include "ovk/docking/dock_toolbox_site_p.h"
+#include "ovk/docking/dock_widget.h"
+
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QToolButton>
+
+namespace ovk {
+
+namespace {
+
+constexpr int c_thickness = 5;
+constexpr int c_button_length = 17;
+
+QIcon Icon(const char* name)
+{
+    return IconsController::Load(QString::fromLatin1(name));
+}
+
+} // namespace
+
+DockToolboxSiteHandle::DockToolboxSiteHandle(QWidget* parent)
+    : QWidget(parent), mp_button(new QToolButton(this))
+{
+    mp_button->setAutoRaise(true);
+    mp_button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    mp_button->setFocusPolicy(Qt::NoFocus);
+}
+
+DockToolboxSiteHandle::~DockToolboxSiteHandle() = default;
+
+void DockToolboxSiteHandle::Init(DockToolboxSite* site)
+{
+    mp_site = site;
+    mp_button->setFixedSize(GetButtonSize());
+    mp_button->setIconSize(GetButtonSize());
+    mp_button->setCursor(Qt::ArrowCursor);
+    setCursor(GetCursor());
+    connect(mp_button, &QToolButton::clicked, this,
+            [this] { mp_site->SetMinimized(!mp_site->IsMinimized()); });
+    Update();
+}
+
+void DockToolboxSiteHandle::Update()
+{
+    mp_button->setIcon(GetIcon());
+    if (!mp_site->IsMinimized() && !mp_site->_pp()->HasVisibleItem())
+        hide();
+    else
+        setVisible(mp_site->count() > 1 && mp_site->IsMinimizeAvailable());
+}
+
+bool DockToolboxSiteHandle::IsSiteMinimized() const
+{
+    return mp_site && mp_site->IsMinimized();
+}
+
+int DockToolboxSiteHandle::Along(const QMouseEvent& event) const
+{
+    return mp_site->IsVertical() ? event.x() : event.y();
+}
+
+void DockToolboxSiteHandle::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    m_press_pos = Along(*event);
+    m_pressed = true;
+    update();
+}
+
+void DockToolboxSiteHandle::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons() & Qt::LeftButton)
+        mp_site->_pp()->ResizeBy(Along(*event) - m_press_pos);
+}
+
+void DockToolboxSiteHandle::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_pressed = false;
+    update();
+}
+
+QSize DockToolboxSiteHandleHorizontal::sizeHint() const
+{
+    return {c_thickness, 0};
+}
+
+QCursor DockToolboxSiteHandleHorizontal::GetCursor() const
+{
+    return Qt::SplitHCursor;
+}
+
+QSize DockToolboxSiteHandleHorizontal::GetButtonSize() const
+{
+    return {c_thickness, c_button_length};
+}
+
+void DockToolboxSiteHandleHorizontal::resizeEvent(QResizeEvent* event)
+{
+    DockToolboxSiteHandle::resizeEvent(event);
+    GetButton()->move(0, (height() - GetButton()->height()) / 2);
+}
+
+QSize DockToolboxSiteHandleVertical::sizeHint() const
+{
+    return {0, c_thickness};
+}
+
+QCursor DockToolboxSiteHandleVertical::GetCursor() const
+{
+    return Qt::SplitVCursor;
+}
+
+QSize DockToolboxSiteHandleVertical::GetButtonSize() const
+{
+    return {c_button_length, c_thickness};
+}
+
+void DockToolboxSiteHandleVertical::resizeEvent(QResizeEvent* event)
+{
+    DockToolboxSiteHandle::resizeEvent(event);
+    GetButton()->move((width() - GetButton()->width()) / 2, 0);
+}
+
+QIcon DockToolboxSiteHandleLeft::GetIcon() const
+{
+    return Icon(IsSiteMinimized() ? "DockCollapseRight" : "DockCollapseLeft");
+}
+
+QIcon DockToolboxSiteHandleRight::GetIcon() const
+{
+    return Icon(IsSiteMinimized() ? "DockCollapseLeft" : "DockCollapseRight");
+}
+
+QIcon DockToolboxSiteHandleTop::GetIcon() const
+{
+    return Icon(IsSiteMinimized() ? "DockCollapseDown" : "DockCollapseUp");
+}
+
+QIcon DockToolboxSiteHandleBottom::GetIcon() const
+{
+    return Icon(IsSiteMinimized() ? "DockCollapseUp" : "DockCollapseDown");
+}
+
+} // namespace ovk
+
+#include "moc_dock_toolbox_site_handle_p.cpp"
