@@ -1,0 +1,232 @@
+#include "ribbon_style.h"
+
+#include "draw_helpers.h"
+#include "ribbon_style_draw_p.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTextEdit>
+
+namespace Qtitan {
+
+using style_draw::Canvas;
+
+namespace {
+
+/// Lengths that are the same in every theme, in pixels at 96 dpi.
+struct Metric
+{
+    QStyle::PixelMetric metric;
+    int length;
+};
+
+constexpr Metric Metrics[] = {
+    {QStyle::PM_DefaultFrameWidth, 1},
+    {QStyle::PM_IndicatorWidth, 13},
+    {QStyle::PM_IndicatorHeight, 13},
+    {QStyle::PM_ExclusiveIndicatorWidth, 13},
+    {QStyle::PM_ExclusiveIndicatorHeight, 13},
+    {QStyle::PM_ScrollBarExtent, 16},
+    {QStyle::PM_ScrollBarSliderMin, 20},
+    {QStyle::PM_SplitterWidth, 5},
+    {QStyle::PM_DockWidgetSeparatorExtent, 5},
+    {QStyle::PM_DockWidgetFrameWidth, 1},
+    {QStyle::PM_DockWidgetTitleMargin, 4},
+    {QStyle::PM_ToolBarHandleExtent, 9},
+    {QStyle::PM_ToolBarSeparatorExtent, 7},
+    {QStyle::PM_ToolBarItemMargin, 2},
+    {QStyle::PM_ToolBarItemSpacing, 1},
+    {QStyle::PM_ToolBarFrameWidth, 1},
+    {QStyle::PM_MenuPanelWidth, 1},
+    {QStyle::PM_MenuHMargin, 1},
+    {QStyle::PM_MenuVMargin, 1},
+    {QStyle::PM_MenuButtonIndicator, 13},
+    {QStyle::PM_ButtonShiftHorizontal, 0},
+    {QStyle::PM_ButtonShiftVertical, 0},
+    {QStyle::PM_TabBarTabShiftHorizontal, 0},
+    {QStyle::PM_TabBarTabShiftVertical, 0},
+    {QStyle::PM_TabBarTabOverlap, 0},
+    {QStyle::PM_TabBarBaseOverlap, 1},
+    {QStyle::PM_TabBarTabHSpace, 20},
+    {QStyle::PM_TabBarTabVSpace, 9},
+    {QStyle::PM_ToolTipLabelFrameWidth, 2},
+};
+
+/// The pictures of an office suite: 16 and 32, growing in the steps that icons are drawn for.
+bool IsSmallIcon(QStyle::PixelMetric metric)
+{
+    return metric == QStyle::PM_SmallIconSize || metric == QStyle::PM_ButtonIconSize
+           || metric == QStyle::PM_ToolBarIconSize || metric == QStyle::PM_TabBarIconSize
+           || metric == QStyle::PM_ListViewIconSize;
+}
+
+bool IsLargeIcon(QStyle::PixelMetric metric)
+{
+    return metric == QStyle::PM_LargeIconSize || metric == QStyle::PM_IconViewIconSize;
+}
+
+/// The widgets that show the pointer over them, beyond those that the base sees to.
+QWidget* HoverTarget(QWidget* widget)
+{
+    if (auto* view = qobject_cast<QAbstractItemView*>(widget))
+        return view->viewport();
+    if (qobject_cast<QLineEdit*>(widget) || qobject_cast<QTabBar*>(widget)
+        || qobject_cast<QTextEdit*>(widget) || qobject_cast<QPlainTextEdit*>(widget))
+        return widget;
+    return nullptr;
+}
+
+} // namespace
+
+RibbonStyle::RibbonStyle() = default;
+
+RibbonStyle::~RibbonStyle() = default;
+
+void RibbonStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const
+{
+    if (!option || !painter)
+        return;
+    const Canvas canvas{baseStyle(), option, painter, widget, ribbonTheme()};
+    if (style_draw::DrawFramePrimitive(element, canvas) || style_draw::DrawButtonPrimitive(element, canvas)
+        || style_draw::DrawMarkPrimitive(element, canvas) || style_draw::DrawItemPrimitive(element, canvas))
+        return;
+    OfficeStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void RibbonStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const
+{
+    if (!option || !painter)
+        return;
+    const Canvas canvas{baseStyle(), option, painter, widget, ribbonTheme()};
+    if (style_draw::DrawItemControl(element, canvas) || style_draw::DrawMenuControl(element, canvas)
+        || style_draw::DrawTabControl(element, canvas) || style_draw::DrawButtonControl(element, canvas)
+        || style_draw::DrawBarControl(element, canvas))
+        return;
+    OfficeStyle::drawControl(element, option, painter, widget);
+}
+
+void RibbonStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                     QPainter* painter, const QWidget* widget) const
+{
+    if (!option || !painter)
+        return;
+    const Canvas canvas{baseStyle(), option, painter, widget, ribbonTheme()};
+    if (style_draw::DrawField(control, canvas) || style_draw::DrawSlider(control, canvas)
+        || style_draw::DrawToolButton(control, canvas))
+        return;
+    OfficeStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QSize RibbonStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                    const QWidget* widget) const
+{
+    switch (type) {
+    case CT_MenuItem:
+        if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))
+            return style_draw::MenuItemSize(*item, size, widget);
+        break;
+    case CT_PushButton: {
+        QSize result = OfficeStyle::sizeFromContents(type, option, size, widget);
+        const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+        if (button && !button->text.isEmpty() && !(button->features & QStyleOptionButton::Flat))
+            result.setWidth(std::max(result.width(), style_draw::Px(widget, 75)));
+        return result;
+    }
+    default:
+        break;
+    }
+    return OfficeStyle::sizeFromContents(type, option, size, widget);
+}
+
+QRect RibbonStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                  const QWidget* widget) const
+{
+    return OfficeStyle::subElementRect(element, option, widget);
+}
+
+QRect RibbonStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                  SubControl sub_control, const QWidget* widget) const
+{
+    return OfficeStyle::subControlRect(control, option, sub_control, widget);
+}
+
+int RibbonStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    const qreal scale = style_draw::Scale(widget);
+    if (IsSmallIcon(metric))
+        return DrawHelpers::smallIconSize(96 * scale);
+    if (IsLargeIcon(metric))
+        return DrawHelpers::largeIconSize(96 * scale);
+    for (const Metric& own : Metrics) {
+        if (own.metric == metric)
+            // Frames are hair lines at every resolution below double.
+            return own.length == 1 ? std::max(1, static_cast<int>(scale)) : qRound(own.length * scale);
+    }
+    return OfficeStyle::pixelMetric(metric, option, widget);
+}
+
+int RibbonStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* data) const
+{
+    switch (hint) {
+    case SH_ComboBox_Popup:
+    case SH_EtchDisabledText:
+    case SH_ToolTip_Mask:
+    case SH_Menu_Mask:
+    case SH_DockWidget_ButtonsHaveFrame:
+    case SH_ScrollBar_Transient:
+        return 0;
+    case SH_ItemView_ShowDecorationSelected:
+    case SH_Menu_SupportsSections:
+    case SH_Menu_MouseTracking:
+    case SH_MenuBar_MouseTracking:
+    case SH_ComboBox_ListMouseTracking:
+        return 1;
+    case SH_ToolTipLabel_Opacity:
+        return 255;
+    default:
+        return OfficeStyle::styleHint(hint, option, widget, data);
+    }
+}
+
+QIcon RibbonStyle::standardIcon(StandardPixmap pixmap, const QStyleOption* option,
+                                const QWidget* widget) const
+{
+    const QIcon icon = style_draw::GlyphIcon(pixmap);
+    return icon.isNull() ? OfficeStyle::standardIcon(pixmap, option, widget) : icon;
+}
+
+QPixmap RibbonStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* option,
+                                    const QWidget* widget) const
+{
+    const QIcon icon = style_draw::GlyphIcon(pixmap);
+    if (icon.isNull())
+        return OfficeStyle::standardPixmap(pixmap, option, widget);
+    const int extent = pixelMetric(PM_SmallIconSize, option, widget);
+    return icon.pixmap(extent, extent);
+}
+
+void RibbonStyle::polish(QWidget* widget)
+{
+    OfficeStyle::polish(widget);
+    if (QWidget* target = HoverTarget(widget))
+        target->setAttribute(Qt::WA_Hover, true);
+}
+
+void RibbonStyle::unpolish(QWidget* widget)
+{
+    if (QWidget* target = HoverTarget(widget))
+        target->setAttribute(Qt::WA_Hover, false);
+    OfficeStyle::unpolish(widget);
+}
+
+} // namespace Qtitan
+
+#include "moc_ribbon_style.cpp"

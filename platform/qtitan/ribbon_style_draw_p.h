@@ -1,0 +1,74 @@
+#pragma once
+
+#include "ribbon_theme_p.h"
+
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+
+class QWidget;
+
+namespace Qtitan {
+namespace style_draw {
+
+/// What one drawing call of a style is about.
+struct Canvas
+{
+    const QStyle* style; ///< the base style, for what is not ours
+    const QStyleOption* option;
+    QPainter* painter;
+    const QWidget* widget;
+    const RibbonTheme& theme;
+
+    bool has(QStyle::StateFlag flag) const { return option->state & flag; }
+    bool enabled() const { return option->state & QStyle::State_Enabled; }
+    bool hovered() const { return enabled() && (option->state & QStyle::State_MouseOver); }
+    bool rightToLeft() const { return option->direction == Qt::RightToLeft; }
+    const QRect& rect() const { return option->rect; }
+    const ThemeLook& look(Element element) const { return theme[element]; }
+};
+
+/// \name Each draws its element and returns true, or returns false for one that is not ours.
+/// \{
+bool DrawButtonPrimitive(QStyle::PrimitiveElement element, const Canvas& canvas);
+bool DrawFramePrimitive(QStyle::PrimitiveElement element, const Canvas& canvas);
+bool DrawMarkPrimitive(QStyle::PrimitiveElement element, const Canvas& canvas);
+bool DrawItemPrimitive(QStyle::PrimitiveElement element, const Canvas& canvas);
+bool DrawButtonControl(QStyle::ControlElement element, const Canvas& canvas);
+bool DrawMenuControl(QStyle::ControlElement element, const Canvas& canvas);
+bool DrawTabControl(QStyle::ControlElement element, const Canvas& canvas);
+bool DrawItemControl(QStyle::ControlElement element, const Canvas& canvas);
+bool DrawBarControl(QStyle::ControlElement element, const Canvas& canvas);
+bool DrawField(QStyle::ComplexControl control, const Canvas& canvas);
+bool DrawSlider(QStyle::ComplexControl control, const Canvas& canvas);
+bool DrawToolButton(QStyle::ComplexControl control, const Canvas& canvas);
+/// \}
+
+/// The size of a menu's item for its text's size.
+QSize MenuItemSize(const QStyleOptionMenuItem& item, const QSize& contents, const QWidget* widget);
+
+/// Logical dots per inch / 96, of the widget's screen or of the first one.
+qreal Scale(const QWidget* widget);
+int Px(const QWidget* widget, int length);
+
+/// The element for a push button, a field and a check box in the option's state.
+Element PushButtonElement(const Canvas& canvas);
+Element FieldElement(const Canvas& canvas);
+Element BoxElement(const Canvas& canvas);
+
+/// Draws the ground of a look as something that can be pressed.
+void DrawPanel(const Canvas& canvas, const QRect& rect, const ThemeLook& look, int radius);
+
+/// Fills with a look as a wide ground, along the height or along the width.
+void FillGround(const Canvas& canvas, const QRect& rect, const ThemeLook& look,
+                Qt::Orientation orientation = Qt::Horizontal);
+
+/// The palette with `role` set to the look's text in every state.
+QPalette TextPalette(const QPalette& palette, QPalette::ColorRole role, const ThemeLook& look);
+
+/// An icon that draws itself in the theme's colours whenever it is asked, so that it follows a
+/// change of theme; null for pictures that are not ours.
+QIcon GlyphIcon(QStyle::StandardPixmap pixmap);
+
+} // namespace style_draw
+} // namespace Qtitan
