@@ -156,7 +156,8 @@ Qtitan::RibbonPage* UiStateRibbonPage::GetWidget()
 
 void UiStateRibbonPage::UpdateVisibility()
 {
-    if (_pr().mp_widget)
+    // A page that is out of the bar would show up on top of it.
+    if (_pr().mp_widget && _pr().mp_bar)
         _pr().mp_widget->setVisible(IsShown());
 }
 
@@ -202,7 +203,7 @@ bool UiStateRibbonPage::CheckConsistency() const
         if (IsActive() && _pr().mp_widget && group->IsActive())
             consistent = consistent && group->_pr().mp_page == _pr().mp_widget;
     }
-    if (!IsActive() || !_pr().mp_widget)
+    if (!IsActive() || !_pr().mp_widget || !_pr().mp_bar)
         return consistent;
     return consistent && _pr().mp_widget->title() == LiveTitle(GetTitle()) &&
            _pr().mp_widget->isHidden() != IsShown();
@@ -214,7 +215,7 @@ void UiStateRibbonPage::_OnChangeVisibility(bool visible)
         return;
     if (visible)
         _pr().data.available = true;
-    if (_pr().mp_widget)
+    if (_pr().mp_widget && _pr().mp_bar)
         _pr().mp_widget->setVisible(visible && IsAvailable());
 }
 
