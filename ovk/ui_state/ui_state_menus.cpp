@@ -26,8 +26,12 @@ const QString& UiStateMenus::GetSuiteName()
 
 void UiStateMenus::InsertMenu(UiStateMenu* menu, int index)
 {
-    if (menu && GetIndexOf(menu) < 0)
-        InsertChild(index, menu);
+    if (!menu || GetIndexOf(menu) >= 0)
+        return;
+    InsertChild(index, menu);
+    // From then on its spots are validated with the others.
+    if (IsActive())
+        menu->Activate(amOrdinary);
 }
 
 bool UiStateMenus::IsMenuAutosize() const

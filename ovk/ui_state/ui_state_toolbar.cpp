@@ -46,6 +46,7 @@ public:
     ~Impl() override { delete mp_widget; }
 
     void CreateWidget(WorkArea& workArea);
+    void UpdateTitle();
     void ClaimName(WorkArea& workArea);
 
     QString m_title;
@@ -54,13 +55,16 @@ public:
     bool m_movable = true;
     int m_area = Qt::TopToolBarArea;
     QPointer<QToolBar> mp_widget;
+    /// What the widget was last given, which may be a translation of the title.
+    QString m_live_title;
     /// The spots changed while the bar was not on screen.
     bool m_stale = false;
 };
 
 void UiStateToolbar::Impl::CreateWidget(WorkArea& workArea)
 {
-    mp_widget = new QToolBar(owner().GetTitle(), nullptr);
+    m_live_title = owner().GetTitle();
+    mp_widget = new QToolBar(m_live_title, nullptr);
     mp_widget->setObjectName(owner().GetName());
     if (m_floating && m_movable) {
         workArea.addToolBar(mp_widget);
@@ -71,6 +75,12 @@ void UiStateToolbar::Impl::CreateWidget(WorkArea& workArea)
     }
     FillToolBar(owner(), *mp_widget);
     m_stale = false;
+}
+
+void UiStateToolbar::Impl::UpdateTitle()
+{
+    m_live_title = owner().GetTitle();
+    mp_widget->setWindowTitle(m_live_title);
 }
 
 /// Several layouts may hold a bar of the same identifier, and the main window tells bars apart by
@@ -117,7 +127,7 @@ void UiStateToolbar::SetTitle(const QString& title)
     _SetChangedByUser(true);
     _pr().m_title = title;
     if (IsActive() && _pr().mp_widget)
-        _pr().mp_widget->setWindowTitle(title);
+        _pr().UpdateTitle();
 }
 
 void UiStateToolbar::SetMovable(bool movable)
@@ -244,6 +254,7 @@ void UiStateToolbar::_Activate(ActivationMode)
         _pr().m_stale = false;
     }
     _pr().ClaimName(*work_area);
+    _pr().UpdateTitle();
     _pr().mp_widget->setMovable(_pr().m_movable);
     _pr().mp_widget->setVisible(IsVisible());
 }
@@ -261,12 +272,22 @@ void UiStateToolbar::_Store()
     if (!bar || !work_area)
         return;
     // What the bar shows may be a translation of the title, which must not take its place.
-    if (bar->windowTitle() != GetTitle())
+    if (bar->windowTitle() != _pr().m_live_title) {
         _pr().m_title = bar->windowTitle();
+        _pr().m_live_title = _pr().m_title;
+    }
     _pr().m_area = work_area->toolBarArea(bar);
     _pr().m_break = work_area->toolBarBreak(bar);
     _pr().m_floating = bar->isFloating();
     _pr().m_movable = bar->isMovable();
+}
+
+void UiStateToolbar::_Validate(QSet<QString>& changed)
+{
+    // The language may have changed. A title that was given to the bar alone waits to be stored.
+    if (_pr().mp_widget && _pr().mp_widget->windowTitle() == _pr().m_live_title)
+        _pr().UpdateTitle();
+    UiStateCommandSpots::_Validate(changed);
 }
 
 } // namespace ovk

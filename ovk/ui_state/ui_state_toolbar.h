@@ -54,6 +54,8 @@ protected:
     void _Deactivate(ActivationMode mode) override;
     /// Takes title and placement from the live bar.
     void _Store() override;
+    /// Brings the title up to date with the language, then validates the spots.
+    void _Validate(QSet<QString>& changed) override;
 
 private:
     class Impl;
