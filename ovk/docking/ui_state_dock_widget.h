@@ -3,6 +3,8 @@
 #include <QtCore/QPointer>
 #include <QtCore/QRect>
 
+#include <vector>
+
 #include <ovk/docking/dock_widget.h>
 #include <ovk/ui_state/t_ui_state.h>
 
@@ -71,9 +73,11 @@ protected:
     QString _GetSubitemsTag() const override;
     /// Makes the panel and lets it float. The panels of sites are made by their site instead.
     void _Activate(ActivationMode mode) override;
-    void _Deactivate(ActivationMode mode) override;
 
 private:
+    struct Flag;
+
+    static const std::vector<Flag>& _Flags();
     void _AddPages(DockWidget& panel);
 
     QPointer<DockWidget> mp_widget;

@@ -1,0 +1,265 @@
+#include "ovk/docking/ui_state_dock_widget.h"
+
+#include "ovk/commands/widget_factory.h"
+#include "ovk/docking/dock_manager.h"
+#include "ovk/docking/dock_page.h"
+#include "ovk/docking/dock_widget_p.h"
+#include "ovk/docking/ui_state_dock_live_p.h"
+#include "ovk/docking/ui_state_docking.h"
+
+#include <QtCore/QCoreApplication>
+
+namespace ovk {
+
+namespace {
+
+constexpr const char* c_panel_context = "toolsheets";
+constexpr const char* c_page_context = "toolpages";
+
+const QLatin1String c_key_spacer("is_spacer");
+const QLatin1String c_key_width("width");
+const QLatin1String c_key_height("height");
+const QLatin1String c_key_top("top");
+const QLatin1String c_key_left("left");
+const QLatin1String c_key_title("title");
+
+const QLatin1String c_spacer_id("vor.spacer");
+
+QString TitleOf(const ITreeItem* node, const QString& id)
+{
+    const UiStateDocking* const root = UiStateDocking::FindRoot(node);
+    return root ? root->GetTitle(id) : QString();
+}
+
+void KeepTitle(ITreeItem* node, const QString& id, const QString& title)
+{
+    if (UiStateDocking* const root = UiStateDocking::FindRoot(node))
+        root->SetTitle(id, title);
+}
+
+QString Translated(const char* context, const QString& title, const QString& disambiguation)
+{
+    if (title.isEmpty())
+        return title;
+    const QByteArray hint = disambiguation.toUtf8();
+    return QCoreApplication::translate(context, title.toUtf8().constData(),
+                                       hint.isEmpty() ? nullptr : hint.constData());
+}
+
+QString NameOf(const QWidget* widget)
+{
+    return qobject_cast<const DockWidget*>(widget) ? widget->objectName() : QString(c_spacer_id);
+}
+
+} // namespace
+
+UiStateDockPage::UiStateDockPage(const QString& id) : UiStateItem(id) {}
+
+UiStateDockPage::UiStateDockPage(const QJsonObject& json) : UiStateItem(json) {}
+
+UiStateDockPage::UiStateDockPage(const DockWidget& panel, const QWidget& page)
+    : UiStateItem(page.objectName())
+{
+    SetVisible(!panel.IsExplicitlyHidden(&page));
+}
+
+UiStateDockPage::UiStateDockPage(const UiStateDockPage& other) = default;
+
+UiStateDockPage::~UiStateDockPage() = default;
+
+UiProfileItem* UiStateDockPage::Clone() const
+{
+    return new UiStateDockPage(*this);
+}
+
+QJsonObject UiStateDockPage::ToJson() const
+{
+    QJsonObject json = UiStateItem::ToJson();
+    json.insert(c_key_title, GetTitle());
+    return json;
+}
+
+bool UiStateDockPage::FromJson(const QJsonObject& json)
+{
+    KeepTitle(this, GetName(), json.value(c_key_title).toString());
+    return UiStateItem::FromJson(json);
+}
+
+QString UiStateDockPage::GetTitle() const
+{
+    return TitleOf(this, GetName());
+}
+
+QString UiStateDockPage::GetDisplayTitle() const
+{
+    return Translated(c_page_context, GetTitle(), GetName());
+}
+
+/// A field that is written only when it differs from its default.
+struct UiStateDockWidget::Flag
+{
+    QLatin1String key;
+    bool UiStateDockWidget::*field;
+    bool value;
+};
+
+const std::vector<UiStateDockWidget::Flag>& UiStateDockWidget::_Flags()
+{
+    static const std::vector<Flag> s_flags = {
+        {QLatin1String("title_visible"), &UiStateDockWidget::m_title_visible, true},
+        {QLatin1String("minimized"), &UiStateDockWidget::m_minimized, false},
+        {QLatin1String("minimizable"), &UiStateDockWidget::m_minimizable, true},
+        {QLatin1String("closeable"), &UiStateDockWidget::m_closeable, true},
+        {QLatin1String("movable"), &UiStateDockWidget::m_movable, true},
+    };
+    return s_flags;
+}
+
+UiStateDockWidget::UiStateDockWidget(const QString& id) : TUiState(id) {}
+
+UiStateDockWidget::UiStateDockWidget(const QJsonObject& json) : TUiState(json) {}
+
+UiStateDockWidget::UiStateDockWidget(QWidget* widget) : TUiState(NameOf(widget))
+{
+    auto* const panel = qobject_cast<DockWidget*>(widget);
+    if (!panel) {
+        m_spacer = true;
+        return;
+    }
+    mp_widget = panel;
+    SetPersistence(panel->IsDeleteOnEmpty() ? ipOrdinary : ipBuiltIn);
+    SetVisible(!panel->IsExplicitlyHidden());
+    // What folded for want of room is not the user's wish: it opens again where there is room.
+    m_minimized = panel->IsCollapsed() && !panel->IsForcedCollapsed();
+    m_minimizable = panel->IsCollapsible();
+    m_title_visible = panel->IsTitleEnabled();
+    m_movable = panel->IsMovable();
+    m_geometry = panel->geometry();
+    for (int i = 0; i < panel->GetCount(DockWidget::All); ++i)
+        AppendChild(new UiStateDockPage(*panel, *panel->GetPageAt(i, DockWidget::All)->GetWidget()));
+}
+
+UiStateDockWidget::UiStateDockWidget(const UiStateDockWidget& other) = default;
+
+UiStateDockWidget::~UiStateDockWidget() = default;
+
+QJsonObject UiStateDockWidget::ToJson() const
+{
+    QJsonObject json = TUiState::ToJson();
+    if (m_spacer) {
+        json.insert(c_key_spacer, true);
+        return json;
+    }
+    json.insert(c_key_width, m_geometry.width());
+    json.insert(c_key_height, m_geometry.height());
+    json.insert(c_key_top, m_geometry.top());
+    json.insert(c_key_left, m_geometry.left());
+    json.insert(c_key_title, GetTitle());
+    for (const Flag& flag : _Flags()) {
+        if (this->*flag.field != flag.value)
+            json.insert(flag.key, !flag.value);
+    }
+    return json;
+}
+
+bool UiStateDockWidget::FromJson(const QJsonObject& json)
+{
+    m_spacer = json.value(c_key_spacer).toBool(false);
+    if (!m_spacer) {
+        m_geometry = QRect(json.value(c_key_left).toInt(0), json.value(c_key_top).toInt(0),
+                           json.value(c_key_width).toInt(0), json.value(c_key_height).toInt(0));
+        KeepTitle(this, GetName(), json.value(c_key_title).toString());
+        for (const Flag& flag : _Flags())
+            this->*flag.field = json.value(flag.key).toBool(flag.value);
+    }
+    return TUiState::FromJson(json);
+}
+
+QString UiStateDockWidget::_GetSubitemsTag() const
+{
+    return QStringLiteral("pages");
+}
+
+QString UiStateDockWidget::GetTitle() const
+{
+    return TitleOf(this, GetName());
+}
+
+QString UiStateDockWidget::GetDisplayTitle() const
+{
+    return Translated(c_panel_context, GetTitle(), {});
+}
+
+DockWidget* UiStateDockWidget::Materialize()
+{
+    const bool alive = mp_widget && !mp_widget->_Impl()->destroying;
+    if (alive || m_spacer)
+        return mp_widget;
+    DockManager* const manager = LiveDockManager();
+    if (!manager)
+        return nullptr;
+
+    mp_widget = manager->CreateDockWidget();
+    DockWidget& panel = *mp_widget;
+    panel.setVisible(false);
+    panel.SetName(GetName());
+    panel.SetDeleteOnClose(false);
+    panel.SetDeleteOnEmpty(!IsPersistent());
+    panel.SetOwnWidgets(false);
+    panel.SetFitToCurrent(true);
+    panel.SetForcedTitle(GetDisplayTitle());
+    panel.SetTitleEnabled(m_title_visible);
+    panel.SetClosable(m_closeable);
+    panel.SetCollapsed(m_minimized, false);
+    panel.SetCollapsible(m_minimizable);
+    panel.SetMovable(m_movable);
+    _AddPages(panel);
+    return mp_widget;
+}
+
+void UiStateDockWidget::_AddPages(DockWidget& panel)
+{
+    IWidgetFactory* const factory = IWidgetFactory::GetInstance();
+    if (!factory)
+        return;
+    const QPointer<DockWidget> guard(&panel);
+    for (const UiStateDockPage* page : _GetChildren()) {
+        QWidget* const widget = factory->CreatePageWidget(page->GetName());
+        if (!widget)
+            continue;
+        // The identifier under which the page is stored again.
+        if (widget->objectName().isEmpty())
+            widget->setObjectName(page->GetName());
+        const QString title = page->GetDisplayTitle();
+        if (!title.isEmpty())
+            widget->setWindowTitle(title);
+        if (auto* const dock_page = dynamic_cast<IDockPage*>(widget))
+            panel.AddPage(dock_page);
+        else
+            panel.AddWidget(widget);
+        if (!guard)
+            return;
+        panel.SetPageVisible(widget, page->IsVisible());
+        if (!guard)
+            return;
+    }
+}
+
+void UiStateDockWidget::_Activate(ActivationMode)
+{
+    const QPointer<DockWidget> panel = Materialize();
+    if (!panel)
+        return;
+    if (m_geometry.isValid()) {
+        panel->resize(m_geometry.size());
+        // A page that is used again must not bring the size that it had in another layout.
+        IDockPage* const page = panel->GetCurrentPage();
+        if (page && !m_minimized)
+            page->SetPrefferedSize(m_geometry.size());
+    }
+    panel->SetFloated(m_geometry.topLeft());
+    if (panel)
+        panel->setVisible(IsVisible());
+}
+
+} // namespace ovk

@@ -1,0 +1,201 @@
+#include "ovk/docking/ui_state_docking.h"
+
+#include "ovk/docking/dock_area.h"
+#include "ovk/docking/dock_manager.h"
+#include "ovk/docking/ui_state_dock_live_p.h"
+#include "ovk/main_window/ribbon_window.h"
+#include "ovk/main_window/ribbon_window_p.h"
+
+namespace ovk {
+
+namespace {
+
+const QLatin1String c_areas_id("areas");
+const QLatin1String c_floated_id("floated");
+
+} // namespace
+
+DockManager* LiveDockManager()
+{
+    const RibbonWindow* const window = LiveRibbonWindow();
+    return window ? window->GetDockManager() : nullptr;
+}
+
+UiStateAreas::UiStateAreas() : TUiState(QString(c_areas_id)) {}
+
+UiStateAreas::UiStateAreas(const QJsonObject& json) : TUiState(json) {}
+
+UiStateAreas::UiStateAreas(const UiStateAreas& other) = default;
+
+UiStateAreas::~UiStateAreas() = default;
+
+void UiStateAreas::GetItems(QList<UiStateDockWidget*>& items) const
+{
+    for (const UiStateDockArea* area : _GetChildren()) {
+        for (int i = 0; i < area->GetCount(); ++i) {
+            const auto* const site = dynamic_cast<UiStateDockSite*>(area->GetItem(i));
+            UiStateDockToolboxSite* const toolbox = site ? site->GetToolboxSite() : nullptr;
+            for (int k = 0; toolbox && k < toolbox->GetCount(); ++k) {
+                auto* const panel = dynamic_cast<UiStateDockWidget*>(toolbox->GetItem(k));
+                if (panel && !panel->IsSpacer())
+                    items.append(panel);
+            }
+        }
+    }
+}
+
+void UiStateAreas::_Store()
+{
+    _DeleteItems();
+    DockManager* const manager = LiveDockManager();
+    if (!manager)
+        return;
+    const QList<DockArea*> areas = manager->GetAreasList();
+    for (DockArea* area : areas)
+        AppendChild(new UiStateDockArea(*area));
+}
+
+UiStateFloated::UiStateFloated() : TUiState(QString(c_floated_id)) {}
+
+UiStateFloated::UiStateFloated(const QJsonObject& json) : TUiState(json) {}
+
+UiStateFloated::UiStateFloated(const UiStateFloated& other) = default;
+
+UiStateFloated::~UiStateFloated() = default;
+
+void UiStateFloated::GetItems(QList<UiStateDockWidget*>& items) const
+{
+    for (UiStateDockWidget* panel : _GetChildren()) {
+        if (!panel->IsSpacer())
+            items.append(panel);
+    }
+}
+
+void UiStateFloated::_Store()
+{
+    _DeleteItems();
+    DockManager* const manager = LiveDockManager();
+    if (!manager)
+        return;
+    const QList<DockWidget*> panels = manager->GetFloatedWidgets();
+    for (DockWidget* panel : panels)
+        AppendChild(new UiStateDockWidget(panel));
+}
+
+UiStateDocking::UiStateDocking() : TUiState(GetSuiteName()) {}
+
+UiStateDocking::UiStateDocking(const QString& name) : TUiState(name) {}
+
+UiStateDocking::UiStateDocking(const QJsonObject& json) : TUiState(json) {}
+
+UiStateDocking::UiStateDocking(const UiStateDocking& other) = default;
+
+UiStateDocking::~UiStateDocking() = default;
+
+QString UiStateDocking::GetSuiteName()
+{
+    return QStringLiteral("docking");
+}
+
+void UiStateDocking::GetItems(QList<UiStateDockWidget*>& items) const
+{
+    for (const UiStateItem* child : _GetChildren()) {
+        if (const auto* const holder = dynamic_cast<const IDockingItems*>(child))
+            holder->GetItems(items);
+    }
+}
+
+void UiStateDocking::Merge(const UiProfileItem& source, const UiProfileItem* base)
+{
+    TUiState::Merge(source, base);
+    const auto* const other = dynamic_cast<const UiStateDocking*>(&source);
+    if (!other)
+        return;
+    for (auto it = other->m_titles.cbegin(); it != other->m_titles.cend(); ++it)
+        m_titles.insert(it.key(), it.value());
+}
+
+QString UiStateDocking::GetTitle(const QString& id) const
+{
+    return m_titles.value(id);
+}
+
+void UiStateDocking::SetTitle(const QString& id, const QString& title)
+{
+    m_titles.insert(id, title);
+}
+
+UiStateDocking* UiStateDocking::FindRoot(ITreeItem* node)
+{
+    for (; node; node = node->GetParent()) {
+        if (auto* const root = dynamic_cast<UiStateDocking*>(node))
+            return root;
+    }
+    return nullptr;
+}
+
+const UiStateDocking* UiStateDocking::FindRoot(const ITreeItem* node)
+{
+    return FindRoot(const_cast<ITreeItem*>(node));
+}
+
+UiProfileItem* UiStateDocking::_CreateSubItem(const QJsonObject& json)
+{
+    const QString id = json.value(QLatin1String("id")).toString();
+    if (id == c_areas_id)
+        return new UiStateAreas(json);
+    if (id == c_floated_id)
+        return new UiStateFloated(json);
+    return nullptr;
+}
+
+void UiStateDocking::_Activate(ActivationMode mode)
+{
+    const QPointer<DockManager> manager = LiveDockManager();
+    if (!manager)
+        return;
+    // Hidden while it is built, or every panel would be laid out and painted once for each change.
+    if (mode == amOrdinary)
+        manager->setVisible(false);
+    TUiState::_Activate(mode);
+    if (!manager)
+        return;
+    if (mode == amOrdinary)
+        manager->setVisible(true);
+    if (manager)
+        manager->AfterActivate();
+}
+
+void UiStateDocking::_Deactivate(ActivationMode mode)
+{
+    DockManager* const manager = LiveDockManager();
+    if (manager && mode == amOrdinary)
+        manager->Clear();
+    TUiState::_Deactivate(mode);
+}
+
+void UiStateDocking::_Store()
+{
+    if (GetChildCount() == 0) {
+        AppendChild(new UiStateAreas);
+        AppendChild(new UiStateFloated);
+    }
+    TUiState::_Store();
+}
+
+void UiStateDocking::_Validate(QSet<QString>&)
+{
+    DockManager* const manager = LiveDockManager();
+    if (!manager)
+        return;
+    QList<QPointer<DockWidget>> panels;
+    const QList<DockWidget*> live = manager->GetWidgetsList();
+    for (DockWidget* panel : live)
+        panels.append(panel);
+    for (const QPointer<DockWidget>& panel : qAsConst(panels)) {
+        if (panel)
+            panel->AvailabilityChanged();
+    }
+}
+
+} // namespace ovk
