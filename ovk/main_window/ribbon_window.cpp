@@ -1,6 +1,7 @@
 #include "ovk/main_window/ribbon_window.h"
 
 #include "ovk/core/observable.h"
+#include "ovk/customize/customize_dialog_p.h"
 #include "ovk/docking/dock_manager.h"
 #include "ovk/main_window/ribbon_window_p.h"
 
@@ -53,6 +54,7 @@ RibbonWindow::RibbonWindow(Impl* impl)
 
 RibbonWindow::~RibbonWindow()
 {
+    UiCustomizeDialog::Destroy();
     m_impl.reset();
 }
 
@@ -122,6 +124,18 @@ void RibbonWindow::setFrameTheme(bool enabled)
 Signal* RibbonWindow::UiCustomizedSignal()
 {
     return &_pr().customized_signal;
+}
+
+void RibbonWindow::OnCustomizeUI()
+{
+    if (LiveRibbonWindow())
+        UiCustomizeDialog::Open();
+}
+
+void RibbonWindow::closeEvent(QCloseEvent*)
+{
+    // The event stays accepted as it came; what is stored at exit is the host's to say.
+    UiCustomizeDialog::Destroy();
 }
 
 void RibbonWindow::DisableCustomizeButton(bool disable)
