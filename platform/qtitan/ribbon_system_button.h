@@ -34,7 +34,6 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    bool focusNextPrevChild(bool next) override;
 
 private:
     void toggleBackstage();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QPointer>
 #include <QtGui/QIcon>
 #include <QtWidgets/QWidget>
 
@@ -56,7 +57,7 @@ private:
     QString m_title;
     QString m_body;
     QIcon m_icon;
-    QWidget* m_widget = nullptr;
+    QPointer<QWidget> m_widget;
     int m_hideTimer = 0;
 };
 
