@@ -1,5 +1,7 @@
 #include "ovk/core/observable.h"
 
+#include <memory>
+
 namespace ovk {
 
 /// One walk over the observers. The link that the walk stands on is kept here, so that it can step
@@ -24,17 +26,19 @@ struct Observable::Walk
     /// The first observer that moved to the end from inside its own notification. The walk ends
     /// there, or it would not end at all.
     impl::ObserverLink* last = nullptr;
+    /// An observer that belonged to itself and left from inside its own notification. It lives
+    /// until that has returned.
+    std::unique_ptr<Observer> leaving;
 };
 
 Observable::Observable() = default;
 
 Observable::~Observable()
 {
-    for (Walk* walk = mp_walk; walk; walk = walk->outer)
-        walk->at = nullptr;
-    mp_walk = nullptr;
     while (m_observers.next != &m_observers)
         Detach(*static_cast<Observer*>(m_observers.next));
+    for (Walk* walk = mp_walk; walk; walk = walk->outer)
+        walk->at = nullptr;
 }
 
 void Observable::Attach(Observer& observer)
@@ -91,6 +95,8 @@ void Observable::_Notify()
     for (impl::ObserverLink* link = end->next; link != end && link != walk.last; link = walk.at->next) {
         walk.at = link;
         static_cast<Observer*>(link)->_OnNotify();
+        if (walk.leaving)
+            walk.leaving.reset();
         if (!walk.at)
             return;
     }
@@ -105,9 +111,10 @@ void Observable::_InternalAttach(Observer& observer)
     m_observers.previous = &link;
 }
 
-void Observable::_InternalDetach(Observer& observer)
+Observable::Walk* Observable::_InternalDetach(Observer& observer)
 {
     impl::ObserverLink& link = observer;
+    Walk* running = nullptr;
     for (Walk* walk = mp_walk; walk; walk = walk->outer) {
         if (walk->last == &link)
             walk->last = nullptr;
@@ -115,11 +122,21 @@ void Observable::_InternalDetach(Observer& observer)
             walk->at = link.previous;
             if (!walk->last)
                 walk->last = &link;
+            running = walk;
         }
     }
     link.previous->next = link.next;
     link.next->previous = link.previous;
     link.previous = link.next = &link;
+    return running;
+}
+
+void Observable::_Dispose(Observer* observer, Walk* running)
+{
+    if (running)
+        running->leaving.reset(observer);
+    else
+        delete observer;
 }
 
 } // namespace ovk

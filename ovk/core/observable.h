@@ -58,7 +58,10 @@ private:
     struct Walk;
 
     void _InternalAttach(Observer& observer);
-    void _InternalDetach(Observer& observer);
+    /// Answers the walk that is calling the observer, if there is one.
+    Walk* _InternalDetach(Observer& observer);
+    /// Deletes an observer that belonged to itself, as soon as \a running no longer calls it.
+    static void _Dispose(Observer* observer, Walk* running);
 
     impl::ObserverLink m_observers;
     NotifyState m_state = nsActive;

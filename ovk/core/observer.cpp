@@ -17,15 +17,17 @@ Observer::~Observer()
 void Observer::_SetObservable(Observable* next)
 {
     const bool was_attached = m_observable != nullptr;
+    Observable::Walk* running = nullptr;
     if (was_attached) {
-        m_observable->_InternalDetach(*this);
+        running = m_observable->_InternalDetach(*this);
         m_observable = nullptr;
     }
     if (next) {
         m_observable = next;
         next->_InternalAttach(*this);
     } else if (was_attached && m_delete_on_detach && !m_destroying) {
-        delete this;
+        m_delete_on_detach = false;
+        Observable::_Dispose(this, running);
     }
 }
 
