@@ -12,10 +12,11 @@ class SheetEngine : public QIconEngine
 public:
     explicit SheetEngine(int index) : m_index(index) {}
 
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
     {
         static const QRgb colors[] = {0xFF3B7DD8, 0xFFD9822B, 0xFF3E9B4F, 0xFFB23A48, 0xFF7A5BB5};
-        const QColor color = QColor::fromRgb(colors[m_index % 5]);
+        const QColor color = mode == QIcon::Disabled ? QColor(Qt::gray)
+                                                     : QColor::fromRgb(colors[m_index % 5]);
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing, true);
         painter->translate(rect.topLeft());

@@ -1,5 +1,7 @@
 #include "draw_helpers.h"
 
+#include "ribbon_theme_p.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmapCache>
@@ -228,13 +230,16 @@ QPixmap DrawHelpers::iconPixmap(const QIcon& icon, const QSize& size, qreal devi
     if (icon.isNull() || size.isEmpty())
         return {};
     const qreal ratio = std::max(1.0, device_pixel_ratio);
-    const QString key = QStringLiteral("qtitan-icon-%1-%2x%3-%4-%5-%6")
+    const RibbonTheme& theme = RibbonTheme::current();
+    // Some icons draw themselves in the theme's colours.
+    const QString key = QStringLiteral("qtitan-icon-%1-%2x%3-%4-%5-%6-%7")
                             .arg(icon.cacheKey())
                             .arg(size.width())
                             .arg(size.height())
                             .arg(ratio)
                             .arg(mode)
-                            .arg(state);
+                            .arg(state)
+                            .arg(theme[Element::DockTitle].text.rgb(), 0, 16);
     QPixmap result;
     if (QPixmapCache::find(key, &result))
         return result;

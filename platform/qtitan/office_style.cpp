@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLabel>
 #include <QPointer>
 #include <QWidget>
 
@@ -28,6 +29,16 @@ bool IsTheme(int theme)
     return theme >= OfficeStyle::Office2007Blue && theme <= OfficeStyle::Office2013Dark;
 }
 
+/// The colour of links goes into a label's document when its text is read, so it is read again.
+void RenewLinks(QLabel& label)
+{
+    const QString text = label.text();
+    if (label.textFormat() == Qt::PlainText || !text.contains(QLatin1String("<a "), Qt::CaseInsensitive))
+        return;
+    label.clear();
+    label.setText(text);
+}
+
 /// Tells every window that the style is another one: layouts are made anew and each widget is
 /// painted once, when the event loop runs again.
 void AnnounceStyle()
@@ -39,8 +50,11 @@ void AnnounceStyle()
     }
     QEvent event(QEvent::StyleChange);
     for (const QPointer<QWidget>& widget : widgets) {
-        if (widget)
-            QCoreApplication::sendEvent(widget, &event);
+        if (!widget)
+            continue;
+        QCoreApplication::sendEvent(widget, &event);
+        if (auto* label = qobject_cast<QLabel*>(widget.data()))
+            RenewLinks(*label);
     }
 }
 

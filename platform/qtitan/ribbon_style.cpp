@@ -119,7 +119,7 @@ void RibbonStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
         return;
     const Canvas canvas{baseStyle(), option, painter, widget, ribbonTheme()};
     if (style_draw::DrawField(control, canvas) || style_draw::DrawSlider(control, canvas)
-        || style_draw::DrawToolButton(control, canvas))
+        || style_draw::DrawToolButton(control, canvas) || style_draw::DrawGroupBox(control, canvas))
         return;
     OfficeStyle::drawComplexControl(control, option, painter, widget);
 }
@@ -135,10 +135,16 @@ QSize RibbonStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
     case CT_PushButton: {
         QSize result = OfficeStyle::sizeFromContents(type, option, size, widget);
         const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+        if (button && (button->features & QStyleOptionButton::HasMenu))
+            result.rwidth() += style_draw::Px(widget, 10);
         if (button && !button->text.isEmpty() && !(button->features & QStyleOptionButton::Flat))
             result.setWidth(std::max(result.width(), style_draw::Px(widget, 75)));
         return result;
     }
+    case CT_GroupBox:
+        if (const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option))
+            return style_draw::GroupBoxSize(*box, size, this, widget);
+        break;
     default:
         break;
     }
@@ -154,6 +160,10 @@ QRect RibbonStyle::subElementRect(SubElement element, const QStyleOption* option
 QRect RibbonStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                                   SubControl sub_control, const QWidget* widget) const
 {
+    if (control == CC_GroupBox) {
+        if (const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option))
+            return style_draw::GroupBoxRect(*box, sub_control, this, widget);
+    }
     return OfficeStyle::subControlRect(control, option, sub_control, widget);
 }
 
@@ -211,6 +221,17 @@ QPixmap RibbonStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* o
         return OfficeStyle::standardPixmap(pixmap, option, widget);
     const int extent = pixelMetric(PM_SmallIconSize, option, widget);
     return icon.pixmap(extent, extent);
+}
+
+QPixmap RibbonStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
+                                         const QStyleOption* option) const
+{
+    if (mode == QIcon::Disabled)
+        return QPixmap::fromImage(DrawHelpers::disabledImage(pixmap.toImage()));
+    // A selected or hovered icon looks as it is: its ground says what it is.
+    if (mode == QIcon::Selected || mode == QIcon::Active)
+        return pixmap;
+    return OfficeStyle::generatedIconPixmap(mode, pixmap, option);
 }
 
 void RibbonStyle::polish(QWidget* widget)

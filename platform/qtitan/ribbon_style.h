@@ -33,6 +33,8 @@ public:
                        const QWidget* widget = nullptr) const override;
     QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption* option = nullptr,
                            const QWidget* widget = nullptr) const override;
+    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
+                                const QStyleOption* option) const override;
     void polish(QWidget* widget) override;
     void unpolish(QWidget* widget) override;
     using OfficeStyle::polish;

@@ -42,10 +42,18 @@ bool DrawBarControl(QStyle::ControlElement element, const Canvas& canvas);
 bool DrawField(QStyle::ComplexControl control, const Canvas& canvas);
 bool DrawSlider(QStyle::ComplexControl control, const Canvas& canvas);
 bool DrawToolButton(QStyle::ComplexControl control, const Canvas& canvas);
+bool DrawGroupBox(QStyle::ComplexControl control, const Canvas& canvas);
 /// \}
 
 /// The size of a menu's item for its text's size.
 QSize MenuItemSize(const QStyleOptionMenuItem& item, const QSize& contents, const QWidget* widget);
+
+/// Where the parts of a group box are: its title stands in the upper line of its frame.
+QRect GroupBoxRect(const QStyleOptionGroupBox& box, QStyle::SubControl control, const QStyle* style,
+                   const QWidget* widget);
+/// The size of a group box around contents of that size.
+QSize GroupBoxSize(const QStyleOptionGroupBox& box, const QSize& contents, const QStyle* style,
+                   const QWidget* widget);
 
 /// Logical dots per inch / 96, of the widget's screen or of the first one.
 qreal Scale(const QWidget* widget);

@@ -28,7 +28,8 @@ void DrawFieldButton(const Canvas& canvas, const QRect& rect, bool active, bool 
     }
     const QColor ink = enabled ? look.text : look.disabled;
     if (sign.isEmpty()) {
-        DrawHelpers::drawArrow(painter, rect, arrow, ink, Px(canvas.widget, 5));
+        DrawHelpers::drawArrow(painter, rect, arrow, ink,
+                               Px(canvas.widget, rect.height() < Px(canvas.widget, 14) ? 5 : 7));
     } else {
         painter.save();
         painter.setPen(ink);

@@ -45,8 +45,18 @@ void DrawItemPanel(const Canvas& canvas)
     if (item->backgroundBrush.style() != Qt::NoBrush)
         canvas.painter->fillRect(item->rect, item->backgroundBrush);
     const Element element = ItemElement(canvas);
-    if (element != Element::View)
-        DrawItemGround(canvas, canvas.look(element), item->viewItemPosition);
+    if (element == Element::View)
+        return;
+    // A tree's row begins before its first cell, with what DrawItemRow draws.
+    using Position = QStyleOptionViewItem;
+    Position::ViewItemPosition position = item->viewItemPosition;
+    if (qobject_cast<const QTreeView*>(canvas.widget)) {
+        if (position == Position::Beginning)
+            position = Position::Middle;
+        else if (position == Position::OnlyOne)
+            position = Position::End;
+    }
+    DrawItemGround(canvas, canvas.look(element), position);
 }
 
 void DrawItemRow(const Canvas& canvas)
@@ -59,7 +69,7 @@ void DrawItemRow(const Canvas& canvas)
     // What lies before the first cell of a tree belongs to the row.
     const Element element = ItemElement(canvas);
     if (element != Element::View && qobject_cast<const QTreeView*>(canvas.widget))
-        DrawItemGround(canvas, canvas.look(element), QStyleOptionViewItem::Middle);
+        DrawItemGround(canvas, canvas.look(element), QStyleOptionViewItem::Beginning);
 }
 
 void DrawDropMark(const Canvas& canvas)
@@ -99,6 +109,11 @@ void DrawHeaderSection(const Canvas& canvas)
     QPainter& painter = *canvas.painter;
     painter.fillRect(rect.left(), rect.bottom(), rect.width(), 1, line);
     const bool vertical = header && header->orientation == Qt::Vertical;
+    const bool last = header
+                      && (header->position == QStyleOptionHeader::End
+                          || header->position == QStyleOptionHeader::OnlyOneSection);
+    if (last && !vertical)
+        return;
     const int inset = vertical ? 0 : std::min(Px(canvas.widget, 3), rect.height() / 4);
     const int edge = canvas.rightToLeft() ? rect.left() : rect.right();
     painter.fillRect(edge, rect.top() + inset, 1, rect.height() - 2 * inset, line);

@@ -170,10 +170,31 @@ QColor DisabledText(const QColor& text, const QVector<QColor>& grounds)
     return text;
 }
 
-void MakeLegible(ThemeLook& look, const QVector<QColor>& grounds)
+bool Reads(const QColor& text, const QVector<QColor>& grounds)
 {
-    look.text = DrawHelpers::legible(look.text, grounds, RibbonTheme::TextContrast);
-    look.disabled = DisabledText(look.text, grounds);
+    return std::all_of(grounds.begin(), grounds.end(), [&text](const QColor& ground) {
+        return DrawHelpers::contrast(text, ground) >= RibbonTheme::TextContrast;
+    });
+}
+
+/// Makes the texts of a look right for what is under them. An own ground that is too light for
+/// white at one end and too dark for black at the other is drawn together towards its middle.
+void MakeLegible(ThemeLook& look, const QVector<QColor>& under)
+{
+    const bool own = !look.isTransparent();
+    const QColor wanted = look.text;
+    const ThemeLook first = look;
+    for (int step = 0; step <= 4; ++step) {
+        if (own) {
+            look.top = DrawHelpers::mix(first.top, first.middle, step / 4.0);
+            look.bottom = DrawHelpers::mix(first.bottom, first.middle, step / 4.0);
+        }
+        const QVector<QColor> grounds = own ? look.grounds() : under;
+        look.text = DrawHelpers::legible(wanted, grounds, RibbonTheme::TextContrast);
+        look.disabled = DisabledText(look.text, grounds);
+        if (!own || Reads(look.text, grounds))
+            return;
+    }
 }
 
 /// Works the rows of a table out into colours, each element after the one that lies under it.

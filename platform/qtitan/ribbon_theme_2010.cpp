@@ -22,7 +22,7 @@ constexpr LookRow SharedRows[] = {
     Flat(E::BackstageHover, 0x3E70B4, None, 0xFFFFFF),
     Flat(E::BackstagePressed, 0x14407E, None, 0xFFFFFF),
     Flat(E::BackstageSelected, 0x14407E, None, 0xFFFFFF),
-    Shade(E::CaptionCloseHover, 0xE06A56, 0xC83A22, 0x8E2412, 0xFFFFFF),
+    Shade(E::CaptionCloseHover, 0xCC4530, 0xC03620, 0x8E2412, 0xFFFFFF),
     Shade(E::CaptionClosePressed, 0xB0341E, 0x962410, 0x6E1808, 0xFFFFFF),
     Flat(E::KeyTip, 0x3F3F3F, 0x2A2A2A, 0xFFFFFF),
     Shade(E::ToolTip, 0xFFFFFF, 0xE4E5F0, 0x767676, 0x4C4C4C),

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QApplication>
+#include <QColor>
+#include <QImage>
+#include <QPainter>
+#include <QVector>
+#include <functional>
+#include <qtitan/ribbon_style.h>
+#include <qtitan/ribbon_theme_p.h>
+
+namespace style_test {
+
+/// Sets a ribbon style for the time of a test class and the ordinary one after it.
+class ApplicationStyle
+{
+public:
+    ApplicationStyle() : m_style(new Qtitan::RibbonStyle) { QApplication::setStyle(m_style); }
+    ~ApplicationStyle() { QApplication::setStyle(QStringLiteral("fusion")); }
+    Q_DISABLE_COPY(ApplicationStyle)
+
+    Qtitan::RibbonStyle* operator->() const { return m_style; }
+    Qtitan::RibbonStyle* get() const { return m_style; }
+
+private:
+    Qtitan::RibbonStyle* m_style; ///< the application's
+};
+
+/// The ten accents and colours that are hard on a theme: extremes and the middle of the greys.
+inline QVector<QColor> Accents()
+{
+    QVector<QColor> colors;
+    for (int i = 0; i < 10; ++i)
+        colors.append(Qtitan::OfficeStyle::accentColor(static_cast<Qtitan::OfficeStyle::AccentColor>(i)));
+    colors << QColor(41, 152, 255) << QColor(0, 0, 0) << QColor(255, 255, 255) << QColor(118, 118, 118)
+           << QColor(0, 0, 10) << QColor(255, 255, 0) << QColor(0, 0, 255);
+    return colors;
+}
+
+constexpr int ThemeCount = 11;
+
+/// A picture of that size in logical pixels, made by `draw`.
+inline QImage Picture(const QSize& size, qreal ratio, const QColor& ground,
+                      const std::function<void(QPainter&)>& draw)
+{
+    QImage image((QSizeF(size) * ratio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(ground);
+    QPainter painter(&image);
+    draw(painter);
+    painter.end();
+    return image;
+}
+
+} // namespace style_test
