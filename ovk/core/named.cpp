@@ -2,11 +2,11 @@
 
 namespace ovk {
 
-Named::Named(const QString& name) : mp_name(std::make_unique<QString>(name))
+Named::Named(const QString& name) : m_name(name)
 {
 }
 
-Named::Named(const Named& other) : Named(*other.mp_name)
+Named::Named(const Named& other) : m_name(other.m_name)
 {
 }
 
@@ -15,23 +15,23 @@ Named::~Named() = default;
 Named& Named::operator=(const Named& other)
 {
     if (this != &other)
-        *mp_name = *other.mp_name;
+        m_name = other.m_name;
     return *this;
 }
 
 bool Named::operator==(const Named& other) const
 {
-    return *mp_name == *other.mp_name;
+    return m_name == other.m_name;
 }
 
 const QString& Named::GetName() const
 {
-    return *mp_name;
+    return m_name;
 }
 
 void Named::_SetName(const QString& name)
 {
-    *mp_name = name;
+    m_name = name;
 }
 
 } // namespace ovk

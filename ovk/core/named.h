@@ -4,8 +4,6 @@
 
 #include <QString>
 
-#include <memory>
-
 namespace ovk {
 
 /// Something with a name.
@@ -31,7 +29,7 @@ protected:
     virtual void _SetName(const QString& name);
 
 private:
-    std::unique_ptr<QString> mp_name;
+    QString m_name;
 };
 
 } // namespace ovk
