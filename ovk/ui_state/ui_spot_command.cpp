@@ -15,7 +15,7 @@ const QLatin1String key_style("style");
 } // namespace
 
 UiSpotCommand::UiSpotCommand(IUiItem& item, Qt::ToolButtonStyle style)
-    : UiSpot(item.GetId()), mp_item(&item), m_style(style)
+    : UiSpot(item.GetId()), m_item(&item), m_style(style)
 {
 }
 
@@ -32,16 +32,16 @@ UiSpotCommand::~UiSpotCommand() = default;
 
 IUiItem* UiSpotCommand::GetUiItem() const
 {
-    if (!mp_item) {
-        mp_item = _LookUp();
-        m_resolved = false;
-    }
-    return mp_item;
+    if (IUiItem* item = m_item.Get())
+        return item;
+    m_item = UiItemLink(_LookUp());
+    m_resolved = false;
+    return m_item.Get();
 }
 
 void UiSpotCommand::SetUiItem(IUiItem* item)
 {
-    mp_item = item;
+    m_item = UiItemLink(item);
 }
 
 Qt::ToolButtonStyle UiSpotCommand::GetStyle() const
@@ -69,9 +69,9 @@ void UiSpotCommand::SetTitle(const QString& title)
 void UiSpotCommand::Validate(QSet<QString>& changed)
 {
     IUiItem* const item = _LookUp();
-    if (item == mp_item && m_resolved)
+    if (item == m_item.Get() && !m_item.IsDead() && m_resolved)
         return;
-    mp_item = item;
+    m_item = UiItemLink(item);
     m_resolved = true;
     changed.insert(GetName());
 }
@@ -91,8 +91,10 @@ QJsonObject UiSpotCommand::ToJson() const
 
 bool UiSpotCommand::FromJson(const QJsonObject& json)
 {
-    m_style = static_cast<Qt::ToolButtonStyle>(json.value(key_style).toInt(0));
-    return UiSpot::FromJson(json);
+    const QJsonValue style = json.value(key_style);
+    m_style = static_cast<Qt::ToolButtonStyle>(style.toInt(0));
+    _ReadState(json, style.isUndefined() ? 0 : 1);
+    return true;
 }
 
 const QString& UiSpotCommand::GetType()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ovk/ui_state/ui_item_link.h>
 #include <ovk/ui_state/ui_spot.h>
 
 #include <optional>
@@ -28,6 +29,8 @@ public:
     /// The item behind the identifier; null when this product does not offer it. Looks it up in
     /// the owning layout for as long as it is not known. Not owned.
     IUiItem* GetUiItem() const;
+    /// The item as far as it is known; nothing is looked up.
+    IUiItem* GetKnownUiItem() const { return m_item.Get(); }
     /// Replaces the remembered item; null makes the next `GetUiItem` look it up again.
     void SetUiItem(IUiItem* item);
 
@@ -62,7 +65,7 @@ protected:
 private:
     IUiItem* _LookUp() const;
 
-    mutable IUiItem* mp_item = nullptr;
+    mutable UiItemLink m_item;
     mutable bool m_resolved = false;
     std::optional<Qt::ToolButtonStyle> m_style;
     QString m_title;

@@ -25,14 +25,17 @@ const QLatin1String key_icon("icon");
 const QLatin1String key_type("type");
 const QLatin1String key_items("items");
 
-/// Visits the command spots of a site that show that live command under that name.
+/// Visits the command spots of a site that show that live command under that name, or would if
+/// they knew of it: a composite can come to life by an edit.
 void ForEachSpotOf(UiStateCommandSpots& site, const QString& name, const IUiItem* command,
                    const std::function<void(UiSpotCommand&)>& visit)
 {
     for (int i = site.GetCount() - 1; i >= 0; --i) {
         auto* spot = dynamic_cast<UiSpotCommand*>(site.GetItem(i));
-        // The name first: it spares the lookup of all that does not resolve.
-        if (spot && spot->GetName() == name && spot->GetUiItem() == command)
+        if (!spot || spot->GetName() != name)
+            continue;
+        const IUiItem* known = spot->GetKnownUiItem();
+        if (!known || known == command)
             visit(*spot);
     }
 }
@@ -73,10 +76,35 @@ void UiStateComposite::Impl::Refill()
     if (!mp_command)
         return;
     mp_command->Clear();
+    m_filled.clear();
     for (const UiStateCompositeItem* item : qAsConst(m_items)) {
-        if (IUiItem* ui_item = item->GetUiItem())
+        if (IUiItem* ui_item = item->GetUiItem()) {
             mp_command->Add(ui_item);
+            m_filled.append(UiItemLink(ui_item));
+        }
     }
+}
+
+bool UiStateComposite::Impl::IsFilledAsItShould() const
+{
+    int index = 0;
+    for (const UiStateCompositeItem* item : m_items) {
+        const IUiItem* ui_item = item->GetUiItem();
+        if (ui_item && (index >= m_filled.size() || m_filled.at(index++).Get() != ui_item))
+            return false;
+    }
+    return index == m_filled.size();
+}
+
+void UiStateComposite::Impl::Refresh()
+{
+    if (!mp_command)
+        return;
+    const bool retitled = ApplyTitle();
+    if (IsFilledAsItShould() && !retitled)
+        return;
+    Refill();
+    RebuildSites();
 }
 
 bool UiStateComposite::Impl::ApplyTitle()
@@ -91,8 +119,10 @@ bool UiStateComposite::Impl::ApplyTitle()
 
 void UiStateComposite::Impl::Recreate()
 {
-    if (!mp_command)
+    if (!mp_command) {
+        RebuildSites();
         return;
+    }
     const std::unique_ptr<ICompositeCommand> old = std::move(mp_command);
     owner().Activate(amOrdinary);
     UiLayout* layout = owner().GetLayout();
@@ -128,7 +158,7 @@ void UiStateComposite::Impl::RemoveFromSites()
 
 void UiStateComposite::Impl::RebuildSites()
 {
-    UiLayout* layout = mp_command ? owner().GetLayout() : nullptr;
+    UiLayout* layout = owner().GetLayout();
     if (!layout)
         return;
     ForEachCompositeSite(*layout, [&](UiStateCommandSpots& site) {
@@ -278,9 +308,9 @@ void UiStateComposite::Activate(ActivationMode)
 
 void UiStateComposite::Validate(QSet<QString>& changed)
 {
-    bool refill = false;
     for (UiStateCompositeItem* item : qAsConst(_pr().m_items))
         item->Validate(changed);
+    bool refill = _pr().mp_command && !_pr().IsFilledAsItShould();
     for (const UiStateCompositeItem* item : qAsConst(_pr().m_items))
         refill = refill || changed.contains(item->GetName());
     if (refill)

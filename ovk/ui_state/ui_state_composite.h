@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ovk/ui_state/ui_item_link.h>
 #include <ovk/ui_state/ui_state.h>
 
 #include <memory>
@@ -26,7 +27,7 @@ public:
     /// Replaces the remembered item; null makes the next `GetUiItem` look it up again.
     void SetUiItem(IUiItem* item);
     /// Whether `item` is the remembered one; nothing is looked up.
-    bool IsRemembered(const IUiItem& item) const { return mp_item == &item; }
+    bool IsRemembered(const IUiItem& item) const { return m_item.Get() == &item; }
     /// Looks the item up again; when that gives another one, the name goes into `changed`.
     void Validate(QSet<QString>& changed) override;
 
@@ -39,7 +40,7 @@ public:
 private:
     IUiItem* _LookUp() const;
 
-    mutable IUiItem* mp_item = nullptr;
+    mutable UiItemLink m_item;
 };
 
 /// A button that stands for a list of commands. The node makes and fills the live command when the

@@ -9,7 +9,7 @@ namespace ovk {
 UiStateCompositeItem::UiStateCompositeItem(const QString& id) : UiProfileItem(id) {}
 
 UiStateCompositeItem::UiStateCompositeItem(IUiItem& item)
-    : UiProfileItem(item.GetId()), mp_item(&item)
+    : UiProfileItem(item.GetId()), m_item(&item)
 {
 }
 
@@ -21,22 +21,23 @@ UiStateCompositeItem::~UiStateCompositeItem() = default;
 
 IUiItem* UiStateCompositeItem::GetUiItem() const
 {
-    if (!mp_item)
-        mp_item = _LookUp();
-    return mp_item;
+    if (IUiItem* item = m_item.Get())
+        return item;
+    m_item = UiItemLink(_LookUp());
+    return m_item.Get();
 }
 
 void UiStateCompositeItem::SetUiItem(IUiItem* item)
 {
-    mp_item = item;
+    m_item = UiItemLink(item);
 }
 
 void UiStateCompositeItem::Validate(QSet<QString>& changed)
 {
     IUiItem* const item = _LookUp();
-    if (item == mp_item)
+    if (item == m_item.Get() && !m_item.IsDead())
         return;
-    mp_item = item;
+    m_item = UiItemLink(item);
     changed.insert(GetName());
 }
 

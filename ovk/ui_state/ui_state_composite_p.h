@@ -5,6 +5,7 @@
 #include <ovk/ui_state/ui_state_composite.h>
 
 #include <QtCore/QList>
+#include <QtCore/QVector>
 
 namespace ovk {
 
@@ -21,19 +22,27 @@ public:
     int RawIndex(int availableIndex) const;
     /// Fills the live command, if any, with the items that resolve.
     void Refill();
+    /// Whether the live command holds what the items stand for now.
+    bool IsFilledAsItShould() const;
+    /// Fills the live command, if any, when its items are no longer what it was filled with, and
+    /// lets the sites know: while a layout is off screen it is not validated.
+    void Refresh();
     /// Gives the live command, if any, the title of the node. Whether that changed anything.
     bool ApplyTitle();
-    /// Puts a new live command in place of the one that there is, on all sites.
+    /// Puts a new live command in place of the one that there is, on all sites. When there is none,
+    /// the sites try whether the composite can be shown now.
     void Recreate();
     /// Deletes all spots that show the live command.
     void RemoveFromSites();
-    /// Builds the sites anew that show the live command.
+    /// Builds the sites anew that show the live command, or could.
     void RebuildSites();
 
     QString m_title;
     QString m_icon;
     QList<UiStateCompositeItem*> m_items;
     std::unique_ptr<ICompositeCommand> mp_command;
+    /// What the live command was filled with.
+    QVector<UiItemLink> m_filled;
     /// The title that the live command was given.
     QString m_live_title;
     /// The items are just being looked up.

@@ -60,6 +60,12 @@ UiStateComposite* UiStateComposites::Find(const QString& id) const
     return found == composites.cend() ? nullptr : *found;
 }
 
+void UiStateComposites::_Activate(ActivationMode)
+{
+    for (UiStateComposite* composite : _GetChildren())
+        composite->_pr().Refresh();
+}
+
 UiProfileItem* UiStateComposites::_CreateSubItem(const QJsonObject& json)
 {
     if (json.value(QLatin1String("type")).toString() == UiStateCompositeMenu::GetType())

@@ -37,6 +37,9 @@ public:
 protected:
     /// A menu for the type "menu", a split button for every other.
     UiProfileItem* _CreateSubItem(const QJsonObject& json) override;
+    /// Brings the live commands up to date that there are. New ones are made by the first spot that
+    /// shows them.
+    void _Activate(ActivationMode mode) override;
 };
 
 } // namespace ovk

@@ -51,7 +51,6 @@ void UiStateRibbonGroup::Impl::CreateWidget()
 
 void UiStateRibbonGroup::Impl::Fill()
 {
-    m_stale = false;
     IUiItem* first = nullptr;
     mp_widget->clear();
     for (int i = 0; i < owner().GetCount(); ++i) {
@@ -72,6 +71,7 @@ void UiStateRibbonGroup::Impl::Fill()
     }
     if (first)
         mp_widget->setIcon(first->GetIcon());
+    m_contents.Take(owner());
 }
 
 void UiStateRibbonGroup::Impl::AttachWidget(Qtitan::RibbonPage& page, int index)
@@ -205,7 +205,7 @@ bool UiStateRibbonGroup::FromJson(const QJsonObject& json)
 void UiStateRibbonGroup::SpotsChanged()
 {
     if (!IsActive() || !_pr().mp_widget) {
-        _pr().m_stale = true;
+        _pr().m_contents.Forget();
         return;
     }
     _pr().Fill();
@@ -222,7 +222,7 @@ bool UiStateRibbonGroup::CheckConsistency() const
     if (!IsActive() || !_pr().mp_widget)
         return true;
     const Qtitan::RibbonGroup& widget = *_pr().mp_widget;
-    return !_pr().m_stale && widget.objectName() == GetName() &&
+    return _pr().m_contents.IsCurrent(*this) && widget.objectName() == GetName() &&
            widget.title() == LiveTitle(GetTitle()) && widget.isHidden() != IsShown();
 }
 
@@ -253,7 +253,7 @@ void UiStateRibbonGroup::_Activate(ActivationMode)
         return;
     if (!_pr().mp_widget)
         _pr().CreateWidget();
-    else if (_pr().m_stale)
+    else if (!_pr().m_contents.IsCurrent(*this))
         _pr().Fill();
     _pr().AttachWidget(*page_widget, GetIndexOf());
     _pr().UpdateTitle();

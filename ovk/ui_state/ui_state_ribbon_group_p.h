@@ -2,6 +2,7 @@
 
 #include <ovk/core/pimpl_basics.h>
 #include <ovk/ui_state/ribbon_node_data_p.h>
+#include <ovk/ui_state/site_contents_p.h>
 #include <ovk/ui_state/ui_state_ribbon_group.h>
 
 #include <QtCore/QPointer>
@@ -36,8 +37,8 @@ public:
     /// Where the widget was inserted.
     QPointer<Qtitan::RibbonPage> mp_page;
     int m_index = -1;
-    /// The spots changed while the group was not on screen.
-    bool m_stale = false;
+    /// What the widget shows.
+    SiteContents m_contents;
 };
 
 } // namespace ovk

@@ -3,6 +3,7 @@
 #include "ovk/core/pimpl_basics.h"
 #include "ovk/main_window/work_area.h"
 #include "ovk/ui_state/live_sites_p.h"
+#include "ovk/ui_state/site_contents_p.h"
 
 #include <QtCore/QJsonObject>
 #include <QtCore/QPointer>
@@ -46,6 +47,7 @@ public:
     ~Impl() override { delete mp_widget; }
 
     void CreateWidget(WorkArea& workArea);
+    void Fill();
     void UpdateTitle();
     void ClaimName(WorkArea& workArea);
 
@@ -57,8 +59,7 @@ public:
     QPointer<QToolBar> mp_widget;
     /// What the widget was last given, which may be a translation of the title.
     QString m_live_title;
-    /// The spots changed while the bar was not on screen.
-    bool m_stale = false;
+    SiteContents m_contents;
 };
 
 void UiStateToolbar::Impl::CreateWidget(WorkArea& workArea)
@@ -73,8 +74,13 @@ void UiStateToolbar::Impl::CreateWidget(WorkArea& workArea)
         if (m_break)
             workArea.insertToolBarBreak(mp_widget);
     }
+    Fill();
+}
+
+void UiStateToolbar::Impl::Fill()
+{
     FillToolBar(owner(), *mp_widget);
-    m_stale = false;
+    m_contents.Take(owner());
 }
 
 void UiStateToolbar::Impl::UpdateTitle()
@@ -227,11 +233,11 @@ bool UiStateToolbar::FromJson(const QJsonObject& json)
 void UiStateToolbar::SpotsChanged()
 {
     if (!IsActive() || !_pr().mp_widget) {
-        _pr().m_stale = true;
+        _pr().m_contents.Forget();
         return;
     }
     ClearToolBar(*_pr().mp_widget);
-    FillToolBar(*this, *_pr().mp_widget);
+    _pr().Fill();
 }
 
 void UiStateToolbar::_OnChangeVisibility(bool visible)
@@ -248,10 +254,9 @@ void UiStateToolbar::_Activate(ActivationMode)
         return;
     if (!_pr().mp_widget) {
         _pr().CreateWidget(*work_area);
-    } else if (_pr().m_stale) {
+    } else if (!_pr().m_contents.IsCurrent(*this)) {
         ClearToolBar(*_pr().mp_widget);
-        FillToolBar(*this, *_pr().mp_widget);
-        _pr().m_stale = false;
+        _pr().Fill();
     }
     _pr().ClaimName(*work_area);
     _pr().UpdateTitle();

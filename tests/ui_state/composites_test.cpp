@@ -249,6 +249,14 @@ private Q_SLOTS:
         mp_clip->Validate(changed);
         QCOMPARE(changed, QSet<QString>({"Edit.Paste", "composite.clip"}));
         QCOMPARE(Items(mp_clip), QStringList{"Edit.Copy"});
+        // Also when somebody noticed before that the command has gone.
+        mp_host->factory.Remove("Edit.Copy");
+        mp_host->factory.Add("Edit.Paste");
+        QCOMPARE(mp_clip->GetAvailableCount(), 1);
+        changed.clear();
+        mp_clip->Validate(changed);
+        QVERIFY(changed.contains("composite.clip"));
+        QCOMPARE(Items(mp_clip), QStringList{"Edit.Paste"});
         changed = {"Edit.Copy"}; // somebody else reported it
         mp_clip->Validate(changed);
         QVERIFY(changed.contains("composite.clip"));
