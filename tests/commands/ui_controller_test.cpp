@@ -2,6 +2,7 @@
 #include "tests/support/test_main.h"
 
 #include <ovk/commands/ui_controller.h>
+#include <ovk/core/application.h>
 #include <ovk/core/observer.h>
 #include <ovk/core/root_controller.h>
 #include <ovk/ui_state/ui_layout.h>
@@ -267,6 +268,12 @@ class UiControllerLifeTest : public QObject
 {
     Q_OBJECT
 
+    static QString SavedFile(const FakeHost& host)
+    {
+        return host.Profiles().GetBinaryFilePath(
+            ovk::Application::GetInstance().GetUiProfilePath(false));
+    }
+
 private Q_SLOTS:
     void theDefaultProfileIsLoadedAtTheStart()
     {
@@ -283,9 +290,7 @@ private Q_SLOTS:
         {
             FakeHost host;
             host.Start();
-            path = host.Profiles().GetBinaryFilePath(DataHome() + "/data/" +
-                                                     QCoreApplication::applicationName() +
-                                                     "/GuiProfiles/0.0.0.0");
+            path = SavedFile(host);
             QVERIFY2(QFile::exists(path), qPrintable(path));
             QVERIFY(QFile::remove(path));
             host.Shutdown();
@@ -301,9 +306,7 @@ private Q_SLOTS:
         host.Start();
         QVERIFY(host.Profile().IsEmpty());
         host.Shutdown();
-        const QString path = host.Profiles().GetBinaryFilePath(
-            DataHome() + "/data/" + QCoreApplication::applicationName() + "/GuiProfiles/0.0.0.0");
-        QVERIFY(!QFile::exists(path));
+        QVERIFY(!QFile::exists(SavedFile(host)));
     }
 
     void aTriggeredCommandOfTheLayoutUpdatesAll()
