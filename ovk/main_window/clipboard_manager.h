@@ -18,8 +18,7 @@ public:
     /// Whether DropData would take the data; asked when a drag enters the work area.
     virtual bool CanDropData(const QMimeData* data) = 0;
 
-protected:
-    ~IClipboardManager() = default;
+    virtual ~IClipboardManager() = default;
 };
 
 } // namespace ovk

@@ -127,8 +127,7 @@ QuickSearchWidget::QuickSearchWidget(QWidget* parent)
 
 QuickSearchWidget::~QuickSearchWidget()
 {
-    // An edit that was removed while it ran must not take its successor's action with it.
-    if (!m_running)
+    if (!m_retired)
         delete ShowAction();
 }
 
@@ -233,6 +232,7 @@ void RemoveQuickSearch(QToolBar& bar)
         if (!edit)
             continue;
         delete ShowAction();
+        edit->Retire();
         bar.removeAction(widget_action);
         if (edit->IsRunning()) {
             widget_action->setParent(nullptr);

@@ -57,6 +57,8 @@ protected:
 public:
     /// Whether a command started here has not returned yet.
     bool IsRunning() const { return m_running; }
+    /// Takes the edit out of use: the shortcut is its successor's from here on.
+    void Retire() { m_retired = true; }
 
 private Q_SLOTS:
     void OnHighlighted(const QModelIndex& index);
@@ -77,6 +79,7 @@ private:
     bool m_highlighted = false;
     bool m_stale = true;
     bool m_running = false;
+    bool m_retired = false;
 };
 
 /// Takes the quick search edit off a tool bar, before the bar is cleared; does nothing where there

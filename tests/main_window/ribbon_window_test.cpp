@@ -329,6 +329,7 @@ void RibbonWindowTest::theContextMenuListsPages()
     auto* ribbon = dynamic_cast<UiStateRibbon*>(layout->GetState(UiStateRibbon::GetSuiteName()));
     UiStateRibbonPage* page = ribbon->GetPage(0);
     page->SetTitle(QStringLiteral("Cut & Paste"));
+    page->SetPersistence(UiStateItem::ipOrdinary);
     auto* fixed = new UiStateRibbonPage(QStringLiteral("page.fixed"));
     fixed->SetTitle(QStringLiteral("Fixed"));
     fixed->SetPersistence(UiStateItem::ipBuiltIn);

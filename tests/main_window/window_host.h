@@ -28,14 +28,15 @@ inline QJsonObject CatalogueWith(const QStringList& ids, const QStringList& hidd
 
     QJsonObject products = root.value(QStringLiteral("products")).toObject();
     QJsonArray product_list = products.value(QStringLiteral("product")).toArray();
-    QJsonObject product = product_list.first().toObject();
+    const int fake = product_list.at(0).toObject().value(QStringLiteral("id")) == QStringLiteral("Fake") ? 0 : 1;
+    QJsonObject product = product_list.at(fake).toObject();
     QJsonObject functions = product.value(QStringLiteral("functions")).toObject();
     QJsonArray function_ids = functions.value(QStringLiteral("function_ids")).toArray();
     for (const QString& id : ids + hidden)
         function_ids.append(id);
     functions.insert(QStringLiteral("function_ids"), function_ids);
     product.insert(QStringLiteral("functions"), functions);
-    product_list.replace(0, product);
+    product_list.replace(fake, product);
     products.insert(QStringLiteral("product"), product_list);
     root.insert(QStringLiteral("products"), products);
     return root;
