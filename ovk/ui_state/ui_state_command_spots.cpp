@@ -11,6 +11,9 @@ namespace ovk {
 
 namespace {
 
+const QLatin1String key_id("id");
+const QLatin1String key_type("type");
+
 /// The item that the spot stands for; null for a separator too.
 IUiItem* ItemOf(const UiSpot* spot)
 {
@@ -142,7 +145,11 @@ UiSpotSeparator* UiStateCommandSpots::CreateSeparatorSpot()
 
 UiProfileItem* UiStateCommandSpots::_CreateSubItem(const QJsonObject& json)
 {
-    const QString type = json.value(QStringLiteral("type")).toString(UiSpotCommand::GetType());
+    const QJsonValue value = json.value(key_type);
+    // What is in the object is read when the spot has its place, so its name is enough here.
+    if (value.isUndefined())
+        return new UiSpotCommand(json.value(key_id).toString());
+    const QString type = value.toString(UiSpotCommand::GetType());
     if (type == UiSpotCommand::GetType())
         return new UiSpotCommand(json);
     if (type == UiSpotSeparator::GetType())

@@ -7,6 +7,7 @@
 namespace ovk {
 namespace {
 
+const QLatin1String KEY_ID("id");
 const QLatin1String KEY_VISIBLE("visible");
 const QLatin1String KEY_PERSISTENCE("persistence");
 const QLatin1String KEY_CHANGED_BY_USER("is_changed_by_user");
@@ -97,10 +98,22 @@ QJsonObject UiStateItem::ToJson() const
 
 bool UiStateItem::FromJson(const QJsonObject& object)
 {
+    _ReadState(object, 0);
+    return true;
+}
+
+void UiStateItem::_ReadState(const QJsonObject& object, int otherKeys)
+{
+    const int id = object.contains(KEY_ID) ? 1 : 0;
+    if (object.size() == otherKeys + id) {
+        m_visible = true;
+        m_persistence = ipOrdinary;
+        m_changed_by_user = false;
+        return;
+    }
     m_visible = object.value(KEY_VISIBLE).toBool(true);
     m_persistence = ItemPersitence(object.value(KEY_PERSISTENCE).toInt(ipOrdinary));
     m_changed_by_user = object.value(KEY_CHANGED_BY_USER).toBool(false);
-    return true;
 }
 
 void UiStateItem::_MergeContent(const UiProfileItem& source, const UiProfileItem* base)

@@ -57,6 +57,11 @@ protected:
 
     void _MergeContent(const UiProfileItem& source, const UiProfileItem* base) override;
 
+    /// Reads the fields of this class from an object in which the derived class found
+    /// \a otherKeys keys of its own. Most nodes have nothing but these and their "id", and are then
+    /// done without a search for each field.
+    void _ReadState(const QJsonObject& object, int otherKeys);
+
     /// The visibility as it is written and merged, whatever IsVisible() answers.
     bool _IsStoredVisible() const { return m_visible; }
 
