@@ -6,6 +6,8 @@
 #include "ovk/docking/dock_toolbox_site.h"
 #include "ovk/docking/dock_toolbox_site_handle_p.h"
 
+#include <QtWidgets/QWidget>
+
 namespace ovk {
 
 namespace {
@@ -123,6 +125,16 @@ DockToolbarSiteOutter* DockSite::GetToolbarOutterSite() const
 DockToolbarSiteInner* DockSite::GetToolbarInnerSite() const
 {
     return mp_impl->inner;
+}
+
+QSize DockSite::maximumSize() const
+{
+    QSize size = QBoxLayout::maximumSize();
+    if (IsVertical())
+        size.setHeight(QWIDGETSIZE_MAX);
+    else
+        size.setWidth(QWIDGETSIZE_MAX);
+    return size;
 }
 
 DockSiteLeft::DockSiteLeft(DockLayout& layout) : DockSite(layout, DockLayout::Left)

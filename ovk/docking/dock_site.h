@@ -50,6 +50,10 @@ public:
     DockToolbarSiteOutter* GetToolbarOutterSite() const;
     DockToolbarSiteInner* GetToolbarInnerSite() const;
 
+    /// Never bounded along the side, whatever lies in the site: the middle of the area is not to be
+    /// held by it.
+    QSize maximumSize() const override;
+
     /// The private part, for the library and its tests.
     Impl* _pp() const { return mp_impl.get(); }
 

@@ -212,6 +212,8 @@ void DockWidget::Impl::OnDocked(DockToolboxSite& site)
     }
     HideOverlay();
     Panel()->_SetToolboxSite(&site);
+    // The site has a say in the sizes and the policy.
+    PostUpdate(UpdateSizes);
     site._UpdateSizer();
 }
 

@@ -1,0 +1,414 @@
+#include "dock_fixture.h"
+#include "tests/support/test_main.h"
+
+using namespace ovk;
+using ovk_test::DockFixture;
+using ovk_test::FakePage;
+
+class ToolboxSiteTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void panelsAreAddedBeforeTheLastItem();
+    void theSmallerPanelFoldsWhenRoomRunsOutAndOpensAgain();
+    void aPanelFoldedByHandStaysFolded();
+    void aPanelThatDoesNotFitIsRefused();
+    void aNewPanelFoldsWhenThereIsNoRoomForIt();
+    void othersFoldForAPanelThatMustFit();
+    void aHiddenPanelAlwaysFits();
+    void theCrossSizeIsTheLeastWidthOfTheSite();
+    void removingTheLastPanelForgetsTheCrossSize();
+    void aFoldedSiteTakesNoRoomAndComesBack_data();
+    void aFoldedSiteTakesNoRoomAndComesBack();
+    void theButtonOfTheHandleFoldsTheSite();
+    void theHandleIsThereWhileThereIsAPanel();
+    void theHandleCanBeTakenAway();
+    void draggingTheHandleResizesTheSite_data();
+    void draggingTheHandleResizesTheSite();
+    void aGreedyCentralWidgetDoesNotHoldTheHandle();
+    void panelsOfASideShareTheWidestMinimum();
+    void clearDeletesThePanelsAndKeepsThePages();
+    void panelsKnowWhetherTheyCouldOpen();
+    void sizesAreComputedOnceAChange();
+};
+
+void ToolboxSiteTest::panelsAreAddedBeforeTheLastItem()
+{
+    DockFixture fixture;
+    DockToolboxSite* const site = fixture.Left();
+    QVERIFY(site->AddWidget(fixture.Panel("a")));
+    QCOMPARE(DockFixture::Order(*site), (QStringList{"a", "|"}));
+    QVERIFY(site->AddWidget(fixture.Panel("b")));
+    QCOMPARE(DockFixture::Order(*site), (QStringList{"a", "b", "|"}));
+    QVERIFY(site->InsertWidget(-1, fixture.Panel("c")));
+    QCOMPARE(DockFixture::Order(*site), (QStringList{"a", "b", "|", "c"}));
+    QVERIFY(site->InsertWidget(0, fixture.Panel("d")));
+    QCOMPARE(DockFixture::Order(*site), (QStringList{"d", "a", "b", "|", "c"}));
+    DockFixture::Settle();
+    QCOMPARE(fixture.Inconsistency(), QString());
+    QList<DockWidget*> panels;
+    fixture.manager->DockArea::GetWidgetsList(panels);
+    QCOMPARE(panels.size(), 4);
+}
+
+void ToolboxSiteTest::theSmallerPanelFoldsWhenRoomRunsOutAndOpensAgain()
+{
+    DockFixture fixture(QSize(800, 400));
+    DockWidget* const large = fixture.Panel("large", QSize(100, 200));
+    DockWidget* const small = fixture.Panel("small", QSize(100, 150));
+    fixture.Left()->AddWidget(large);
+    fixture.Left()->AddWidget(small);
+    DockFixture::Settle();
+    QVERIFY(!large->IsCollapsed() && !small->IsCollapsed());
+
+    fixture.manager->resize(800, 300);
+    DockFixture::Settle();
+    QVERIFY(!large->IsCollapsed());
+    QVERIFY(small->IsCollapsed());
+    QVERIFY(small->IsForcedCollapsed());
+    QCOMPARE(small->height(), small->_Impl()->GetCollapsedMin().height());
+
+    fixture.manager->resize(800, 350);
+    DockFixture::Settle();
+    QVERIFY(!small->IsCollapsed());
+    QVERIFY(!small->IsForcedCollapsed());
+    QCOMPARE(fixture.Inconsistency(), QString());
+}
+
+void ToolboxSiteTest::aPanelFoldedByHandStaysFolded()
+{
+    DockFixture fixture(QSize(800, 400));
+    DockWidget* const panel = fixture.Panel("a", QSize(100, 200));
+    fixture.Left()->AddWidget(panel);
+    DockFixture::Settle();
+    panel->SetCollapsed(true, false);
+    DockFixture::Settle();
+    fixture.manager->resize(800, 600);
+    DockFixture::Settle();
+    QVERIFY(panel->IsCollapsed());
+    QVERIFY(!panel->IsForcedCollapsed());
+}
+
+void ToolboxSiteTest::aPanelThatDoesNotFitIsRefused()
+{
+    DockFixture fixture(QSize(800, 300));
+    DockWidget* const rigid = fixture.Panel("rigid", QSize(100, 250));
+    rigid->SetCollapsible(false);
+    QVERIFY(fixture.Left()->AddWidget(rigid));
+    DockFixture::Settle();
+    DockWidget* const other = fixture.Panel("other", QSize(100, 100));
+    other->SetCollapsible(false);
+    other->SetFloated(QPoint(50, 50));
+    DockFixture::Settle();
+    QVERIFY(!fixture.Left()->AddWidget(other));
+    QVERIFY(other->IsFloated());
+    QCOMPARE(DockFixture::Order(*fixture.Left()), (QStringList{"rigid", "|"}));
+    QCOMPARE(fixture.Inconsistency(), QString());
+}
+
+void ToolboxSiteTest::aNewPanelFoldsWhenThereIsNoRoomForIt()
+{
+    DockFixture fixture(QSize(800, 300));
+    fixture.Left()->AddWidget(fixture.Panel("a", QSize(100, 250)));
+    DockWidget* const other = fixture.Panel("other", QSize(100, 100));
+    other->SetFloated(QPoint(50, 50));
+    DockFixture::Settle();
+    QVERIFY(fixture.Left()->AddWidget(other));
+    QVERIFY(other->IsCollapsed());
+    QVERIFY(!other->IsForcedCollapsed());
+    DockFixture::Settle();
+    QVERIFY(other->isVisible());
+    QCOMPARE(fixture.Inconsistency(), QString());
+}
+
+void ToolboxSiteTest::othersFoldForAPanelThatMustFit()
+{
+    DockFixture fixture(QSize(800, 300));
+    DockWidget* const first = fixture.Panel("a", QSize(100, 280));
+    fixture.Left()->AddWidget(first);
+    DockWidget* const rigid = fixture.Panel("rigid", QSize(100, 100));
+    rigid->SetCollapsible(false);
+    rigid->SetFloated(QPoint(50, 50));
+    DockFixture::Settle();
+    QVERIFY(fixture.Left()->AddWidget(rigid));
+    QVERIFY(first->IsCollapsed());
+    QVERIFY(first->IsForcedCollapsed());
+    QVERIFY(!rigid->IsCollapsed());
+    DockFixture::Settle();
+    QCOMPARE(fixture.Inconsistency(), QString());
+}
+
+void ToolboxSiteTest::aHiddenPanelAlwaysFits()
+{
+    DockFixture fixture(QSize(800, 100));
+    DockWidget* const large = fixture.Panel("large", QSize(100, 5000));
+    large->SetCollapsible(false);
+    large->setVisible(false);
+    QVERIFY(fixture.Left()->AddWidget(large));
+    DockFixture::Settle();
+    QVERIFY(!large->isVisible());
+}
+
+void ToolboxSiteTest::theCrossSizeIsTheLeastWidthOfTheSite()
+{
+    DockFixture fixture;
+    fixture.Left()->AddWidget(fixture.Panel("a"));
+    fixture.Top()->AddWidget(fixture.Panel("b"));
+    QCOMPARE(fixture.Left()->GetCrossSize(), 0);
+    fixture.Left()->SetCrossSize(220);
+    fixture.Top()->SetCrossSize(140);
+    DockFixture::Settle();
+    QCOMPARE(fixture.Left()->GetCrossSize(), 220);
+    QCOMPARE(fixture.Left()->geometry().width(), 220);
+    QCOMPARE(fixture.Top()->geometry().height(), 140);
+}
+
+void ToolboxSiteTest::removingTheLastPanelForgetsTheCrossSize()
+{
+    DockFixture fixture;
+    DockWidget* const a = fixture.Panel("a");
+    DockWidget* const b = fixture.Panel("b");
+    fixture.Left()->AddWidget(a);
+    fixture.Left()->AddWidget(b);
+    fixture.Left()->SetCrossSize(220);
+    DockFixture::Settle();
+    a->SetFloated(QPoint(10, 10));
+    QCOMPARE(fixture.Left()->GetCrossSize(), 220);
+    b->SetFloated(QPoint(10, 10));
+    QCOMPARE(fixture.Left()->GetCrossSize(), 0);
+    DockFixture::Settle();
+    QCOMPARE(fixture.central->width(), 800);
+    QCOMPARE(fixture.Inconsistency(), QString());
+}
+
+void ToolboxSiteTest::aFoldedSiteTakesNoRoomAndComesBack_data()
+{
+    QTest::addColumn<int>("side");
+    QTest::newRow("left") << 0;
+    QTest::newRow("right") << 1;
+    QTest::newRow("top") << 2;
+    QTest::newRow("bottom") << 3;
+}
+
+void ToolboxSiteTest::aFoldedSiteTakesNoRoomAndComesBack()
+{
+    QFETCH(int, side);
+    DockFixture fixture;
+    DockToolboxSite* const site = fixture.Site(DockLayout::Side(side));
+    DockWidget* const panel = fixture.Panel("a");
+    site->AddWidget(panel);
+    site->SetCrossSize(130);
+    DockFixture::Settle();
+    const auto thickness = [site] {
+        return site->IsVertical() ? site->geometry().width() : site->geometry().height();
+    };
+    QCOMPARE(thickness(), 130);
+    site->SetMinimized(true);
+    DockFixture::Settle();
+    QVERIFY(site->IsMinimized());
+    QCOMPARE(thickness(), 0);
+    QVERIFY(site->GetDockSite()->_pp()->handle->isVisible());
+    // A panel that comes meanwhile is folded too.
+    site->AddWidget(fixture.Panel("b"));
+    DockFixture::Settle();
+    QCOMPARE(thickness(), 0);
+    site->SetMinimized(false);
+    DockFixture::Settle();
+    QCOMPARE(thickness(), 130);
+    QCOMPARE(site->GetCrossSize(), 130);
+    QCOMPARE(fixture.Inconsistency(), QString());
+}
+
+void ToolboxSiteTest::theButtonOfTheHandleFoldsTheSite()
+{
+    DockFixture fixture;
+    fixture.Left()->AddWidget(fixture.Panel("a"));
+    DockFixture::Settle();
+    DockToolboxSiteHandle* const handle = fixture.Left()->GetDockSite()->_pp()->handle;
+    QCOMPARE(handle->GetButton()->pos(), QPoint(0, (handle->height() - 17) / 2));
+    QTest::mouseClick(handle->GetButton(), Qt::LeftButton);
+    QVERIFY(fixture.Left()->IsMinimized());
+    QTest::mouseClick(handle->GetButton(), Qt::LeftButton);
+    QVERIFY(!fixture.Left()->IsMinimized());
+}
+
+void ToolboxSiteTest::theHandleIsThereWhileThereIsAPanel()
+{
+    DockFixture fixture;
+    DockToolboxSiteHandle* const handle = fixture.Left()->GetDockSite()->_pp()->handle;
+    QVERIFY(handle->isHidden());
+    DockWidget* const panel = fixture.Panel("a");
+    fixture.Left()->AddWidget(panel);
+    DockFixture::Settle();
+    QVERIFY(!handle->isHidden());
+    panel->setVisible(false);
+    QVERIFY(handle->isHidden());
+    panel->setVisible(true);
+    QVERIFY(!handle->isHidden());
+    delete panel;
+    QVERIFY(handle->isHidden());
+}
+
+void ToolboxSiteTest::theHandleCanBeTakenAway()
+{
+    DockFixture fixture;
+    fixture.Left()->AddWidget(fixture.Panel("a"));
+    DockFixture::Settle();
+    QVERIFY(fixture.Left()->IsMinimizeAvailable());
+    fixture.Left()->SetMinimizeAvailable(false);
+    QVERIFY(fixture.Left()->GetDockSite()->_pp()->handle->isHidden());
+    fixture.Left()->SetMinimizeAvailable(true);
+    QVERIFY(!fixture.Left()->GetDockSite()->_pp()->handle->isHidden());
+}
+
+void ToolboxSiteTest::draggingTheHandleResizesTheSite_data()
+{
+    QTest::addColumn<int>("side");
+    QTest::addColumn<int>("delta");
+    QTest::addColumn<int>("size");
+    QTest::newRow("left, wider") << 0 << 40 << 200;
+    QTest::newRow("right, wider") << 1 << -40 << 200;
+    QTest::newRow("top, higher") << 2 << 40 << 200;
+    QTest::newRow("bottom, higher") << 3 << -40 << 200;
+    QTest::newRow("left, narrower") << 0 << -30 << 130;
+    QTest::newRow("bottom, lower") << 3 << 30 << 130;
+    // 800 wide, the handle 5, the central widget at least 300.
+    QTest::newRow("left, too wide") << 0 << 700 << 800 - 5 - 300;
+    QTest::newRow("right, too wide") << 1 << -700 << 800 - 5 - 300;
+    QTest::newRow("top, too high") << 2 << 700 << 600 - 5 - 200;
+}
+
+void ToolboxSiteTest::draggingTheHandleResizesTheSite()
+{
+    QFETCH(int, side);
+    QFETCH(int, delta);
+    QFETCH(int, size);
+    DockFixture fixture;
+    fixture.central->setMinimumSize(300, 200);
+    DockToolboxSite* const site = fixture.Site(DockLayout::Side(side));
+    site->AddWidget(fixture.Panel("a"));
+    site->SetCrossSize(160);
+    DockFixture::Settle();
+    DockToolboxSiteHandle* const handle = site->GetDockSite()->_pp()->handle;
+    const bool vertical = site->IsVertical();
+    const QPoint press(2, 2);
+    const QPoint moved = press + (vertical ? QPoint(delta, 0) : QPoint(0, delta));
+    QTest::mousePress(handle, Qt::LeftButton, {}, press);
+    QVERIFY(handle->IsPressed());
+    QMouseEvent move(QEvent::MouseMove, moved, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(handle, &move);
+    QTest::mouseRelease(handle, Qt::LeftButton, {}, moved);
+    QVERIFY(!handle->IsPressed());
+    QCOMPARE(site->GetCrossSize(), size);
+    DockFixture::Settle();
+    QCOMPARE(vertical ? site->geometry().width() : site->geometry().height(), size);
+}
+
+void ToolboxSiteTest::aGreedyCentralWidgetDoesNotHoldTheHandle()
+{
+    class Greedy : public QWidget
+    {
+    public:
+        using QWidget::QWidget;
+        QSize sizeHint() const override { return {3000, 2000}; }
+        QSize minimumSizeHint() const override { return {200, 100}; }
+    };
+    DockFixture fixture;
+    auto* const greedy = new Greedy(fixture.manager); // a child of the manager
+    delete fixture.central;
+    fixture.manager->GetLayout()->SetCentralWidget(greedy);
+    fixture.Left()->AddWidget(fixture.Panel("a"));
+    DockFixture::Settle();
+    fixture.Left()->_pp()->ResizeBy(100);
+    DockFixture::Settle();
+    QCOMPARE(fixture.Left()->geometry().width(), 200);
+    fixture.Left()->_pp()->ResizeBy(1000);
+    DockFixture::Settle();
+    QCOMPARE(fixture.Left()->geometry().width(), 800 - 5 - 200);
+}
+
+void ToolboxSiteTest::panelsOfASideShareTheWidestMinimum()
+{
+    DockFixture fixture;
+    DockWidget* const narrow = fixture.Panel("narrow", QSize(90, 80));
+    DockWidget* const wide = fixture.Panel("wide", QSize(210, 80));
+    fixture.Left()->AddWidget(wide);
+    fixture.Left()->AddWidget(narrow);
+    DockFixture::Settle();
+    QSize min(10, 20);
+    QSize max(30, 40);
+    QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    narrow->_Impl()->PostUpdate(DockWidget::Impl::UpdateSizes);
+    DockFixture::Settle();
+    QCOMPARE(narrow->minimumWidth(), 210);
+    QCOMPARE(narrow->maximumWidth(), 0xFFFFFF);
+    QCOMPARE(narrow->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(narrow->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+    Q_UNUSED(min);
+    Q_UNUSED(max);
+}
+
+void ToolboxSiteTest::clearDeletesThePanelsAndKeepsThePages()
+{
+    DockFixture fixture;
+    const QPointer<DockWidget> panel = fixture.Panel("a");
+    const QPointer<FakePage> page = DockFixture::Page(*panel);
+    fixture.Left()->AddWidget(panel);
+    fixture.Left()->SetCrossSize(200);
+    DockFixture::Settle();
+    fixture.manager->GetLayout()->Clear();
+    QVERIFY(panel.isNull());
+    QVERIFY(page);
+    QCOMPARE(page->parentWidget(), static_cast<QWidget*>(fixture.manager));
+    QVERIFY(page->isHidden());
+    QCOMPARE(fixture.Left()->GetCrossSize(), 0);
+    QCOMPARE(DockFixture::Order(*fixture.Left()), QStringList{"|"});
+}
+
+void ToolboxSiteTest::panelsKnowWhetherTheyCouldOpen()
+{
+    struct Open : DockToolboxSite
+    {
+        using DockToolboxSite::_UpdateCollapsibility;
+    };
+    DockFixture fixture(QSize(800, 300));
+    DockWidget* const a = fixture.Panel("a", QSize(100, 120));
+    DockWidget* const b = fixture.Panel("b", QSize(100, 260));
+    fixture.Left()->AddWidget(a);
+    fixture.Left()->AddWidget(b);
+    DockFixture::Settle();
+    b->SetCollapsed(true, false);
+    DockFixture::Settle();
+    const auto update = &Open::_UpdateCollapsibility;
+    (fixture.Left()->*update)(nullptr);
+    QVERIFY(a->_Impl()->expand_available);
+    QVERIFY(!b->_Impl()->expand_available);
+    b->_Impl()->expand_available = true;
+    (fixture.Left()->*update)(b);
+    QVERIFY(b->_Impl()->expand_available);
+    (fixture.Top()->*update)(nullptr);
+}
+
+void ToolboxSiteTest::sizesAreComputedOnceAChange()
+{
+    DockFixture fixture;
+    DockWidget* const panel = fixture.Panel("a");
+    fixture.Left()->AddWidget(panel);
+    DockFixture::Settle();
+    int& computations = panel->_Impl()->size_computations;
+    computations = 0;
+    for (int height = 600; height > 500; --height)
+        fixture.manager->resize(800, height);
+    DockFixture::Settle();
+    QCOMPARE(computations, 0);
+    panel->SetForcedTitle("x");
+    panel->HideContextMenu(true);
+    panel->SetClosable(false);
+    DockFixture::Settle();
+    QVERIFY(computations <= 2);
+}
+
+OVK_TEST_CLASS(ToolboxSiteTest)
+
+#include "toolbox_site_test.moc"
