@@ -211,7 +211,7 @@ private Q_SLOTS:
     void theDefaultMayBeBinaryInAFileOfTextsName()
     {
         // The fake host writes text; here the resource holds the other form.
-        mp_host = std::make_unique<FakeHost>(ovk_test::SmallCatalogue(), QJsonObject());
+        StartWithoutDefault();
         UiProfile profile;
         QVERIFY(!Profiles().LoadDefault(profile));
         const QByteArray data = FormatDocument(ovk_test::SmallProfile(), DocumentFormat::Binary);
@@ -238,7 +238,7 @@ private Q_SLOTS:
 
     void withoutAnyFileNothingIsLoadedOrSaved()
     {
-        mp_host = std::make_unique<FakeHost>(ovk_test::SmallCatalogue(), QJsonObject());
+        StartWithoutDefault();
         UiProfile profile;
         QVERIFY(!Profiles().Load(profile));
         QVERIFY(profile.IsEmpty());
@@ -385,7 +385,7 @@ private Q_SLOTS:
 
     void anUpgradeWithoutADefaultKeepsWhatTheUserHad()
     {
-        mp_host = std::make_unique<FakeHost>(ovk_test::SmallCatalogue(), QJsonObject());
+        StartWithoutDefault();
         PutProfile(OlderFile("old"), ProfileFile(VersionBefore(1), QStringLiteral("old")));
         Answer(true);
         UiProfile profile;
@@ -589,6 +589,12 @@ private:
         QTest::addColumn<QString>("name");
         QTest::newRow("binary") << UiProfileController::ffBinary << "uiprofile.fake.bin";
         QTest::newRow("text") << UiProfileController::ffJson << "uiprofile.fake.json";
+    }
+
+    void StartWithoutDefault()
+    {
+        mp_host.reset(); // one at a time
+        mp_host = std::make_unique<FakeHost>(ovk_test::SmallCatalogue(), QJsonObject());
     }
 
     UiProfileController& Profiles() { return mp_host->Profiles(); }
