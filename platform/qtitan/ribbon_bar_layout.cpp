@@ -209,13 +209,23 @@ QRect RibbonBarPrivate::titleRect() const
         if (!overflow->isHidden())
             left += overflow->width();
     }
-    const int right = q->width() - (caption ? caption->width() : 0);
+    int right = q->width() - (caption ? caption->width() : 0);
+    // The headings of contexts take a part of the row: the title goes to the larger side of them.
+    for (const ContextHeading& heading : contextHeadings()) {
+        const QRect rect = directed(heading.rect, q->width(), q->layoutDirection());
+        if (rect.left() - left >= right - rect.right())
+            right = qMin(right, rect.left());
+        else
+            left = qMax(left, rect.right() + 1);
+    }
     // In the middle of the window where that is free, otherwise in the middle of what is left.
-    const int reach = qMin(row.width() / 2 - left, right - row.width() / 2);
+    const int middle = row.width() / 2;
+    const int reach = qMin(middle - left, right - middle);
     const QString title = q->window()->windowTitle();
     const int wanted = q->fontMetrics().horizontalAdvance(title) + metrics.px(16);
     if (2 * reach >= wanted)
-        return QRect(row.width() / 2 - reach, 0, 2 * reach, row.height());
+        return directed(QRect(middle - reach, 0, 2 * reach, row.height()), q->width(),
+                        q->layoutDirection());
     return directed(QRect(left, 0, qMax(0, right - left), row.height()), q->width(),
                     q->layoutDirection());
 }
@@ -247,13 +257,22 @@ void RibbonBarPrivate::paint(QPainter& painter)
     strip.rect = tabRowRect();
     strip.anchor = currentTabRect();
     RibbonPainter::drawTabStrip(painter, strip);
-    if (captionHeight() > 0)
-        paintContexts(painter, base);
+    for (const ContextHeading& heading : contextHeadings()) {
+        RibbonPaintOption option = base;
+        option.rect = heading.rect;
+        option.text = heading.text;
+        option.contextColor = heading.color;
+        RibbonPainter::drawContextTitle(painter, option);
+    }
 }
 
 /// The titles of contexts stand in the caption above their tabs.
-void RibbonBarPrivate::paintContexts(QPainter& painter, const RibbonPaintOption& base)
+QVector<RibbonBarPrivate::ContextHeading> RibbonBarPrivate::contextHeadings() const
 {
+    QVector<ContextHeading> headings;
+    // Their tabs are covered while the backstage is open.
+    if (captionHeight() == 0 || backstage)
+        return headings;
     const QList<RibbonPage*>& tabs = tabBar->pages();
     for (int i = 0; i < tabs.size();) {
         const RibbonPage* first = tabs.at(i);
@@ -263,23 +282,20 @@ void RibbonBarPrivate::paintContexts(QPainter& painter, const RibbonPaintOption&
                && tabs.at(end)->contextTitle() == first->contextTitle()
                && tabs.at(end)->contextColor() == first->contextColor())
             rect |= tabBar->tabRect(end++);
-        i = qMax(end, i + 1);
+        i = end;
         if (!first->isContextual() || rect.isEmpty())
             continue;
         rect.translate(tabBar->pos());
         rect.setTop(RibbonMetrics::of(q).px(2));
         rect.setBottom(captionHeight() - 1);
         // Buttons of the quick access bar are more use than a heading behind them.
-        if (quickAccessVisible && rect.intersects(quickAccessClip->geometry()))
-            continue;
-        if (caption && rect.intersects(caption->geometry()))
-            continue;
-        RibbonPaintOption option = base;
-        option.rect = rect;
-        option.text = plainText(first->contextTitle());
-        option.contextColor = first->contextColor();
-        RibbonPainter::drawContextTitle(painter, option);
+        const bool covered = (quickAccessVisible && rect.intersects(quickAccessClip->geometry()))
+            || (!overflow->isHidden() && rect.intersects(overflow->geometry()))
+            || (caption && rect.intersects(caption->geometry()));
+        if (!covered)
+            headings.append({rect, plainText(first->contextTitle()), first->contextColor()});
     }
+    return headings;
 }
 
 void RibbonBarPrivate::watchWindow()

@@ -74,7 +74,13 @@ public:
     /// The area that an open backstage covers, in the coordinates of the window.
     QRect backstageRect() const;
     void paint(QPainter& painter);
-    void paintContexts(QPainter& painter, const RibbonPaintOption& base);
+    struct ContextHeading
+    {
+        QRect rect;
+        QString text;
+        QColor color;
+    };
+    QVector<ContextHeading> contextHeadings() const;
 
     // Buttons of the corner
     struct Corner

@@ -53,7 +53,12 @@ RibbonGallery::RibbonGallery(QWidget* parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
-RibbonGallery::~RibbonGallery() = default;
+RibbonGallery::~RibbonGallery()
+{
+    // A group that is a child of the gallery changes while it goes.
+    if (d->group)
+        disconnect(d->group, nullptr, this, nullptr);
+}
 
 RibbonGalleryGroup* RibbonGallery::galleryGroup() const
 {
@@ -196,7 +201,9 @@ QSize RibbonGallery::sizeHint() const
 
 QSize RibbonGallery::minimumSizeHint() const
 {
-    const int width = d->widthFor(d->minimumCount);
+    // One lonely cell on a ribbon group would say nothing about the choice.
+    const int count = d->isInRibbon() ? qMax(d->minimumCount, qMin(3, d->maximumCount)) : d->minimumCount;
+    const int width = d->widthFor(count);
     return QSize(width, d->isInRibbon() ? RibbonMetrics::of(this).largeHeight : d->highestCell() + 4);
 }
 

@@ -73,7 +73,14 @@ int RibbonGalleryPrivate::widthFor(int count) const
 
 QRect RibbonGalleryPrivate::viewRect() const
 {
-    const QRect inner = q->rect().adjusted(Frame, Frame, -Frame - barWidth(), -Frame);
+    QRect inner = q->rect().adjusted(Frame, Frame, -Frame - barWidth(), -Frame);
+    if (isInRibbon()) {
+        // Whole rows only, in the middle of the height.
+        const int row = qMax(1, highestCell());
+        const int rows = qMax(1, inner.height() / row);
+        const int rest = qMax(0, inner.height() - rows * row);
+        inner.adjust(0, rest / 2, 0, -(rest - rest / 2));
+    }
     return directed(inner, q->width(), q->layoutDirection());
 }
 

@@ -380,7 +380,7 @@ std::vector<std::pair<int, int>> RibbonGroupPrivate::reductionSteps() const
     std::vector<std::pair<int, int>> result;
     for (const RibbonGroupStep& step : panel->steps())
         result.emplace_back(step.stage, step.width);
-    if (panel->visibleCount() > 1 && collapsedWidth() < result.back().second)
+    if (panel->isWorthPopup() && collapsedWidth() < result.back().second)
         result.emplace_back(RibbonGroupStep::Popup, collapsedWidth());
     return result;
 }

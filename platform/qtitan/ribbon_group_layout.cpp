@@ -17,7 +17,7 @@ int linesOf(const RibbonLayoutItem& item, RibbonItemSize size)
 int widthOf(const RibbonLayoutItem& item, RibbonItemSize size)
 {
     if (item.kind == RibbonLayoutItem::Kind::Widget)
-        return item.width;
+        return size == RibbonItemSize::Icon && item.minWidth > 0 ? item.minWidth : item.width;
     switch (size) {
     case RibbonItemSize::Large:
         return item.largeWidth;
@@ -32,6 +32,20 @@ int widthOf(const RibbonLayoutItem& item, RibbonItemSize size)
 bool isLargeButton(const RibbonLayoutItem& item, RibbonItemSize size)
 {
     return item.kind == RibbonLayoutItem::Kind::Button && size == RibbonItemSize::Large;
+}
+
+/// Whether the item has a form without its text, or a narrower one.
+bool shrinks(const RibbonLayoutItem& item, RibbonItemSize size)
+{
+    switch (item.kind) {
+    case RibbonLayoutItem::Kind::Button:
+        return size == RibbonItemSize::Text && item.iconWidth > 0;
+    case RibbonLayoutItem::Kind::Widget:
+        return size != RibbonItemSize::Icon && item.minWidth > 0 && item.minWidth < item.width;
+    case RibbonLayoutItem::Kind::Separator:
+        break;
+    }
+    return false;
 }
 
 /// Columns under construction: where the next item goes.
@@ -119,15 +133,19 @@ RibbonGroupGeometry layoutRibbonGroup(const std::vector<RibbonLayoutItem>& items
     }
     geometry.width = columns.width();
 
-    // Buttons of a column are equally wide, so that their grounds make one block under the pointer.
+    // Buttons with text in a column are equally wide, so that their grounds make one block under the
+    // pointer. Icons alone keep to themselves, or they would drift into the middle of a wide column.
+    const auto grows = [&](std::size_t i) {
+        return items[i].kind == RibbonLayoutItem::Kind::Button && sizes[i] == RibbonItemSize::Text;
+    };
     std::vector<int> widths(static_cast<std::size_t>(columns.index()) + 1, 0);
     for (std::size_t i = 0; i < items.size(); ++i)
-        if (geometry.columns[i] >= 0) {
+        if (grows(i)) {
             int& width = widths[static_cast<std::size_t>(geometry.columns[i])];
             width = std::max(width, geometry.rects[i].width());
         }
     for (std::size_t i = 0; i < items.size(); ++i)
-        if (geometry.columns[i] >= 0 && items[i].kind == RibbonLayoutItem::Kind::Button)
+        if (grows(i))
             geometry.rects[i].setWidth(widths[static_cast<std::size_t>(geometry.columns[i])]);
     return geometry;
 }
@@ -170,8 +188,7 @@ std::vector<RibbonGroupStep> ribbonGroupSteps(const std::vector<RibbonLayoutItem
             --begin;
         std::vector<RibbonItemSize> smaller = sizes;
         for (std::size_t i = begin; i < end; ++i)
-            if (items[i].kind == RibbonLayoutItem::Kind::Button && sizes[i] == RibbonItemSize::Text
-                && items[i].iconWidth > 0)
+            if (shrinks(items[i], sizes[i]))
                 smaller[i] = RibbonItemSize::Icon;
         if (smaller != sizes
             && tryStep(steps, smaller, RibbonGroupStep::IconOnly, items, metrics, minimumWidth))

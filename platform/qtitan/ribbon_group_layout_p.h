@@ -16,7 +16,7 @@ struct RibbonLayoutItem
 {
     enum class Kind {
         Button,
-        Widget,   ///< as wide as `width`, `lines` lines high
+        Widget,   ///< as wide as `width`, `lines` lines high; wanted is Large, shrunk is Icon
         Separator ///< a vertical line, which ends a column
     };
     Kind kind = Kind::Button;
@@ -25,6 +25,7 @@ struct RibbonLayoutItem
     int textWidth = 0;
     int iconWidth = 0; ///< 0 when the button cannot go without its text
     int width = 0;     ///< of a widget
+    int minWidth = 0;  ///< to which a widget can shrink; 0 when it cannot
     int lines = 1;     ///< of a widget: 1 or 2 stack, 3 takes the full height
 };
 

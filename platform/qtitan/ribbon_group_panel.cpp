@@ -121,11 +121,16 @@ int RibbonGroupPanel::indexOf(const QAction* action) const
     return it == m_items.end() ? -1 : static_cast<int>(it - m_items.begin());
 }
 
-int RibbonGroupPanel::visibleCount() const
+bool RibbonGroupPanel::isWorthPopup() const
 {
-    return static_cast<int>(std::count_if(m_items.begin(), m_items.end(), [](const Item& item) {
-        return item.widget && isShown(item);
-    }));
+    int count = 0;
+    bool only_button = true;
+    for (const Item& item : m_items)
+        if (item.widget && isShown(item)) {
+            ++count;
+            only_button = only_button && item.button;
+        }
+    return count > 1 || (count == 1 && !only_button);
 }
 
 void RibbonGroupPanel::setLauncher(QAction* action)
@@ -178,7 +183,10 @@ std::vector<RibbonLayoutItem> RibbonGroupPanel::layoutItems(bool all_sizes) cons
             entry.kind = RibbonLayoutItem::Kind::Widget;
             const QSize hint = item.widget->sizeHint().expandedTo(item.widget->minimumSize())
                                    .boundedTo(item.widget->maximumSize());
+            entry.wanted = RibbonItemSize::Large;
             entry.width = hint.width();
+            if (qobject_cast<RibbonGallery*>(item.widget))
+                entry.minWidth = item.widget->minimumSizeHint().width();
             // A pixel too high for a line still reads as a line.
             entry.lines = qobject_cast<RibbonGallery*>(item.widget)
                 ? 3

@@ -53,8 +53,8 @@ public:
     void removeItem(const QAction* action);
     const std::vector<Item>& items() const { return m_items; }
     int indexOf(const QAction* action) const;
-    /// How many visible buttons and widgets there are.
-    int visibleCount() const;
+    /// Whether one button for the whole panel would save anything: not for a single button.
+    bool isWorthPopup() const;
 
     void setLauncher(QAction* action);
     RibbonLauncher* launcher() const { return m_launcher; }

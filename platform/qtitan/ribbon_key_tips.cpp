@@ -232,8 +232,8 @@ QRect RibbonKeyTips::badgeRect(const Tip& tip, const QWidget* parent) const
     const bool stacked = m_level != Level::Bar && m_level != Level::Backstage
         && element.height() <= 2 * metrics.lineHeight && (button || element.width() > metrics.lineHeight);
     if (stacked) {
-        // Over the lower corner of the icon: the text beside it stays readable.
-        const int x = metrics.px(3) + metrics.smallIcon * 3 / 4;
+        // Over the icon: the text beside it stays readable.
+        const int x = metrics.px(2) + metrics.smallIcon / 2;
         rect.moveCenter(QPoint(parent->layoutDirection() == Qt::RightToLeft
                                        || m_bar->layoutDirection() == Qt::RightToLeft
                                    ? element.right() - x

@@ -59,7 +59,10 @@ void DrawLine(QPainter& painter, const QRect& rect, int alignment, const QString
     painter.setPen(color);
     const int mnemonic = option.has(RibbonState::Mnemonics) ? Qt::TextShowMnemonic : 0;
     const QFontMetrics metrics(option.font, painter.device());
-    const QString shown = metrics.elidedText(text, Qt::ElideRight, rect.width(), mnemonic);
+    // Eliding measures in fractions: a text that was given exactly its width stays whole.
+    const QString shown = metrics.horizontalAdvance(text) > rect.width()
+                              ? metrics.elidedText(text, Qt::ElideRight, rect.width(), mnemonic)
+                              : text;
     const Qt::LayoutDirection before = painter.layoutDirection();
     painter.setLayoutDirection(option.direction);
     painter.drawText(rect, alignment | Qt::TextSingleLine | mnemonic, shown);

@@ -356,10 +356,9 @@ void RibbonPainter::drawButton(QPainter& painter, const RibbonButtonOption& opti
             DrawLine(painter, line, Qt::AlignHCenter | Qt::AlignVCenter, layout.lines[i], ink, option);
         }
     } else if (ShowsText(option)) {
-        const bool centred = !ShowsIcon(option) && option.menu == RibbonMenuKind::None;
-        DrawLine(painter, layout.text,
-                 (centred ? Qt::AlignHCenter : Qt::AlignLeading) | Qt::AlignVCenter, option.text,
-                 main_ink, option);
+        // Leading also without an icon: buttons of a column then begin at one edge.
+        DrawLine(painter, layout.text, Qt::AlignLeading | Qt::AlignVCenter, option.text, main_ink,
+                 option);
     }
     if (!layout.arrow.isNull())
         DrawHelpers::drawArrow(painter, layout.arrow, Qt::DownArrow, menu_ink, Px(option, ArrowSize));

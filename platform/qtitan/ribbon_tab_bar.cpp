@@ -329,9 +329,11 @@ void RibbonTabBar::paintEvent(QPaintEvent*)
                 continue;
             const RibbonPage* page = m_pages.at(i);
             const bool selected = i == current && (!bar->minimized || bar->peeking);
-            option.text = fontMetrics().elidedText(
-                plainText(page->title()), Qt::ElideRight,
-                geometry.tabs[static_cast<std::size_t>(i)].textWidth);
+            option.text = plainText(page->title());
+            if (isElided(i))
+                option.text = fontMetrics().elidedText(
+                    option.text, Qt::ElideRight,
+                    geometry.tabs[static_cast<std::size_t>(i)].textWidth);
             option.contextColor = page->contextColor();
             option.state.setFlag(RibbonState::Checked, selected);
             option.state.setFlag(RibbonState::Hover, i == m_hovered);
