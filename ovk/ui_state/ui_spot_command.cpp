@@ -12,6 +12,14 @@ namespace {
 
 const QLatin1String key_style("style");
 
+/// The style of a number in a file; one that stands for no style means the icon alone.
+Qt::ToolButtonStyle StyleOf(int number)
+{
+    return number >= Qt::ToolButtonIconOnly && number <= Qt::ToolButtonFollowStyle
+               ? static_cast<Qt::ToolButtonStyle>(number)
+               : Qt::ToolButtonIconOnly;
+}
+
 } // namespace
 
 UiSpotCommand::UiSpotCommand(IUiItem& item, Qt::ToolButtonStyle style)
@@ -92,7 +100,7 @@ QJsonObject UiSpotCommand::ToJson() const
 bool UiSpotCommand::FromJson(const QJsonObject& json)
 {
     const QJsonValue style = json.value(key_style);
-    m_style = static_cast<Qt::ToolButtonStyle>(style.toInt(0));
+    m_style = StyleOf(style.toInt(0));
     _ReadState(json, style.isUndefined() ? 0 : 1);
     return true;
 }

@@ -51,7 +51,7 @@ public:
     UiProfileItem* Clone() const override;
     /// Adds "style", only when it is not 0.
     QJsonObject ToJson() const override;
-    /// Reads "style", by default 0.
+    /// Reads "style", by default 0, which a number outside the enumeration means too.
     bool FromJson(const QJsonObject& json) override;
 
     /// "command".

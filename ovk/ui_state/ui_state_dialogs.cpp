@@ -3,6 +3,7 @@
 #include <QtCore/QJsonObject>
 
 #include <algorithm>
+#include <limits>
 
 namespace ovk {
 
@@ -12,6 +13,14 @@ const QLatin1String key_left("l");
 const QLatin1String key_top("t");
 const QLatin1String key_width("w");
 const QLatin1String key_height("h");
+
+/// Where a line of that length ends, as far as numbers go.
+int EndOf(int start, int length)
+{
+    using Limits = std::numeric_limits<int>;
+    return static_cast<int>(
+        qBound<qint64>(Limits::min(), qint64(start) - 1 + length, Limits::max()));
+}
 
 } // namespace
 
@@ -50,8 +59,10 @@ QJsonObject UiStateDialog::ToJson() const
 
 bool UiStateDialog::FromJson(const QJsonObject& json)
 {
-    m_geometry = QRect(json.value(key_left).toInt(0), json.value(key_top).toInt(0),
-                       json.value(key_width).toInt(0), json.value(key_height).toInt(0));
+    const int left = json.value(key_left).toInt(0);
+    const int top = json.value(key_top).toInt(0);
+    m_geometry.setCoords(left, top, EndOf(left, json.value(key_width).toInt(0)),
+                         EndOf(top, json.value(key_height).toInt(0)));
     return UiProfileItem::FromJson(json);
 }
 

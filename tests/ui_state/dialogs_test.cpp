@@ -32,6 +32,10 @@ private Q_SLOTS:
                                      << QByteArray("{'id': 'd', 'l': 10, 't': 20, 'w': 300, 'h': 200}");
         QTest::newRow("no keys") << QByteArray("{'id': 'd'}") << QRect(QPoint(0, 0), QPoint(-1, -1))
                                  << QByteArray("{'id': 'd', 'l': 0, 't': 0, 'w': 0, 'h': 0}");
+        QTest::newRow("past all numbers")
+            << QByteArray("{'id': 'd', 'l': 2147483647, 't': 0, 'w': 10, 'h': 1}")
+            << QRect(QPoint(2147483647, 0), QPoint(2147483647, 0))
+            << QByteArray("{'id': 'd', 'l': 2147483647, 't': 0, 'w': 1, 'h': 1}");
         QTest::newRow("no width") << QByteArray("{'id': 'd', 'l': 5, 't': 5, 'h': 9}")
                                   << QRect(QPoint(5, 5), QPoint(4, 13))
                                   << QByteArray("{'id': 'd', 'l': 5, 't': 5, 'w': 0, 'h': 9}");

@@ -77,6 +77,14 @@ private Q_SLOTS:
         QCOMPARE(site.ToJson().value("spots").toArray().at(0).toObject(), Json("{'id': 'A'}"));
     }
 
+    void styleThatIsNoneMeansTheIconAlone()
+    {
+        for (const int style : {-1, 5, 99}) {
+            const UiSpotCommand spot(QJsonObject{{"id", "A"}, {"style", style}});
+            QCOMPARE(spot.GetStyle(), Qt::ToolButtonIconOnly);
+        }
+    }
+
     void spotOfUnknownTypeIsSkippedAndReported()
     {
         FakeHost host;
