@@ -312,7 +312,9 @@ QRect RibbonGroupPanel::widgetRect(const Item& item)
     const int room = item.rect.height();
     const bool grows = item.widget->sizePolicy().expandingDirections() & Qt::Vertical
         || qobject_cast<RibbonGallery*>(item.widget);
-    const int height = grows ? room : qMin(room, item.widget->sizeHint().height());
+    // Fields one below the other keep their frames apart.
+    const int air = 2 * RibbonMetrics::of(item.widget).px(1);
+    const int height = grows ? room : qMin(room - air, item.widget->sizeHint().height());
     return QRect(item.rect.x(), item.rect.y() + (room - height) / 2, item.rect.width(), height);
 }
 

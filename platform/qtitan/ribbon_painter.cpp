@@ -130,17 +130,12 @@ QColor RibbonPainter::textColor(Element element, const RibbonPaintOption& option
 void RibbonPainter::drawFocus(QPainter& painter, const RibbonPaintOption& option)
 {
     const RibbonTheme& theme = RibbonTheme::current();
-    // A dark line with a light one inside is seen on every ground.
-    const QColor line = theme.family() == Family::Office2013
+    const QColor line = option.contextColor.isValid() ? option.contextColor
+                        : theme.family() == Family::Office2013 || theme.isHighContrast()
                             ? theme[Element::Page].text
                             : DrawHelpers::legible(theme[Element::EditFocus].border,
                                                    {theme[Element::Page].middle}, 3.0);
-    const int radius = theme.cornerRadius();
-    DrawHelpers::drawFrame(painter, option.rect, line, Qt::NoBrush, radius);
-    DrawHelpers::drawFrame(painter, option.rect.adjusted(1, 1, -1, -1),
-                           DrawHelpers::textOn(line) == QColor(Qt::white) ? QColor(255, 255, 255, 200)
-                                                                          : QColor(0, 0, 0, 200),
-                           Qt::NoBrush, std::max(0, radius - 1));
+    DrawHelpers::drawFrame(painter, option.rect, line, Qt::NoBrush, theme.cornerRadius());
 }
 
 } // namespace Qtitan

@@ -195,7 +195,8 @@ void RibbonPainter::drawTab(QPainter& painter, const RibbonPaintOption& option)
     painter.restore();
     if (option.has(RibbonState::Focus)) {
         RibbonPaintOption focus = option;
-        focus.rect = option.rect.adjusted(2, 3, -2, -2);
+        focus.rect = option.rect.adjusted(3, 3, -3, -2);
+        focus.contextColor = look.text;
         drawFocus(painter, focus);
     }
 }
@@ -326,6 +327,7 @@ void RibbonPainter::drawSystemButton(QPainter& painter, const RibbonPaintOption&
     if (option.has(RibbonState::Focus)) {
         RibbonPaintOption focus = option;
         focus.rect = option.rect.adjusted(2, 2, -2, -2);
+        focus.contextColor = ink;
         drawFocus(painter, focus);
     }
 }

@@ -18,7 +18,6 @@ constexpr int SmallPadding = 3;
 constexpr int TextPadding = 6;
 constexpr int IconGap = 4;
 constexpr int LargePadding = 5;
-constexpr int ArrowSize = 5;
 constexpr int ArrowSpace = 9;  ///< an arrow behind text
 constexpr int MenuWidth = 13;  ///< the menu's part of a small button
 
@@ -53,6 +52,12 @@ ButtonElements ElementsFor(RibbonGround ground)
     }
     return {Element::Button, Element::ButtonHover, Element::ButtonPressed, Element::ButtonChecked,
             Element::ButtonCheckedHover};
+}
+
+/// An odd base, so that the tip is sharp; larger with the text.
+int ArrowSize(const RibbonButtonOption& option)
+{
+    return std::max(Px(option, 5), QFontMetrics(option.font).height() / 3) | 1;
 }
 
 bool ShowsText(const RibbonButtonOption& option)
@@ -361,7 +366,7 @@ void RibbonPainter::drawButton(QPainter& painter, const RibbonButtonOption& opti
                  option);
     }
     if (!layout.arrow.isNull())
-        DrawHelpers::drawArrow(painter, layout.arrow, Qt::DownArrow, menu_ink, Px(option, ArrowSize));
+        DrawHelpers::drawArrow(painter, layout.arrow, Qt::DownArrow, menu_ink, ArrowSize(option));
     if (option.has(RibbonState::Focus))
         drawFocus(painter, option);
     painter.restore();

@@ -128,10 +128,11 @@ public:
     /// \{
     /// The page's ground and border; the border is open under `anchor`.
     static void drawPage(QPainter& painter, const RibbonPaintOption& option);
-    /// Frame of a group as a whole, title strip included.
+    /// Frame of a group as a whole, title strip included, in the looks that have one.
     static void drawGroup(QPainter& painter, const RibbonPaintOption& option);
     /// Title strip of a group; `rect` is the strip.
     static void drawGroupTitle(QPainter& painter, const RibbonPaintOption& option);
+    /// Line between two groups in the looks without frames, at the left edge of `rect`.
     static void drawGroupSeparator(QPainter& painter, const RibbonPaintOption& option);
     /// Vertical line between buttons of a group.
     static void drawSeparator(QPainter& painter, const RibbonPaintOption& option);
@@ -181,7 +182,7 @@ public:
                                   Qt::ArrowType arrow);
     /// \}
 
-    /// Mark of the keyboard's focus, inside `rect`.
+    /// Mark of the keyboard's focus, inside `rect`; in `contextColor` where that is valid.
     static void drawFocus(QPainter& painter, const RibbonPaintOption& option);
 
     /// The colour of text on an element that is drawn with this option's state.

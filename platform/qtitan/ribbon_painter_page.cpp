@@ -126,8 +126,11 @@ void RibbonPainter::drawGroupTitle(QPainter& painter, const RibbonPaintOption& o
 void RibbonPainter::drawGroupSeparator(QPainter& painter, const RibbonPaintOption& option)
 {
     const RibbonTheme& theme = RibbonTheme::current();
+    // Frames part the groups of the 2007 looks.
+    if (theme.family() == Family::Office2007)
+        return;
     const ThemeLook& look = theme[Element::GroupSeparator];
-    const QRect line(option.rect.center().x(), option.rect.top(), 2, option.rect.height());
+    const QRect line(option.rect.left(), option.rect.top(), 2, option.rect.height());
     if (theme.family() == Family::Office2013)
         painter.fillRect(line.left(), line.top() + Px(option, 2), 1, line.height() - Px(option, 4),
                          look.middle);
@@ -210,6 +213,7 @@ void RibbonPainter::drawCollapsedGroup(QPainter& painter, const RibbonPaintOptio
     const QColor ink = disabled ? theme[Element::Button].disabled : theme[element].text;
     const QStringList lines = splitText(option.text, option.font, Px(option, 9));
     const int text_top = frame.bottom() + 1 + Px(option, 3);
+    const int arrow_size = std::max(Px(option, 5), metrics.height() / 3) | 1;
     for (int i = 0; i < lines.size(); ++i) {
         QRect line(body.left() + 1, text_top + i * metrics.height(), body.width() - 2, metrics.height());
         if (i == 1) {
@@ -219,7 +223,7 @@ void RibbonPainter::drawCollapsedGroup(QPainter& painter, const RibbonPaintOptio
             const QRect arrow = Visual(option, block, QRect(block.right() - Px(option, 9) + 1, block.top(),
                                                             Px(option, 9), block.height()));
             DrawLine(painter, text, Qt::AlignCenter, lines[1], ink, option);
-            DrawHelpers::drawArrow(painter, arrow, Qt::DownArrow, ink, Px(option, 5));
+            DrawHelpers::drawArrow(painter, arrow, Qt::DownArrow, ink, arrow_size);
         } else {
             DrawLine(painter, line, Qt::AlignCenter, lines[0], ink, option);
         }
@@ -228,7 +232,7 @@ void RibbonPainter::drawCollapsedGroup(QPainter& painter, const RibbonPaintOptio
         DrawHelpers::drawArrow(painter,
                                QRect(body.left(), text_top + metrics.height(), body.width(),
                                      metrics.height()),
-                               Qt::DownArrow, ink, Px(option, 5));
+                               Qt::DownArrow, ink, arrow_size);
     painter.restore();
     if (option.has(RibbonState::Focus))
         drawFocus(painter, option);
