@@ -135,6 +135,8 @@ UiCustomizeDialog::Impl::Impl(UiCustomizeDialog& owner)
 
 UiCustomizeDialog::Impl::~Impl()
 {
+    // The stack turns to another page as each goes, and nobody is left to ask for changes.
+    mp_stack->disconnect(this);
     m_observers.clear();
     delete mp_sites;
     delete mp_style;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ovk/core/export.h>
+
 #include <QLabel>
 #include <QPoint>
 #include <QRect>
@@ -9,10 +11,10 @@ namespace ovk {
 
 /// Where a hint of `size` goes for a pointer at `position`: a little below and to the right, turned
 /// over at the right and bottom edges of `screen`, and kept on it.
-QPoint HintPosition(const QPoint& position, const QSize& size, const QRect& screen);
+OVK_TEST_EXPORT QPoint HintPosition(const QPoint& position, const QSize& size, const QRect& screen);
 
 /// A label that looks like a tool tip and stays until it is hidden. At most one exists.
-class PersistentHint : public QLabel
+class OVK_TEST_EXPORT PersistentHint : public QLabel
 {
     Q_OBJECT
 

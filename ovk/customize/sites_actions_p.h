@@ -1,5 +1,7 @@
 #pragma once
 
+#include <ovk/core/export.h>
+
 #include <array>
 #include <vector>
 
@@ -63,7 +65,7 @@ struct SitesActionText
     const char* status_tip;
 };
 
-const std::array<SitesActionText, c_sites_action_count>& SitesActionTexts();
+OVK_TEST_EXPORT const std::array<SitesActionText, c_sites_action_count>& SitesActionTexts();
 
 /// The tool button that shows an action.
 struct SitesButton
@@ -72,7 +74,7 @@ struct SitesButton
     SitesAction action;
 };
 
-const std::vector<SitesButton>& SitesButtons();
+OVK_TEST_EXPORT const std::vector<SitesButton>& SitesButtons();
 
 /// The trees of the page, the tabs in their order first.
 enum class SitesTree
@@ -107,7 +109,7 @@ struct SitesOffer
 };
 
 /// The offer of a tree for a selection, null when there is none.
-const SitesOffer* FindSitesOffer(SitesTree tree, SitesSelection selection);
+OVK_TEST_EXPORT const SitesOffer* FindSitesOffer(SitesTree tree, SitesSelection selection);
 
 /// Whether an action deletes, and is therefore enabled by what it would delete.
 bool IsSitesDelete(SitesAction action);

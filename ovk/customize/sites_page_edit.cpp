@@ -63,9 +63,12 @@ void UiCustomizeSitesWidget::Impl::OnRowsInserted(const Site& site, const QModel
     const QModelIndex inserted = shown(site.model->index(row, 0, parent));
     if (!site.model->IsDropping() && inserted.isValid()) {
         site.view->scrollTo(inserted);
-        // The user types the name of what was added at once.
-        if (inserted.flags() & Qt::ItemIsEditable)
+        // The user types the name of what was added at once. What was being edited is finished
+        // first, and what the buttons act on is what was added.
+        if (inserted.flags() & Qt::ItemIsEditable) {
+            site.view->setCurrentIndex(inserted);
             site.view->edit(inserted);
+        }
     }
     const QModelIndex above = shown(parent);
     if (above.isValid() && !site.view->isExpanded(above))
