@@ -64,7 +64,7 @@ public:
     /// Holds T().
     ObservableValue() : m_data() {}
     /// Holds \a data.
-    explicit ObservableValue(const T& data) : m_data(data) {}
+    ObservableValue(const T& data) : m_data(data) {}
     ~ObservableValue() override = default;
 
     /// Stores \a data and notifies, unless it is equal to the stored value.
