@@ -77,7 +77,8 @@ void DockWidget::Impl::OnResized(const QSize& size)
     if (block_overlay)
         block_overlay->setGeometry(0, 0, size.width() - 1, size.height() - 1);
     IDockPage* const page = GetCurrentPage();
-    if (page && floated && !collapsed)
+    // Only the user's sizes count, not the limits that the panel takes on the way.
+    if (page && floated && !collapsed && !m_applying_sizes)
         page->SetPrefferedSize(size);
 }
 

@@ -181,6 +181,7 @@ private:
     /// A page may be half destroyed when it is taken out: its widget is not asked of it then.
     QHash<const IDockPage*, QWidget*> m_widgets;
     bool m_focus_page = false;
+    bool m_applying_sizes = false;
 };
 
 } // namespace ovk

@@ -151,6 +151,7 @@ void DockWidget::Impl::ApplySizes()
             window->setSizePolicy(policy);
     }
     max = max.expandedTo(min);
+    m_applying_sizes = true;
     window->setMinimumSize(min);
     window->setMaximumSize(max);
     if (!Site() && page) {
@@ -158,6 +159,7 @@ void DockWidget::Impl::ApplySizes()
         if (preferred.width() >= 0 && preferred.height() >= 0)
             window->resize(preferred);
     }
+    m_applying_sizes = false;
 }
 
 void DockWidget::Impl::LayoutChildren()

@@ -60,7 +60,7 @@ public:
         ovk::DockSettings::Animated().SetData(false);
         manager = new ovk::DockManager(&window); // a child of the window
         window.resize(size);
-        window.move(100, 100);
+        window.move(0, 0);
         manager->resize(size);
         central = new QWidget(manager); // a child of the manager
         manager->GetLayout()->SetCentralWidget(central);
