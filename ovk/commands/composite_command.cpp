@@ -4,6 +4,7 @@
 #include "ovk/commands/ui_command.h"
 #include "ovk/ui_state/ui_spot_command.h"
 
+#include <QEvent>
 #include <QScopedValueRollback>
 #include <QToolBar>
 #include <QToolButton>
@@ -21,6 +22,8 @@ public:
 
     bool event(QEvent* event) override
     {
+        if (event->type() == QEvent::DeferredDelete)
+            return QMenu::event(event); // ends this object
         const QScopedValueRollback<int> busy(m_depth, m_depth + 1);
         return QMenu::event(event);
     }

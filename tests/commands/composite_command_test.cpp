@@ -213,6 +213,23 @@ private Q_SLOTS:
         QVERIFY(!menu.GetMenu());
     }
 
+    void aCommandOfThePopupMayDeleteTheComposite()
+    {
+        auto menu = std::make_unique<ovk::CommandsMenu>("menu");
+        FakeCommand a("A");
+        menu->Add(&a);
+        a.on_execute = [&menu] { menu.reset(); };
+        const QPointer<QMenu> popup = menu->GetMenu();
+        popup->popup(QPoint(10, 10));
+        QVERIFY(QTest::qWaitForWindowExposed(popup));
+        popup->setActiveAction(&a);
+        QTest::keyClick(popup, Qt::Key_Return);
+        QCOMPARE(a.executed, 1);
+        QVERIFY(!menu);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!popup);
+    }
+
     void aCloneSharesItemsAndBuildsItsOwnPopup_data() { bothKinds(); }
     void aCloneSharesItemsAndBuildsItsOwnPopup()
     {
