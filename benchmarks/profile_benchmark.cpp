@@ -6,8 +6,8 @@
 // - cloning: copying a plain tree; at most 2 times
 // - merging and validating: in proportion to the number of nodes
 //
-// A profile has a user's tree and a base of the same size, ribbons mostly, with tool bars, menus and
-// shortcuts. Runs without a display: QT_QPA_PLATFORM=offscreen.
+// A profile has a user's tree and a base of the same size, ribbons mostly, with tool bars, menus
+// and shortcuts. Runs without a display: QT_QPA_PLATFORM=offscreen.
 
 #include <benchmark/benchmark.h>
 
@@ -30,8 +30,8 @@ namespace {
 
 using namespace ovk;
 
-constexpr int SPOTS = 8;    // of a group, a tool bar or a menu
-constexpr int GROUPS = 6;   // of a page
+constexpr int SPOTS = 8;  // of a group, a tool bar or a menu
+constexpr int GROUPS = 6; // of a page
 constexpr int COMMANDS = 500;
 const QString LAYOUT = QStringLiteral("Layout");
 
@@ -89,8 +89,7 @@ public:
             ribbon->children.push_back(std::move(page));
             toolbars->children.push_back(Site("toolbar", Kind::Toolbar));
             --m_left;
-            shortcuts->children.push_back(
-                MakePlain(CommandId(m_number++), Kind::Binding, nullptr));
+            shortcuts->children.push_back(MakePlain(CommandId(m_number++), Kind::Binding, nullptr));
         }
         auto layout = MakePlain(LAYOUT, Kind::Layout, nullptr);
         layout->children.push_back(std::move(ribbon));
@@ -103,7 +102,8 @@ private:
     std::unique_ptr<Plain> Node(const char* prefix, Kind kind, const char* tag)
     {
         --m_left;
-        return MakePlain(QStringLiteral("%1.%2").arg(QLatin1String(prefix)).arg(m_number++), kind, tag);
+        return MakePlain(QStringLiteral("%1.%2").arg(QLatin1String(prefix)).arg(m_number++), kind,
+                         tag);
     }
 
     std::unique_ptr<Plain> Site(const char* prefix, Kind kind)
@@ -219,9 +219,11 @@ std::unique_ptr<Plain> PlainProfile(const QJsonObject& object)
     auto profile = std::make_unique<Plain>();
     const QJsonArray layouts = object.value(QLatin1String("layouts")).toArray();
     for (int i = 0; i < layouts.size(); ++i) {
-        const QJsonObject states = layouts.at(i).toObject().value(QLatin1String("states")).toObject();
+        const QJsonObject states =
+            layouts.at(i).toObject().value(QLatin1String("states")).toObject();
         auto layout = std::make_unique<Plain>();
-        layout->children.push_back(PlainOf(states.value(QLatin1String("ribbon")).toObject(), ribbon));
+        layout->children.push_back(
+            PlainOf(states.value(QLatin1String("ribbon")).toObject(), ribbon));
         layout->children.push_back(
             PlainOf(states.value(QLatin1String("shortcuts")).toObject(), bindings));
         layout->children.push_back(
@@ -315,8 +317,7 @@ struct File
 };
 
 /// The trees are taken down outside the measured time on both sides alike.
-template <typename Make>
-void MeasureMaking(benchmark::State& state, int count, Make make)
+template <typename Make> void MeasureMaking(benchmark::State& state, int count, Make make)
 {
     for (auto _ : state) {
         auto made = make();
@@ -438,12 +439,12 @@ void Validate(benchmark::State& state)
     state.SetComplexityN(CountOf(*file.user));
 }
 
-#define OVK_PROFILE_BENCHMARK(Function)                                                             \
-    BENCHMARK(Function)                                                                             \
-        ->Arg(5000)                                                                                 \
-        ->Arg(20000)                                                                                \
-        ->Arg(80000)                                                                                \
-        ->Unit(benchmark::kMicrosecond)                                                             \
+#define OVK_PROFILE_BENCHMARK(Function)                                                            \
+    BENCHMARK(Function)                                                                            \
+        ->Arg(5000)                                                                                \
+        ->Arg(20000)                                                                               \
+        ->Arg(80000)                                                                               \
+        ->Unit(benchmark::kMicrosecond)                                                            \
         ->Complexity(benchmark::oN)
 
 OVK_PROFILE_BENCHMARK(LoadFloor);

@@ -33,8 +33,7 @@ UiCommand* FindCommand(const QString& id)
     return features ? features->GetCommandFromActiveProduct(id, 0) : nullptr;
 }
 
-template <class State>
-State* SuiteOf(UiLayout& layout)
+template <class State> State* SuiteOf(UiLayout& layout)
 {
     return dynamic_cast<State*>(layout.GetState(State::GetSuiteName()));
 }
@@ -110,10 +109,10 @@ void ConvertShortcuts(const legacy_profile::Layout& old, UiStateShortcuts& short
 
 QKeySequence LegacyKeySequence(const legacy_profile::Shortcut& shortcut)
 {
-    const int code = shortcut.extended ? (shortcut.keyCode & 0xFFFF) | EXTENDED_KEY
-                                       : shortcut.keyCode;
-    const int modifiers = (shortcut.ctrl ? int(Qt::CTRL) : 0) | (shortcut.alt ? int(Qt::ALT) : 0)
-                          | (shortcut.shift ? int(Qt::SHIFT) : 0);
+    const int code =
+        shortcut.extended ? (shortcut.keyCode & 0xFFFF) | EXTENDED_KEY : shortcut.keyCode;
+    const int modifiers = (shortcut.ctrl ? int(Qt::CTRL) : 0) | (shortcut.alt ? int(Qt::ALT) : 0) |
+                          (shortcut.shift ? int(Qt::SHIFT) : 0);
     const QString modifier_text = QKeySequence(modifiers).toString(QKeySequence::PortableText);
     const QString key_name = KeyName(code).remove(QLatin1String("Num "));
     return QKeySequence(modifier_text + key_name);

@@ -30,8 +30,7 @@ public:
 /// \tparam Child the class of the children
 /// \tparam Created what a JSON object becomes; `Dummy::Dummy` where `Child` is abstract and `Self`
 /// overrides `_CreateSubItem`
-template <class Self, class Child, class Created>
-class TUiState : public UiState
+template <class Self, class Child, class Created> class TUiState : public UiState
 {
 public:
     explicit TUiState(const QJsonObject& object) : UiState(object) {}
@@ -118,7 +117,10 @@ public:
     }
 
 protected:
-    UiProfileItem* _CreateSubItem(const QJsonObject& object) override { return new Created(object); }
+    UiProfileItem* _CreateSubItem(const QJsonObject& object) override
+    {
+        return new Created(object);
+    }
 
     /// Inserts a `Child`, at the end if the index is past it; anything else is not inserted.
     void _InsertChild(int index, ITreeItem* child) override

@@ -44,8 +44,8 @@ public:
 
     void FindComposites()
     {
-        composites = dynamic_cast<UiStateComposites*>(
-            _pr().GetState(UiStateComposites::GetSuiteName()));
+        composites =
+            dynamic_cast<UiStateComposites*>(_pr().GetState(UiStateComposites::GetSuiteName()));
     }
 
     QList<UiState*> states;

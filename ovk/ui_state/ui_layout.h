@@ -12,7 +12,8 @@ class UiProfile;
 class UiState;
 
 /// One complete arrangement of the interface: one of each of the eight state suites. A product has
-/// a layout for each of its working modes; one of them is on screen, and UiController puts it there.
+/// a layout for each of its working modes; one of them is on screen, and UiController puts it
+/// there.
 class OVK_EXPORT UiLayout : public UiStateItem
 {
 public:

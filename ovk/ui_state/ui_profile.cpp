@@ -169,8 +169,7 @@ QJsonObject UiProfile::ToJson() const
     if (_pr().base)
         object.insert(KEY_BASE, _pr().base->ToJson());
     if (!GetParent()) {
-        object.insert(KEY_DESCRIPTION,
-                      QStringLiteral("Corvantique (c) multi-layout UI profile"));
+        object.insert(KEY_DESCRIPTION, QStringLiteral("Corvantique (c) multi-layout UI profile"));
         object.insert(KEY_VERSION, Application::GetInstance().GetVersionInfo().ToString());
         object.insert(KEY_PRODUCT, _pr().product);
         object.insert(KEY_COUNTER, _pr().counter);

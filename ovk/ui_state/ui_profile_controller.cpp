@@ -52,7 +52,8 @@ DocumentFormat DocumentFormatOf(UiProfileController::FileFormat format)
 
 UiProfileController::FileFormat FormatOf(const QString& extension)
 {
-    return extension == EXTENSION_JSON ? UiProfileController::ffJson : UiProfileController::ffBinary;
+    return extension == EXTENSION_JSON ? UiProfileController::ffJson
+                                       : UiProfileController::ffBinary;
 }
 
 QString ExtensionOf(const QString& path)
@@ -181,8 +182,8 @@ public:
         needs_merge = extension != EXTENSION_LEGACY || !loader;
         if (!needs_merge) {
             if (LoadLegacy(profile, path))
-                Log(QStringLiteral("Update Gui profile from old format version: ")
-                    + version.ToString());
+                Log(QStringLiteral("Update Gui profile from old format version: ") +
+                    version.ToString());
         } else if (ReadFile(profile, path, FormatOf(extension), Extent::Whole)) {
             Log(QStringLiteral("Update Gui profile from version: ") + version.ToString());
         }
@@ -204,8 +205,8 @@ public:
             const QString path = files.next();
             VersionInfo version;
             QString product;
-            if (Header(path, version, product) && product == product_name && current > version
-                && version > best_version) {
+            if (Header(path, version, product) && product == product_name && current > version &&
+                version > best_version) {
                 best = path;
                 best_version = version;
             }
@@ -290,8 +291,8 @@ bool UiProfileController::Load(UiProfile& profile, const QString& path, FileForm
 bool UiProfileController::LoadDefault(UiProfile& profile)
 {
     // A resource of that extension may hold either form.
-    return ReadFile(profile, ResourcePath(), ffJson, Extent::Whole)
-           || ReadFile(profile, ResourcePath(), ffBinary, Extent::Whole);
+    return ReadFile(profile, ResourcePath(), ffJson, Extent::Whole) ||
+           ReadFile(profile, ResourcePath(), ffBinary, Extent::Whole);
 }
 
 void UiProfileController::Save(UiProfile& profile)

@@ -10,10 +10,10 @@
 #include <typeinfo>
 
 #ifdef __GNUG__
-#    include <cxxabi.h>
+#include <cxxabi.h>
 
-#    include <cstdlib>
-#    include <memory>
+#include <cstdlib>
+#include <memory>
 #endif
 
 namespace ovk {
@@ -35,8 +35,8 @@ QString ReadableTypeName(const std::type_info& type)
 QString LastComponent(const QString& typeName)
 {
     const QString plain = typeName.left(typeName.indexOf(QLatin1Char('<')));
-    const int separator = qMax(plain.lastIndexOf(QLatin1Char(':')),
-                               plain.lastIndexOf(QLatin1Char(' ')));
+    const int separator =
+        qMax(plain.lastIndexOf(QLatin1Char(':')), plain.lastIndexOf(QLatin1Char(' ')));
     return plain.mid(separator + 1);
 }
 

@@ -18,10 +18,10 @@ struct Suite
     UiState* (*make)();
 };
 
-template <class State>
-constexpr Suite SuiteOf()
+template <class State> constexpr Suite SuiteOf()
 {
-    return {[]() -> QString { return State::GetSuiteName(); }, []() -> UiState* { return new State; }};
+    return {[]() -> QString { return State::GetSuiteName(); },
+            []() -> UiState* { return new State; }};
 }
 
 constexpr Suite SUITES[] = {

@@ -11,11 +11,11 @@ public:
     /// What the user may do with a node. The files hold the numbers.
     enum ItemPersitence : int
     {
-        ipFixed = 0,            ///< Written; can neither be hidden nor deleted.
-        ipOrdinary = 1,         ///< Written; can be hidden and deleted. The default.
-        ipRunTime = 2,          ///< Exists while the program runs, never written.
-        ipBuiltInHideable = 3,  ///< Built in, written; can be hidden.
-        ipBuiltIn = 4           ///< Built in, written; always there.
+        ipFixed = 0,           ///< Written; can neither be hidden nor deleted.
+        ipOrdinary = 1,        ///< Written; can be hidden and deleted. The default.
+        ipRunTime = 2,         ///< Exists while the program runs, never written.
+        ipBuiltInHideable = 3, ///< Built in, written; can be hidden.
+        ipBuiltIn = 4          ///< Built in, written; always there.
     };
 
     ~UiStateItem() override;

@@ -22,9 +22,10 @@ QJsonObject Object(const QByteArray& json)
 /// A profile with this ribbon in the layout "Model".
 QByteArray Ribbon(const QByteArray& pages, const QByteArray& more = {})
 {
-    return "{\"profile\": {\"version\": \"1.0.0.0\", \"product\": \"Fake\", \"counter\": 1" + more
-           + ", \"layouts\": [{\"id\": \"Model\", \"states\": {\"ribbon\": {\"id\": \"ribbon\", \"pages\": ["
-           + pages + "]}}}]}}";
+    return "{\"profile\": {\"version\": \"1.0.0.0\", \"product\": \"Fake\", \"counter\": 1" + more +
+           ", \"layouts\": [{\"id\": \"Model\", \"states\": {\"ribbon\": {\"id\": \"ribbon\", "
+           "\"pages\": [" +
+           pages + "]}}}]}}";
 }
 
 } // namespace
@@ -69,7 +70,8 @@ private Q_SLOTS:
         const QString profile = Put("a.json", QJsonDocument(ovk_test::SmallProfile()).toJson());
         const QString catalogue = Put("c.json", QJsonDocument(ovk_test::SmallCatalogue()).toJson());
         QCOMPARE(Run({"validate", profile, catalogue}), 0);
-        QVERIFY2(m_out.endsWith(QLatin1String("0 errors, 1 warning\n")), qPrintable(m_out)); // version 0
+        QVERIFY2(m_out.endsWith(QLatin1String("0 errors, 1 warning\n")),
+                 qPrintable(m_out)); // version 0
         QCOMPARE(Run({"validate", "--strict", profile}), 1);
     }
 
@@ -77,51 +79,77 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("file");
         QTest::addColumn<QString>("line");
-        QTest::newRow("wrong type") << Ribbon(R"({"id": "p", "visible": 1})")
+        QTest::newRow("wrong type")
+            << Ribbon(R"({"id": "p", "visible": 1})")
             << "error: profile/Model/ribbon/p: \"visible\" is not true or false";
-        QTest::newRow("persistence") << Ribbon(R"({"id": "p", "persistence": 5})")
+        QTest::newRow("persistence")
+            << Ribbon(R"({"id": "p", "persistence": 5})")
             << "error: profile/Model/ribbon/p: \"persistence\" is 5, not in 0 to 4";
-        QTest::newRow("half a number") << Ribbon(R"({"id": "p", "persistence": 1.5})")
+        QTest::newRow("half a number")
+            << Ribbon(R"({"id": "p", "persistence": 1.5})")
             << "error: profile/Model/ribbon/p: \"persistence\" is not an integer";
-        QTest::newRow("unknown key") << Ribbon(R"({"id": "p", "colour": 1})")
+        QTest::newRow("unknown key")
+            << Ribbon(R"({"id": "p", "colour": 1})")
             << "warning: profile/Model/ribbon/p: \"colour\" is unknown here";
         QTest::newRow("no id") << Ribbon(R"({"id": "p"}, {"title": "q"})")
-            << "warning: profile/Model/ribbon/[1]: has no \"id\"";
-        QTest::newRow("id of another type") << Ribbon(R"({"id": 5})")
-            << "error: profile/Model/ribbon/[0]: \"id\" is not a string";
-        QTest::newRow("no object") << Ribbon("7") << "error: profile/Model/ribbon/[0]: is not an object";
+                               << "warning: profile/Model/ribbon/[1]: has no \"id\"";
+        QTest::newRow("id of another type")
+            << Ribbon(R"({"id": 5})") << "error: profile/Model/ribbon/[0]: \"id\" is not a string";
+        QTest::newRow("no object")
+            << Ribbon("7") << "error: profile/Model/ribbon/[0]: is not an object";
         QTest::newRow("twice") << Ribbon(R"({"id": "p"}, {"id": "p"})")
-            << "warning: profile/Model/ribbon/p: stands here more than once";
+                               << "warning: profile/Model/ribbon/p: stands here more than once";
         QTest::newRow("groups") << Ribbon(R"({"id": "p", "groups": {}})")
-            << "error: profile/Model/ribbon/p: \"groups\" has the wrong type";
-        QTest::newRow("spot type") << Ribbon(R"({"id": "p", "groups": [{"id": "g", "spots": [{"id": "s", "type": "x"}]}]})")
+                                << "error: profile/Model/ribbon/p: \"groups\" has the wrong type";
+        QTest::newRow("spot type")
+            << Ribbon(
+                   R"({"id": "p", "groups": [{"id": "g", "spots": [{"id": "s", "type": "x"}]}]})")
             << "error: profile/Model/ribbon/p/g/s: the type \"x\" is unknown; the spot is skipped";
-        QTest::newRow("spot style") << Ribbon(R"({"id": "p", "groups": [{"id": "g", "spots": [{"id": "s", "style": 9}]}]})")
+        QTest::newRow("spot style")
+            << Ribbon(R"({"id": "p", "groups": [{"id": "g", "spots": [{"id": "s", "style": 9}]}]})")
             << "error: profile/Model/ribbon/p/g/s: \"style\" is 9, not in 0 to 4";
         QTest::newRow("counter") << Ribbon(R"({"id": "__UiStateRibbonPage.1f"})")
-            << "error: profile: \"counter\" is 1, but an identifier was made from 31; it would be made again";
-        QTest::newRow("in the base") << Ribbon("", R"(, "base": {"layouts": [{"id": "Model", "states": {"menus": {"subitems": 1}}}]})")
+                                 << "error: profile: \"counter\" is 1, but an identifier was made "
+                                    "from 31; it would be made again";
+        QTest::newRow("in the base")
+            << Ribbon(
+                   "",
+                   R"(, "base": {"layouts": [{"id": "Model", "states": {"menus": {"subitems": 1}}}]})")
             << "error: profile/base/Model/menus: \"subitems\" has the wrong type";
         QTest::newRow("base of a base") << Ribbon("", R"(, "base": {"layouts": [], "base": {}})")
-            << "warning: profile/base: has a base of its own";
+                                        << "warning: profile/base: has a base of its own";
         QTest::newRow("no version") << QByteArray(R"({"profile": {"layouts": []}})")
-            << "warning: profile: \"version\" is missing or not valid; the file can be a default only";
-        QTest::newRow("no states") << QByteArray(R"({"profile": {"layouts": [{"id": "M"}]}})")
+                                    << "warning: profile: \"version\" is missing or not valid; the "
+                                       "file can be a default only";
+        QTest::newRow("no states")
+            << QByteArray(R"({"profile": {"layouts": [{"id": "M"}]}})")
             << "error: profile/M: \"states\" is missing; the layout is not read";
-        QTest::newRow("unknown suite") << QByteArray(R"({"profile": {"layouts": [{"id": "M", "states": {"x": {}}}]}})")
+        QTest::newRow("unknown suite")
+            << QByteArray(R"({"profile": {"layouts": [{"id": "M", "states": {"x": {}}}]}})")
             << "warning: profile/M/x: is unknown here and is ignored";
-        QTest::newRow("keys") << QByteArray(R"({"profile": {"layouts": [{"id": "M", "states": {"shortcuts": {"bindings": [{"id": "a", "key sequence": "Ctrl+Nonsense"}]}}}]}})")
+        QTest::newRow("keys")
+            << QByteArray(
+                   R"({"profile": {"layouts": [{"id": "M", "states": {"shortcuts": {"bindings": [{"id": "a", "key sequence": "Ctrl+Nonsense"}]}}}]}})")
             << "error: profile/M/shortcuts/a: \"Ctrl+Nonsense\" is no key sequence";
-        QTest::newRow("keys twice") << QByteArray(R"({"profile": {"layouts": [{"id": "M", "states": {"shortcuts": {"bindings": [{"id": "a", "key sequence": "F1"}, {"id": "b", "key sequence": "F1"}]}}}]}})")
+        QTest::newRow("keys twice")
+            << QByteArray(
+                   R"({"profile": {"layouts": [{"id": "M", "states": {"shortcuts": {"bindings": [{"id": "a", "key sequence": "F1"}, {"id": "b", "key sequence": "F1"}]}}}]}})")
             << "warning: profile/M/shortcuts/b: F1 is bound to \"a\" already";
-        QTest::newRow("composite items") << QByteArray(R"({"profile": {"layouts": [{"id": "M", "states": {"composite": {"subitems": [{"id": "a", "items": [1]}]}}}]}})")
+        QTest::newRow("composite items")
+            << QByteArray(
+                   R"({"profile": {"layouts": [{"id": "M", "states": {"composite": {"subitems": [{"id": "a", "items": [1]}]}}}]}})")
             << "error: profile/M/composite/a: \"items\" is not an array of strings";
-        QTest::newRow("profile") << QByteArray(R"({"profile": []})") << "error: profile: is not an object";
-        QTest::newRow("undefined command") << QByteArray(R"({"commands": {"command": []}, "products": {"product": [{"id": "P", "layout": [{"id": "L", "command_ids": ["a", "DynamicCommands.x"]}]}]}})")
+        QTest::newRow("profile") << QByteArray(R"({"profile": []})")
+                                 << "error: profile: is not an object";
+        QTest::newRow("undefined command")
+            << QByteArray(
+                   R"({"commands": {"command": []}, "products": {"product": [{"id": "P", "layout": [{"id": "L", "command_ids": ["a", "DynamicCommands.x"]}]}]}})")
             << "warning: products/P/L: the command \"a\" is not defined";
         QTest::newRow("half a catalogue") << QByteArray(R"({"commands": {"command": []}})")
-            << "error: products: is missing or not an object";
-        QTest::newRow("command") << QByteArray(R"({"commands": {"command": [{"id": "a", "visual": "yes"}]}, "products": {"product": []}})")
+                                          << "error: products: is missing or not an object";
+        QTest::newRow("command")
+            << QByteArray(
+                   R"({"commands": {"command": [{"id": "a", "visual": "yes"}]}, "products": {"product": []}})")
             << "error: commands/a: \"visual\" is not true or false";
     }
 
@@ -131,7 +159,8 @@ private Q_SLOTS:
         QFETCH(QString, line);
         const QString path = Put("a.json", file);
         const int code = Run({"validate", path});
-        QVERIFY2(m_out.contains(path + QStringLiteral(": ") + line + QLatin1Char('\n')), qPrintable(m_out));
+        QVERIFY2(m_out.contains(path + QStringLiteral(": ") + line + QLatin1Char('\n')),
+                 qPrintable(m_out));
         QCOMPARE(code, line.startsWith(QLatin1String("error")) ? 1 : 0);
     }
 
@@ -142,8 +171,10 @@ private Q_SLOTS:
         QCOMPARE(Run({"validate", "--catalogue", catalogue, profile}), 0);
         QVERIFY(!m_out.contains(QLatin1String("offer")));
         QCOMPARE(Run({"validate", "--catalogue", catalogue, "--product", "Other", profile}), 0);
-        QVERIFY(m_out.contains(QLatin1String("profile/Model/ribbon/page.home/group.file/File.Open: the product does not offer it here")));
-        QVERIFY(m_out.contains(QLatin1String("profile/Slice: the product \"Other\" has no such layout")));
+        QVERIFY(m_out.contains(QLatin1String("profile/Model/ribbon/page.home/group.file/File.Open: "
+                                             "the product does not offer it here")));
+        QVERIFY(m_out.contains(
+            QLatin1String("profile/Slice: the product \"Other\" has no such layout")));
         QVERIFY(!m_out.contains(QLatin1String("group.edit/composite.clip")));
         QCOMPARE(Run({"validate", "--catalogue", catalogue, "--product", "None", profile}), 2);
     }
@@ -156,7 +187,8 @@ private Q_SLOTS:
         QTest::newRow("third line") << QByteArray("{\n\"a\": 1,\n]") << "a.json:3:";
         QTest::newRow("array") << QByteArray("[]") << "the root is not an object";
         QTest::newRow("neither") << QByteArray("{}") << "neither a profile";
-        QTest::newRow("binary") << QByteArray("qbjs\1\0\0\0garbage", 15) << "damaged binary document";
+        QTest::newRow("binary") << QByteArray("qbjs\1\0\0\0garbage", 15)
+                                << "damaged binary document";
     }
 
     void aFileThatIsNoDocumentIsUnusable()
@@ -204,9 +236,12 @@ private Q_SLOTS:
 
     void differencesAreToldNodeByNode()
     {
-        const QString first = Put("a.json", Ribbon(R"({"id": "a"}, {"id": "b", "title": "B"}, {"id": "c", "visible": false})"));
-        const QString second = Put("b.json", Ribbon(R"({"id": "c"}, {"id": "b", "title": "Ä"}, {"id": "n"})",
-                                                    R"(, "base": {"layouts": [{"id": "Old"}]})"));
+        const QString first =
+            Put("a.json",
+                Ribbon(R"({"id": "a"}, {"id": "b", "title": "B"}, {"id": "c", "visible": false})"));
+        const QString second =
+            Put("b.json", Ribbon(R"({"id": "c"}, {"id": "b", "title": "Ä"}, {"id": "n"})",
+                                 R"(, "base": {"layouts": [{"id": "Old"}]})"));
         QCOMPARE(Run({"diff", first, second}), 1);
         QCOMPARE(m_out, QString::fromUtf8("- profile/Model/ribbon/a\n"
                                           "~ profile/Model/ribbon/b: title: \"B\" -> \"Ä\"\n"
@@ -230,16 +265,19 @@ private Q_SLOTS:
     {
         const QString path = Put("a.json", QJsonDocument(ovk_test::SmallProfile()).toJson());
         QCOMPARE(Run({"list", path}), 0);
-        QVERIFY2(m_out.startsWith(QLatin1String("product: \"Fake\"\nversion: \"0.0.0.0\"\ncounter: 100\nbase: no\nModel (layout)\n")), qPrintable(m_out));
-        QVERIFY(m_out.contains(QLatin1String("\n      File.Save (spot)  style=2\n"))
-                || m_out.contains(QLatin1String("File.Save (spot)  style=2\n")));
+        QVERIFY2(m_out.startsWith(QLatin1String("product: \"Fake\"\nversion: \"0.0.0.0\"\ncounter: "
+                                                "100\nbase: no\nModel (layout)\n")),
+                 qPrintable(m_out));
+        QVERIFY(m_out.contains(QLatin1String("\n      File.Save (spot)  style=2\n")) ||
+                m_out.contains(QLatin1String("File.Save (spot)  style=2\n")));
         QVERIFY(m_out.contains(QLatin1String("Slice (layout)\n")));
         QCOMPARE(Run({"list", "--layout", "Slice", path}), 0);
         QVERIFY(!m_out.contains(QLatin1String("Model (layout)")));
         QCOMPARE(Run({"list", "--layout", "None", path}), 2);
         const QString catalogue = Put("c.json", QJsonDocument(ovk_test::SmallCatalogue()).toJson());
         QCOMPARE(Run({"list", "--layout", "commands", catalogue}), 0);
-        QVERIFY(m_out.contains(QLatin1String("  Slice.Run (command)  title=\"Slice\"  visual=true\n")));
+        QVERIFY(
+            m_out.contains(QLatin1String("  Slice.Run (command)  title=\"Slice\"  visual=true\n")));
     }
 
     void theBaseIsListedOnDemand()
@@ -253,9 +291,11 @@ private Q_SLOTS:
 
     void aMergeKeepsTheUsersAndBringsTheNew()
     {
-        const QString user = Put("user.json", Ribbon(
-            R"({"id": "home", "visible": false}, {"id": "mine"}, {"id": "dropped"})",
-            R"(, "base": {"layouts": [{"id": "Model", "states": {"ribbon": {"pages": [{"id": "home"}, {"id": "dropped"}, {"id": "deleted"}]}}}]})"));
+        const QString user = Put(
+            "user.json",
+            Ribbon(
+                R"({"id": "home", "visible": false}, {"id": "mine"}, {"id": "dropped"})",
+                R"(, "base": {"layouts": [{"id": "Model", "states": {"ribbon": {"pages": [{"id": "home"}, {"id": "dropped"}, {"id": "deleted"}]}}}]})"));
         QByteArray fresh = Ribbon(R"({"id": "home"}, {"id": "deleted"}, {"id": "new"})");
         fresh.replace("1.0.0.0", "2.0.0.0");
         const QString next = Put("next.json", fresh);
@@ -276,10 +316,13 @@ private Q_SLOTS:
 
     void shortcutsAreKeptUnlessTheCatalogueSaysOtherwise()
     {
-        const QByteArray keys = R"({"profile": {"version": "1.0.0.0", "product": "Fake", "layouts": [{"id": "Model", "states": {
+        const QByteArray keys =
+            R"({"profile": {"version": "1.0.0.0", "product": "Fake", "layouts": [{"id": "Model", "states": {
             "shortcuts": {"bindings": [{"id": "File.Open", "key sequence": "F1"}, {"id": "Gone", "key sequence": "F2"}]}}}]}})";
         const QString user = Put("user.json", keys);
-        const QString next = Put("next.json", R"({"profile": {"version": "2.0.0.0", "product": "Fake", "layouts": [{"id": "Model", "states": {
+        const QString next = Put(
+            "next.json",
+            R"({"profile": {"version": "2.0.0.0", "product": "Fake", "layouts": [{"id": "Model", "states": {
             "shortcuts": {"bindings": [{"id": "File.Save", "key sequence": "F3"}, {"id": "Edit.Copy", "key sequence": "F1"}]}}}]}})");
         QCOMPARE(Run({"merge", user, next, Path("out.json")}), 0);
         QCOMPARE(Bindings(Path("out.json")), (QStringList{"File.Open", "Gone", "File.Save"}));
@@ -327,8 +370,14 @@ private:
 
     static QJsonObject Suite(const QJsonObject& profile, const char* suite)
     {
-        return profile.value(QStringLiteral("layouts")).toArray().at(0).toObject()
-            .value(QStringLiteral("states")).toObject().value(QLatin1String(suite)).toObject();
+        return profile.value(QStringLiteral("layouts"))
+            .toArray()
+            .at(0)
+            .toObject()
+            .value(QStringLiteral("states"))
+            .toObject()
+            .value(QLatin1String(suite))
+            .toObject();
     }
 
     static QStringList Pages(const QJsonObject& profile)
@@ -345,8 +394,10 @@ private:
     static QStringList Bindings(const QString& path)
     {
         QStringList names;
-        const QJsonObject profile = Object(Contents(path)).value(QStringLiteral("profile")).toObject();
-        const QJsonArray bindings = Suite(profile, "shortcuts").value(QStringLiteral("bindings")).toArray();
+        const QJsonObject profile =
+            Object(Contents(path)).value(QStringLiteral("profile")).toObject();
+        const QJsonArray bindings =
+            Suite(profile, "shortcuts").value(QStringLiteral("bindings")).toArray();
         for (const QJsonValue& binding : bindings)
             names << binding.toObject().value(QStringLiteral("id")).toString();
         return names;

@@ -92,17 +92,28 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("type");
-        QTest::newRow("toolbars") << "toolbars" << "UiStateToolbars";
-        QTest::newRow("quick access bar") << "quick access bar" << "UiStateQAB";
-        QTest::newRow("ribbon") << "ribbon" << "UiStateRibbon";
-        QTest::newRow("docking") << "docking" << "UiStateDocking";
-        QTest::newRow("shortcuts") << "shortcuts" << "UiStateShortcuts";
-        QTest::newRow("composite") << "composite" << "UiStateComposites";
-        QTest::newRow("menus") << "menus" << "UiStateMenus";
-        QTest::newRow("dialog data") << "dialog data" << "UiStateDialogs";
-        QTest::newRow("unknown") << "unknown" << "";
-        QTest::newRow("empty") << "" << "";
-        QTest::newRow("case") << "Ribbon" << "";
+        QTest::newRow("toolbars") << "toolbars"
+                                  << "UiStateToolbars";
+        QTest::newRow("quick access bar") << "quick access bar"
+                                          << "UiStateQAB";
+        QTest::newRow("ribbon") << "ribbon"
+                                << "UiStateRibbon";
+        QTest::newRow("docking") << "docking"
+                                 << "UiStateDocking";
+        QTest::newRow("shortcuts") << "shortcuts"
+                                   << "UiStateShortcuts";
+        QTest::newRow("composite") << "composite"
+                                   << "UiStateComposites";
+        QTest::newRow("menus") << "menus"
+                               << "UiStateMenus";
+        QTest::newRow("dialog data") << "dialog data"
+                                     << "UiStateDialogs";
+        QTest::newRow("unknown") << "unknown"
+                                 << "";
+        QTest::newRow("empty") << ""
+                               << "";
+        QTest::newRow("case") << "Ribbon"
+                              << "";
     }
 
     void theFactoryMakesEachSuiteByItsName()
@@ -214,7 +225,8 @@ private Q_SLOTS:
         QCOMPARE(ribbon->GetLayout(), &layout);
         // A second reading takes the place of the first.
         QVERIFY(layout.FromJson(Object(R"({"states": {"ribbon": {"pages": [{"id": "q"}]}}})")));
-        QCOMPARE(static_cast<UiState*>(layout.GetChild(2))->GetItem(0)->GetName(), QStringLiteral("q"));
+        QCOMPARE(static_cast<UiState*>(layout.GetChild(2))->GetItem(0)->GetName(),
+                 QStringLiteral("q"));
     }
 
     void aLayoutWithoutStatesStaysAsItIs_data()
@@ -291,7 +303,8 @@ private Q_SLOTS:
         ovk_test::FakeHost host;
         host.Start();
         UiLayout* const layout = host.Layout(QStringLiteral("Slice"));
-        const auto composites = static_cast<UiStateComposites*>(layout->GetState(QStringLiteral("composite")));
+        const auto composites =
+            static_cast<UiStateComposites*>(layout->GetState(QStringLiteral("composite")));
         UiStateComposite* const composite = UiStateComposites::CreateMenu();
         composites->InsertComposite(composite, -1);
         composite->InsertItem(new UiStateCompositeItem(QStringLiteral("nobody")), -1);

@@ -96,8 +96,8 @@ private Q_SLOTS:
         Layout layout;
         layout.name = L"Model";
         layout.toolbars.push_back(OldToolbar(L"old", L"Old one",
-                                             {L"File.Open", L"Gui.Separator", L"Unknown", L"File.Save",
-                                              L"gui.separator", L"Slice.Run"}));
+                                             {L"File.Open", L"Gui.Separator", L"Unknown",
+                                              L"File.Save", L"gui.separator", L"Slice.Run"}));
         Convert(std::move(layout));
         UiState* const toolbars = Suite("Model", "toolbars");
         QCOMPARE(Names(toolbars), (QStringList{"toolbar.view", "old"}));
@@ -107,7 +107,8 @@ private Q_SLOTS:
         QCOMPARE(toolbar->GetArea(), int(Qt::LeftToolBarArea));
         QVERIFY(!toolbar->HasBreak());
         QVERIFY(!toolbar->IsMovable()); // the product cannot be customised
-        QCOMPARE(SpotTypes(toolbar), (QStringList{"File.Open/0", "-", "File.Save/0", "Slice.Run/0"}));
+        QCOMPARE(SpotTypes(toolbar),
+                 (QStringList{"File.Open/0", "-", "File.Save/0", "Slice.Run/0"}));
     }
 
     void aToolbarMovesWhereTheProductCanBeCustomised()
@@ -208,8 +209,9 @@ private Q_SLOTS:
         QFETCH(QString, modifiers);
         QFETCH(bool, extended);
         QFETCH(QString, keys);
-        const auto shortcut = OldShortcut(L"x", code, modifiers.contains('c'), modifiers.contains('a'),
-                                          modifiers.contains('s'), extended);
+        const auto shortcut =
+            OldShortcut(L"x", code, modifiers.contains('c'), modifiers.contains('a'),
+                        modifiers.contains('s'), extended);
         QCOMPARE(LegacyKeySequence(*shortcut).toString(QKeySequence::PortableText), keys);
     }
 
@@ -234,7 +236,8 @@ private:
 
     UiState* Suite(const char* layout, const char* suite)
     {
-        return mp_profile->GetLayout(QString::fromLatin1(layout))->GetState(QString::fromLatin1(suite));
+        return mp_profile->GetLayout(QString::fromLatin1(layout))
+            ->GetState(QString::fromLatin1(suite));
     }
 
     std::unique_ptr<FakeHost> mp_host;

@@ -13,10 +13,10 @@
 #include <random>
 
 #ifdef Q_OS_UNIX
-#    include <csignal>
-#    include <sys/resource.h>
-#    include <sys/wait.h>
-#    include <unistd.h>
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #endif
 
 Q_DECLARE_METATYPE(ovk::DocumentFormat)
@@ -33,7 +33,8 @@ QJsonObject Sample()
             "numbers": [0, 1, -1, 2.5, 1e300, 123456789012], "bools": [true, false, null],
             "nested": [[[{"a": [{"b": []}]}]], [[]], {}],
             "layouts": [{"id": "a", "states": {"ribbon": {"pages": [{"id": "p"}]}}}]
-        }})").object();
+        }})")
+        .object();
 }
 
 void AppendWord(QByteArray& data, quint32 word)
@@ -125,8 +126,10 @@ private Q_SLOTS:
 
     void eachFormRefusesTheOther()
     {
-        QVERIFY(!ParseDocument(FormatDocument(Sample(), DocumentFormat::Json), DocumentFormat::Binary));
-        QVERIFY(!ParseDocument(FormatDocument(Sample(), DocumentFormat::Binary), DocumentFormat::Json));
+        QVERIFY(
+            !ParseDocument(FormatDocument(Sample(), DocumentFormat::Json), DocumentFormat::Binary));
+        QVERIFY(
+            !ParseDocument(FormatDocument(Sample(), DocumentFormat::Binary), DocumentFormat::Json));
     }
 
     void badDataIsNoDocument_data()
@@ -141,14 +144,17 @@ private Q_SLOTS:
         QTest::newRow("array") << QByteArray("[{\"profile\": {}}]");
         QTest::newRow("text behind") << text + "x";
         QTest::newRow("half") << text.left(text.size() / 2);
-        QTest::newRow("utf-16") << QByteArray(reinterpret_cast<const char*>(wide.utf16()), wide.size() * 2);
+        QTest::newRow("utf-16") << QByteArray(reinterpret_cast<const char*>(wide.utf16()),
+                                              wide.size() * 2);
         QTest::newRow("latin-1") << QByteArray("{\"profile\": \"\xe4\xf6\xfc\"}");
         QTest::newRow("too deep") << QByteArray(100000, '[');
-        QTest::newRow("too deep, closed") << "{\"a\":" + QByteArray(2000, '[') + QByteArray(2000, ']') + "}";
+        QTest::newRow("too deep, closed")
+            << "{\"a\":" + QByteArray(2000, '[') + QByteArray(2000, ']') + "}";
         QTest::newRow("zeros") << QByteArray(4096, '\0');
         QTest::newRow("magic alone") << QByteArray("qbjs");
         QTest::newRow("magic and zeros") << "qbjs" + QByteArray(4096, '\0');
-        QTest::newRow("magic and ones") << "qbjs" + QByteArray("\1\0\0\0", 4) + QByteArray(4096, '\xff');
+        QTest::newRow("magic and ones")
+            << "qbjs" + QByteArray("\1\0\0\0", 4) + QByteArray(4096, '\xff');
         QTest::newRow("binary, too deep") << NestedArrays(200000);
         QTest::newRow("binary, shared parts") << SharedArrays(64);
     }
@@ -266,14 +272,19 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("a.json")));
-        QCOMPARE(WriteDocument(folder.filePath(QStringLiteral("a.json")), Sample(), DocumentFormat::Json),
+        QCOMPARE(WriteDocument(folder.filePath(QStringLiteral("a.json")), Sample(),
+                               DocumentFormat::Json),
                  WriteResult::NotOpened);
-        QCOMPARE(WriteDocument(folder.filePath(QStringLiteral("no/a.json")), Sample(), DocumentFormat::Json),
+        QCOMPARE(WriteDocument(folder.filePath(QStringLiteral("no/a.json")), Sample(),
+                               DocumentFormat::Json),
                  WriteResult::NotOpened);
     }
 
 #ifdef Q_OS_UNIX
-    void aFullDiskLeavesTheOldFileWhole_data() { FormatRows(); }
+    void aFullDiskLeavesTheOldFileWhole_data()
+    {
+        FormatRows();
+    }
     void aFullDiskLeavesTheOldFileWhole()
     {
         QFETCH(DocumentFormat, format);
@@ -286,10 +297,14 @@ private Q_SLOTS:
             QCOMPARE(WriteDocument(path, Large(), format), WriteResult::Failed);
         }
         QCOMPARE(Contents(path), old);
-        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("profile")});
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files),
+                 QStringList{QStringLiteral("profile")});
     }
 
-    void aKillInTheMiddleLeavesAWholeFile_data() { FormatRows(); }
+    void aKillInTheMiddleLeavesAWholeFile_data()
+    {
+        FormatRows();
+    }
     void aKillInTheMiddleLeavesAWholeFile()
     {
         QFETCH(DocumentFormat, format);

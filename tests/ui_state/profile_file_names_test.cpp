@@ -42,7 +42,8 @@ private Q_SLOTS:
     void withoutASuffixTwoDotsStandInARow()
     {
         const TestApplication application;
-        const ovk_test::ResourceFiles files({{"uiprofile..json", "{\"profile\": {\"layouts\": [{\"id\": \"A\"}]}}"}});
+        const ovk_test::ResourceFiles files(
+            {{"uiprofile..json", "{\"profile\": {\"layouts\": [{\"id\": \"A\"}]}}"}});
         const auto controller = new UiProfileController;
         QCOMPARE(controller->GetBinaryFilePath(QStringLiteral("folder")),
                  QStringLiteral("folder/uiprofile..bin"));

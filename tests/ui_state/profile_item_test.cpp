@@ -108,7 +108,8 @@ private Q_SLOTS:
         branch.AddLeaf(QStringLiteral("a"));
         branch.AddLeaf(QStringLiteral("b"))->SetPersistence(UiStateItem::ipRunTime);
         branch.AddLeaf(QStringLiteral("c"));
-        QCOMPARE(branch.ToJson(), Object(R"({"id": "root", "subitems": [{"id": "a"}, {"id": "c"}]})"));
+        QCOMPARE(branch.ToJson(),
+                 Object(R"({"id": "root", "subitems": [{"id": "a"}, {"id": "c"}]})"));
         Branch read(QStringLiteral("root"));
         QVERIFY(read.FromJson(branch.ToJson()));
         QCOMPARE(read.Names(), (QStringList{"a", "c"}));
@@ -116,14 +117,16 @@ private Q_SLOTS:
 
     void anEmptySuiteWritesAnEmptyArray()
     {
-        QCOMPARE(Branch(QStringLiteral("root")).ToJson(), Object(R"({"id": "root", "subitems": []})"));
+        QCOMPARE(Branch(QStringLiteral("root")).ToJson(),
+                 Object(R"({"id": "root", "subitems": []})"));
     }
 
     void readingAddsToWhatIsThere()
     {
         Branch branch(QStringLiteral("root"));
         branch.AddLeaf(QStringLiteral("a"));
-        const QJsonObject object = Object(R"({"subitems": [{"id": "b"}, {"id": "a", "visible": false}]})");
+        const QJsonObject object =
+            Object(R"({"subitems": [{"id": "b"}, {"id": "a", "visible": false}]})");
         QVERIFY(branch.FromJson(object));
         QVERIFY(branch.FromJson(object));
         QCOMPARE(branch.Names(), (QStringList{"a", "b", "a", "b", "a"}));
@@ -317,7 +320,8 @@ private Q_SLOTS:
         Leaf second(QStringLiteral("second"));
         first.SetParent(&second);
         second.SetParent(&first);
-        const auto silence = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+        const auto silence =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
         const UiLayout* const layout = first.GetLayout();
         qInstallMessageHandler(silence);
         QVERIFY(!layout);

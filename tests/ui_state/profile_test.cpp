@@ -96,14 +96,16 @@ private Q_SLOTS:
         QVERIFY(profile.FromJson(Object(R"({"counter": 15, "layouts": [{"id": "Model", "states":
             {"ribbon": {"pages": [{"groups": [{}]}]}}}]})")));
         QCOMPARE(Pages(profile, "Model"), QStringList{QStringLiteral("__UiStateRibbonPage.10")});
-        QCOMPARE(Ribbon(profile, "Model").GetItem(0)->GetTypeName(), QStringLiteral("UiStateRibbonPage"));
+        QCOMPARE(Ribbon(profile, "Model").GetItem(0)->GetTypeName(),
+                 QStringLiteral("UiStateRibbonPage"));
     }
 
     void aLayoutOutsideAProfileNamesNothing()
     {
         UiLayout layout(QStringLiteral("Model"));
         const auto page = new UiStateRibbonPage(QString());
-        static_cast<UiStateRibbon*>(layout.GetState(QStringLiteral("ribbon")))->InsertPage(page, -1);
+        static_cast<UiStateRibbon*>(layout.GetState(QStringLiteral("ribbon")))
+            ->InsertPage(page, -1);
         QCOMPARE(page->GetName(), QString());
     }
 
@@ -139,12 +141,17 @@ private Q_SLOTS:
         QTest::addColumn<QString>("version");
         QTest::addColumn<QString>("product");
         QTest::addColumn<int>("next");
-        QTest::newRow("whole") << QByteArray(R"({"version": "1.2.3.4", "product": "P", "counter": 7})")
-                               << "1.2.3.4" << "P" << 8;
-        QTest::newRow("empty") << QByteArray("{}") << "0.0.0.0" << "" << 1;
-        QTest::newRow("three parts") << QByteArray(R"({"version": "1.2.3"})") << "0.0.0.0" << "" << 1;
-        QTest::newRow("wrong types") << QByteArray(R"({"version": 1.2, "product": [], "counter": "7"})")
-                                     << "0.0.0.0" << "" << 1;
+        QTest::newRow("whole") << QByteArray(
+                                      R"({"version": "1.2.3.4", "product": "P", "counter": 7})")
+                               << "1.2.3.4"
+                               << "P" << 8;
+        QTest::newRow("empty") << QByteArray("{}") << "0.0.0.0"
+                               << "" << 1;
+        QTest::newRow("three parts") << QByteArray(R"({"version": "1.2.3"})") << "0.0.0.0"
+                                     << "" << 1;
+        QTest::newRow("wrong types")
+            << QByteArray(R"({"version": 1.2, "product": [], "counter": "7"})") << "0.0.0.0"
+            << "" << 1;
     }
 
     void theHeaderReadsWithDefaults()
@@ -190,7 +197,8 @@ private Q_SLOTS:
         UiProfile profile;
         QVERIFY(profile.FromJson(Object(USER_FILE)));
         const UiProfile* const base = profile.GetBase();
-        QVERIFY(profile.FromJson(Object(R"({"layouts": [{"id": "Slice"}], "base": {"layouts": []}})")));
+        QVERIFY(
+            profile.FromJson(Object(R"({"layouts": [{"id": "Slice"}], "base": {"layouts": []}})")));
         QCOMPARE(profile.GetBase(), base);
         QCOMPARE(profile.GetCount(), 2);
     }
@@ -203,7 +211,8 @@ private Q_SLOTS:
         QTest::newRow("number") << QByteArray(R"({"layouts": 5})") << 0;
         QTest::newRow("object") << QByteArray(R"({"layouts": {"id": "a"}})") << 0;
         QTest::newRow("no object inside") << QByteArray(R"({"layouts": [5]})") << 1;
-        QTest::newRow("same id twice") << QByteArray(R"({"layouts": [{"id": "a"}, {"id": "a"}]})") << 1;
+        QTest::newRow("same id twice")
+            << QByteArray(R"({"layouts": [{"id": "a"}, {"id": "a"}]})") << 1;
         QTest::newRow("base of the wrong type") << QByteArray(R"({"base": [1, 2]})") << 0;
     }
 
@@ -235,8 +244,8 @@ private Q_SLOTS:
         UiProfile profile;
         QVERIFY(profile.FromJson(Object(USER_FILE)));
         const QJsonObject object = profile.ToJson();
-        QCOMPARE(object.keys(), (QStringList{"base", "counter", "description", "layouts", "product",
-                                             "version"}));
+        QCOMPARE(object.keys(),
+                 (QStringList{"base", "counter", "description", "layouts", "product", "version"}));
         QCOMPARE(object.value(QStringLiteral("description")).toString(),
                  QStringLiteral("Corvantique (c) multi-layout UI profile"));
         QCOMPARE(object.value(QStringLiteral("version")).toString(),
@@ -322,13 +331,14 @@ private Q_SLOTS:
         UiProfile user;
         UiProfile fresh;
         const auto menus = [](UiProfile& profile) {
-            return static_cast<UiStateMenus*>(
-                profile.GetOrCreateLayout(QStringLiteral("Model"))->GetState(QStringLiteral("menus")));
+            return static_cast<UiStateMenus*>(profile.GetOrCreateLayout(QStringLiteral("Model"))
+                                                  ->GetState(QStringLiteral("menus")));
         };
         menus(user)->InsertMenu(new UiStateMenu(QStringLiteral("mine")), -1);
         menus(fresh)->InsertMenu(new UiStateMenu(QStringLiteral("new")), -1);
         user.GetOrCreateLayout(QStringLiteral("Model"))
-            ->Merge(*fresh.GetLayout(QStringLiteral("Model")), user.GetLayout(QStringLiteral("Model")));
+            ->Merge(*fresh.GetLayout(QStringLiteral("Model")),
+                    user.GetLayout(QStringLiteral("Model")));
         QCOMPARE(menus(user)->GetCount(), 1);
         QCOMPARE(menus(user)->GetItem(0)->GetName(), QStringLiteral("mine"));
     }

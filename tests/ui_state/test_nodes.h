@@ -17,7 +17,10 @@ public:
     explicit Leaf(int number) : UiStateItem(number) {}
 
     ovk::UiProfileItem* Clone() const override { return new Leaf(*this); }
-    void Activate(ActivationMode mode) override { calls << QStringLiteral("activate %1").arg(mode); }
+    void Activate(ActivationMode mode) override
+    {
+        calls << QStringLiteral("activate %1").arg(mode);
+    }
     void Deactivate(ActivationMode mode) override
     {
         calls << QStringLiteral("deactivate %1").arg(mode);

@@ -148,8 +148,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("base");
         QTest::addColumn<QString>("merged");
 
-        const auto row = [](const char* title, const char* own, const char* source, const char* base,
-                            const char* merged) {
+        const auto row = [](const char* title, const char* own, const char* source,
+                            const char* base, const char* merged) {
             QTest::newRow(title) << QString(own) << QString(source) << QString(base)
                                  << QString(merged);
         };
@@ -204,9 +204,12 @@ private Q_SLOTS:
         QTest::addColumn<bool>("base");
         QTest::addColumn<bool>("merged");
 
-        QTest::newRow("aHiddenItemStaysHiddenWhenTheDefaultShowsIt") << false << true << true << false;
-        QTest::newRow("an untouched item is hidden by the default") << true << false << true << false;
-        QTest::newRow("an untouched hidden item is shown by the default") << false << true << false << true;
+        QTest::newRow("aHiddenItemStaysHiddenWhenTheDefaultShowsIt")
+            << false << true << true << false;
+        QTest::newRow("an untouched item is hidden by the default")
+            << true << false << true << false;
+        QTest::newRow("an untouched hidden item is shown by the default")
+            << false << true << false << true;
         QTest::newRow("a shown item stays shown") << true << false << false << true;
         QTest::newRow("all hidden") << false << false << false << false;
         QTest::newRow("all shown") << true << true << true << true;

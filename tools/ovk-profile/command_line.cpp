@@ -55,7 +55,8 @@ struct Command
 };
 
 const Option CATALOGUE{"catalogue", "file", "look commands up in this catalogue"};
-const Option PRODUCT{"product", "name", "the product of the catalogue; by default that of the profile"};
+const Option PRODUCT{"product", "name",
+                     "the product of the catalogue; by default that of the profile"};
 
 QString Value(const Call& call, const char* option)
 {
@@ -71,7 +72,8 @@ int RunConvert(const Call& call)
 {
     const QString format = Value(call, "format");
     if (!format.isEmpty() && format != QLatin1String("json") && format != QLatin1String("bin"))
-        throw FileError{QStringLiteral("the format is \"json\" or \"bin\", not \"%1\"").arg(format)};
+        throw FileError{
+            QStringLiteral("the format is \"json\" or \"bin\", not \"%1\"").arg(format)};
     const File file = ReadFile(call.files.at(0));
     Format to = FormatOfName(call.files.at(1));
     if (!format.isEmpty())
@@ -112,25 +114,48 @@ int RunList(const Call& call)
 const std::vector<Command>& Commands()
 {
     static const std::vector<Command> commands{
-        {"validate", "validate [--catalogue FILE [--product NAME]] [--strict] FILE...",
-         "Says what is wrong with profiles or catalogues, one line for each problem.", 1, -1,
-         {CATALOGUE, PRODUCT, {"strict", nullptr, "count warnings as errors"}}, RunValidate},
-        {"convert", "convert [--format json|bin] FILE OUT",
-         "Writes a file in the other form, with nothing else changed.", 2, 2,
-         {{"format", "json|bin", "the form to write; by default that of the name"}}, RunConvert},
-        {"merge", "merge [--base FILE] [--catalogue FILE [--product NAME]] USER NEW OUT",
+        {"validate",
+         "validate [--catalogue FILE [--product NAME]] [--strict] FILE...",
+         "Says what is wrong with profiles or catalogues, one line for each problem.",
+         1,
+         -1,
+         {CATALOGUE, PRODUCT, {"strict", nullptr, "count warnings as errors"}},
+         RunValidate},
+        {"convert",
+         "convert [--format json|bin] FILE OUT",
+         "Writes a file in the other form, with nothing else changed.",
+         2,
+         2,
+         {{"format", "json|bin", "the form to write; by default that of the name"}},
+         RunConvert},
+        {"merge",
+         "merge [--base FILE] [--catalogue FILE [--product NAME]] USER NEW OUT",
          "Brings a user's profile onto a new default: what the user changed stays, what only the\n"
-         "default changed follows it. The old default is the base in the user's profile. Without a\n"
-         "catalogue all shortcuts of the user are kept.", 3, 3,
-         {{"base", "file", "the old default, in place of the base in the user's profile"}, CATALOGUE,
-          PRODUCT}, RunMerge},
-        {"diff", "diff FILE FILE",
+         "default changed follows it. The old default is the base in the user's profile. Without "
+         "a\n"
+         "catalogue all shortcuts of the user are kept.",
+         3,
+         3,
+         {{"base", "file", "the old default, in place of the base in the user's profile"},
+          CATALOGUE,
+          PRODUCT},
+         RunMerge},
+        {"diff",
+         "diff FILE FILE",
          "Compares two files node by node: \"-\" is in the first only, \"+\" in the second only,\n"
-         "\"~\" has another field, \">\" stands at another place.", 2, 2, {},
+         "\"~\" has another field, \">\" stands at another place.",
+         2,
+         2,
+         {},
          [](const Call& call) { return Diff(call.files.at(0), call.files.at(1), call.out); }},
-        {"list", "list [--layout NAME] [--base] FILE", "Prints a file as a tree.", 1, 1,
+        {"list",
+         "list [--layout NAME] [--base] FILE",
+         "Prints a file as a tree.",
+         1,
+         1,
          {{"layout", "name", "only this layout, or this half of a catalogue"},
-          {"base", nullptr, "the base in place of the profile"}}, RunList},
+          {"base", nullptr, "the base in place of the profile"}},
+         RunList},
     };
     return commands;
 }
@@ -160,8 +185,8 @@ int RunCommand(const Command& command, const QStringList& arguments, QTextStream
         return Fine;
     }
     const QStringList files = parser.positionalArguments();
-    const bool counted = files.size() >= command.least_files
-                         && (command.most_files < 0 || files.size() <= command.most_files);
+    const bool counted = files.size() >= command.least_files &&
+                         (command.most_files < 0 || files.size() <= command.most_files);
     if (!parsed || !counted) {
         errors << "ovk-profile: "
                << (parsed ? QStringLiteral("wrong number of files") : parser.errorText())

@@ -113,7 +113,8 @@ int Diff(const QString& first_path, const QString& second_path, QTextStream& out
     comparison.Compare(TreeOf(first, silent), TreeOf(second, silent),
                        is_profile ? QStringLiteral("profile") : QStringLiteral("catalogue"));
     if (is_profile)
-        comparison.Compare(BaseOf(first, silent), BaseOf(second, silent), QStringLiteral("profile/base"));
+        comparison.Compare(BaseOf(first, silent), BaseOf(second, silent),
+                           QStringLiteral("profile/base"));
     return comparison.HasDifferences() ? Found : Fine;
 }
 

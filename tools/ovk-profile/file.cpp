@@ -76,14 +76,14 @@ File ReadProfile(const QString& path)
 
 void WriteFile(const QString& path, const QJsonObject& root, Format format)
 {
-    const auto document = format == Format::Binary ? ovk::DocumentFormat::Binary
-                                                   : ovk::DocumentFormat::Json;
+    const auto document =
+        format == Format::Binary ? ovk::DocumentFormat::Binary : ovk::DocumentFormat::Json;
     bool written = false;
     if (path == STANDARD_STREAM) {
         const QByteArray data = ovk::FormatDocument(root, document);
         QFile out;
-        written = !data.isEmpty() && out.open(stdout, QIODevice::WriteOnly)
-                  && out.write(data) == data.size() && out.flush();
+        written = !data.isEmpty() && out.open(stdout, QIODevice::WriteOnly) &&
+                  out.write(data) == data.size() && out.flush();
     } else {
         written = ovk::WriteDocument(path, root, document) == ovk::WriteResult::Written;
     }

@@ -40,7 +40,8 @@ File ReadFile(const QString& path);
 /// As ReadFile(), for a file that must be a profile.
 File ReadProfile(const QString& path);
 
-/// Writes a file; "-" is the standard output. A failure leaves a former file whole. Throws FileError.
+/// Writes a file; "-" is the standard output. A failure leaves a former file whole. Throws
+/// FileError.
 void WriteFile(const QString& path, const QJsonObject& root, Format format);
 
 /// The form that a file of that name has: binary for the extension "bin", else text.

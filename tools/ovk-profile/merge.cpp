@@ -117,8 +117,9 @@ int Merge(const MergeOptions& options)
     QJsonObject user_profile = ProfileOf(user);
     if (!options.base.isEmpty()) {
         const QString layouts = QStringLiteral("layouts");
-        user_profile.insert(QStringLiteral("base"),
-                            QJsonObject{{layouts, ProfileOf(ReadProfile(options.base)).value(layouts)}});
+        user_profile.insert(
+            QStringLiteral("base"),
+            QJsonObject{{layouts, ProfileOf(ReadProfile(options.base)).value(layouts)}});
     }
 
     const Host host(OfferFor(options, user, fresh));
@@ -130,7 +131,8 @@ int Merge(const MergeOptions& options)
 
     // The library writes the version of the running program, which is this tool.
     QJsonObject profile = merged.ToJson();
-    profile.insert(QStringLiteral("version"), ProfileOf(fresh).value(QLatin1String("version")).toString());
+    profile.insert(QStringLiteral("version"),
+                   ProfileOf(fresh).value(QLatin1String("version")).toString());
     WriteFile(options.output, QJsonObject{{QStringLiteral("profile"), profile}},
               FormatOfName(options.output));
     return Fine;

@@ -54,7 +54,8 @@ private:
         }
     }
 
-    void AddChild(Node& parent, const QJsonValue& value, const QString& id, const QString& path) const
+    void AddChild(Node& parent, const QJsonValue& value, const QString& id,
+                  const QString& path) const
     {
         const int position = int(parent.children.size());
         const QString child_path = QStringLiteral("%1/%2").arg(
@@ -65,7 +66,8 @@ private:
         }
         const NodeType* const type = FindChildType(*parent.type, id);
         if (!type) {
-            m_report({Problem::Warning, child_path, QStringLiteral("is unknown here and is ignored")});
+            m_report(
+                {Problem::Warning, child_path, QStringLiteral("is unknown here and is ignored")});
             return;
         }
         parent.children.push_back(Make(value.toObject(), *type, id, child_path));

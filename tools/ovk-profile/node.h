@@ -16,7 +16,7 @@ struct Node
 {
     const NodeType* type = nullptr; ///< Null for a node that the schema does not know.
     QString id;
-    QJsonObject object;             ///< All of the node as it stands in the file.
+    QJsonObject object;               ///< All of the node as it stands in the file.
     QMap<QString, QJsonValue> fields; ///< All keys but "id" and the children.
     std::vector<Node> children;
 };

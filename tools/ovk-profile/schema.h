@@ -24,10 +24,10 @@ struct Field
 /// What a kind of node may hold in a file.
 struct NodeType
 {
-    const char* name;         ///< For the user.
-    const char* children;     ///< The key of the array (or object) of children, or null.
-    const char* child;        ///< The type of the children; null where it depends on the child.
-    bool has_state;           ///< Has "visible", "persistence" and "is_changed_by_user".
+    const char* name;          ///< For the user.
+    const char* children;      ///< The key of the array (or object) of children, or null.
+    const char* child;         ///< The type of the children; null where it depends on the child.
+    bool has_state;            ///< Has "visible", "persistence" and "is_changed_by_user".
     std::vector<Field> fields; ///< Beside "id" and those.
 };
 
@@ -40,8 +40,8 @@ const NodeType* FindSuiteType(const QString& suite);
 /// The fields of every node that can be hidden.
 const std::vector<Field>& StateFields();
 
-/// The type of a child of `parent`, which may depend on the child's identifier; null if such a child
-/// is not known there.
+/// The type of a child of `parent`, which may depend on the child's identifier; null if such a
+/// child is not known there.
 const NodeType* FindChildType(const NodeType& parent, const QString& id);
 
 } // namespace ovk_profile

@@ -23,8 +23,8 @@ int Run(const QStringList& arguments, QTextStream& out, QTextStream& errors);
 /// Options of the commands.
 struct ValidateOptions
 {
-    QString catalogue; ///< Path of the catalogue whose commands the spots are looked up in.
-    QString product;   ///< The product of the catalogue; by default that of the profile.
+    QString catalogue;   ///< Path of the catalogue whose commands the spots are looked up in.
+    QString product;     ///< The product of the catalogue; by default that of the profile.
     bool strict = false; ///< Warnings count.
 };
 

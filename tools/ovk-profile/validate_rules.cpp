@@ -77,11 +77,9 @@ struct Range
 };
 
 constexpr Range RANGES[] = {
-    {"", "persistence", 0, 4},
-    {"spot", "style", 0, 4}, // Qt::ToolButtonStyle
-    {"toolbar", "area", 0, 8}, // Qt::ToolBarArea
-    {"menu", "key", 0, 0x7fffffff},
-    {"profile", "counter", 0, 0x7fffffff},
+    {"", "persistence", 0, 4},      {"spot", "style", 0, 4}, // Qt::ToolButtonStyle
+    {"toolbar", "area", 0, 8},                               // Qt::ToolBarArea
+    {"menu", "key", 0, 0x7fffffff}, {"profile", "counter", 0, 0x7fffffff},
 };
 
 void CheckRange(const Node& node, const QString& key, const QJsonValue& value, const QString& path,
@@ -94,7 +92,10 @@ void CheckRange(const Node& node, const QString& key, const QJsonValue& value, c
         if (number < range.least || number > range.most) {
             report({Problem::Error, path,
                     QStringLiteral("\"%1\" is %2, not in %3 to %4")
-                        .arg(key).arg(number).arg(range.least).arg(range.most)});
+                        .arg(key)
+                        .arg(number)
+                        .arg(range.least)
+                        .arg(range.most)});
         }
     }
 }
@@ -102,8 +103,8 @@ void CheckRange(const Node& node, const QString& key, const QJsonValue& value, c
 void CheckText(const Node& node, const QString& key, const QString& text, const QString& path,
                const Report& report)
 {
-    if (Is(node, "spot") && key == QLatin1String("type") && text != QLatin1String("command")
-        && text != QLatin1String("separator")) {
+    if (Is(node, "spot") && key == QLatin1String("type") && text != QLatin1String("command") &&
+        text != QLatin1String("separator")) {
         report({Problem::Error, path,
                 QStringLiteral("the type \"%1\" is unknown; the spot is skipped").arg(text)});
     }
@@ -132,9 +133,9 @@ int GreatestGenerated(const Node& node)
 
 bool IsCommandSpot(const Node& node)
 {
-    return Is(node, "spot")
-           && node.fields.value(QStringLiteral("type")).toString(QStringLiteral("command"))
-                  == QLatin1String("command");
+    return Is(node, "spot") &&
+           node.fields.value(QStringLiteral("type")).toString(QStringLiteral("command")) ==
+               QLatin1String("command");
 }
 
 void CheckOffered(const Node& node, const QSet<QString>& known, const QString& path,
@@ -156,7 +157,8 @@ void CheckOffered(const Node& node, const QSet<QString>& known, const QString& p
     }
     for (std::size_t i = 0; i < node.children.size(); ++i) {
         const Node& child = node.children[i];
-        CheckOffered(child, known, QStringLiteral("%1/%2").arg(path, NameOf(child, int(i))), report);
+        CheckOffered(child, known, QStringLiteral("%1/%2").arg(path, NameOf(child, int(i))),
+                     report);
     }
 }
 
@@ -215,18 +217,20 @@ void CheckFields(const Node& node, const QString& path, const Report& report)
     if (!id.isUndefined() && !id.isString())
         report({Problem::Error, path, QStringLiteral("\"id\" is not a string")});
     if (Is(node, "layout") && !node.object.contains(QLatin1String("states")))
-        report({Problem::Error, path, QStringLiteral("\"states\" is missing; the layout is not read")});
+        report({Problem::Error, path,
+                QStringLiteral("\"states\" is missing; the layout is not read")});
     for (auto field = node.fields.begin(); field != node.fields.end(); ++field) {
         const Field* const known = FindField(*node.type, field.key());
-        const bool is_special = (Is(node, "profile") && field.key() == QLatin1String("base"))
-                                || (Is(node, "product") && field.key() == QLatin1String("functions"));
+        const bool is_special = (Is(node, "profile") && field.key() == QLatin1String("base")) ||
+                                (Is(node, "product") && field.key() == QLatin1String("functions"));
         if (is_special) {
             if (!field->isObject()) {
                 report({Problem::Error, path,
                         QStringLiteral("\"%1\" is not an object").arg(field.key())});
             }
         } else if (!known) {
-            report({Problem::Warning, path, QStringLiteral("\"%1\" is unknown here").arg(field.key())});
+            report({Problem::Warning, path,
+                    QStringLiteral("\"%1\" is unknown here").arg(field.key())});
         } else if (!HasType(*field, known->type)) {
             report({Problem::Error, path,
                     QStringLiteral("\"%1\" is not %2").arg(field.key(), TypeText(known->type))});
@@ -270,17 +274,23 @@ void CheckProfile(const File& file, const Node& profile, const Report& report)
     version.FromString(profile.fields.value(QStringLiteral("version")).toString());
     if (!version.IsValid()) {
         report({Problem::Warning, path,
-                QStringLiteral("\"version\" is missing or not valid; the file can be a default only")});
+                QStringLiteral(
+                    "\"version\" is missing or not valid; the file can be a default only")});
     }
     const int counter = profile.fields.value(QStringLiteral("counter")).toInt();
-    const int greatest = qMax(GreatestGenerated(profile), GreatestGenerated(BaseOf(file, [](const Problem&) {})));
+    const int greatest =
+        qMax(GreatestGenerated(profile), GreatestGenerated(BaseOf(file, [](const Problem&) {})));
     if (greatest > counter) {
         report({Problem::Error, path,
-                QStringLiteral("\"counter\" is %1, but an identifier was made from %2; it would be made "
-                               "again").arg(counter).arg(greatest)});
+                QStringLiteral(
+                    "\"counter\" is %1, but an identifier was made from %2; it would be made "
+                    "again")
+                    .arg(counter)
+                    .arg(greatest)});
     }
     if (profile.fields.value(QStringLiteral("base")).toObject().contains(QLatin1String("base")))
-        report({Problem::Warning, QStringLiteral("profile/base"), QStringLiteral("has a base of its own")});
+        report({Problem::Warning, QStringLiteral("profile/base"),
+                QStringLiteral("has a base of its own")});
 }
 
 void CheckCatalogue(const Node& catalogue, const Report& report)
@@ -300,7 +310,8 @@ void CheckCatalogue(const Node& catalogue, const Report& report)
                 const QString path = QStringLiteral("products/%1/%2").arg(product.id, layout.id);
                 const QStringList ids = TextsOf(layout.fields.value(QStringLiteral("command_ids")));
                 for (const QString& id : ids) {
-                    if (!defined.contains(id) && !id.startsWith(QLatin1String("DynamicCommands."))) {
+                    if (!defined.contains(id) &&
+                        !id.startsWith(QLatin1String("DynamicCommands."))) {
                         report({Problem::Warning, path,
                                 QStringLiteral("the command \"%1\" is not defined").arg(id)});
                     }

@@ -13,8 +13,8 @@ struct Offer
     QMap<QString, QSet<QString>> layouts;
 };
 
-/// What the catalogue offers in that product; in its only one if the name is empty. Throws FileError
-/// if there is no such product.
+/// What the catalogue offers in that product; in its only one if the name is empty. Throws
+/// FileError if there is no such product.
 Offer OfferOf(const File& catalogue, const QString& product);
 
 /// The rules for one node by itself: types and ranges of its fields.
