@@ -1,9 +1,10 @@
-#include "tests/support/test_main.h"
+#include "tests/support/fake_application.h"
 
 #include <ovk/core/root_controller.h>
-#include <ovk/preferences/preferences_controller.h>
+#include <ovk/preferences.h>
 
 using namespace ovk;
+using namespace ovk_test;
 
 namespace {
 
@@ -139,26 +140,24 @@ class LoadOrderTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void preferencesAreTheFirstController();
+    void preferencesStartBeforeTheHostsControllers();
 };
 
-void LoadOrderTest::preferencesAreTheFirstController()
+void LoadOrderTest::preferencesStartBeforeTheHostsControllers()
 {
+    FakeApplication application;
     QStringList log;
-    // Both die with the root, the last one first: at the end of b the preferences still live.
-    PreferencesController* const preferences = PreferencesController::GetInstance();
-    struct Last : IApplicationController
-    {
-        explicit Last(QStringList& deaths) : log(deaths) {}
-        ~Last() override { log << "controller"; }
-        void _DoOnAppStart() override {}
-        void _DoOnAppShutdown() override {}
-        QStringList& log;
-    };
-    new Last(log);
-    QVERIFY(preferences);
-    delete RootController::GetInstance();
-    QCOMPARE(log, QStringList{"controller"});
+    new Controller(log, "host");
+    Observer* const observer = g_pref_suffix_in_editor.Attach([&log] { log << "preferences are loaded"; });
+    RootController* const root = RootController::GetInstance();
+    root->OnAppStart();
+    QCOMPARE(log, (QStringList{"preferences are loaded", "start host"}));
+    // They are written first as well: the host's controller finds the file when it stops.
+    root->OnAppShutdown();
+    QVERIFY(QFile::exists(application.GetPreferencesPath(false) + "/preferences.xml"));
+    g_pref_suffix_in_editor.Detach(*observer);
+    delete root;
+    QCOMPARE(log.last(), QString("delete host"));
     QVERIFY(PreferencesController::GetInstance()); // made anew: the old one died with its root
     delete RootController::GetInstance();
 }
