@@ -22,6 +22,12 @@ QString BaseSuffix(EditDblSuffix& editor)
     return editor.spinBox()->suffix();
 }
 
+/// \a text with the decimal point of the system.
+QString Local(const QString& text)
+{
+    return QString(text).replace('.', QLocale::system().decimalPoint());
+}
+
 void Type(EditDblSuffix& editor, const QString& text)
 {
     editor.spinBox()->selectAll();
@@ -171,7 +177,7 @@ void NumericEditorsTest::surplusDigitsAreCutWithoutATip()
     QString text = "1.23456";
     int pos = 7;
     QCOMPARE(int(editor.validate(text, pos)), int(QValidator::Acceptable));
-    QCOMPARE(text, QString("1.234"));
+    QCOMPARE(text, Local("1.234"));
     QVERIFY(!QToolTip::isVisible());
     Type(editor, "1.23456");
     QCOMPARE(editor.value(), 1.234);
@@ -191,9 +197,9 @@ void NumericEditorsTest::aNumberTypedBehindAFormattedSuffixIsTheValue()
     QCOMPARE(editor.valueFromText("5 mm"), 5.0);
     QCOMPARE(editor.valueFromText("5"), 5.0);
     editor.setValue(7.0);
-    QCOMPARE(Shown(editor), QString("7.00 mm"));
+    QCOMPARE(Shown(editor), Local("7.00 mm"));
     editor.setSuffixFormat(" [%]");
-    QCOMPARE(Shown(editor), QString("7.00 [mm]"));
+    QCOMPARE(Shown(editor), Local("7.00 [mm]"));
     Type(editor, "8");
     QCOMPARE(editor.value(), 8.0);
     // Typed without it, the suffix comes alone.
