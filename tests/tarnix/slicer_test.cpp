@@ -186,7 +186,7 @@ private Q_SLOTS:
         QCOMPARE(result->Text(Formatter()), text);
     }
 
-    void toFewPointsSayNothing()
+    void tooFewPointsSayNothing()
     {
         QVERIFY(!Measure(MeasureKind::Distance, {{0, 0, 0}}));
         QVERIFY(!Measure(MeasureKind::Radius, {{0, 0, 0}, {1, 1, 1}, {2, 2, 2}}));

@@ -1,0 +1,115 @@
+#include "app/ui_dump.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSaveFile>
+#include <QToolButton>
+#include <QWidget>
+
+namespace tarnix {
+namespace {
+
+constexpr int k_calm_ms = 120;
+
+QString TextOf(const QWidget* widget)
+{
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
+        return button->text();
+    if (const auto* label = qobject_cast<const QLabel*>(widget))
+        return label->text();
+    if (const auto* edit = qobject_cast<const QLineEdit*>(widget))
+        return edit->text();
+    return widget->windowTitle();
+}
+
+QJsonObject Describe(QWidget* widget)
+{
+    const QPoint origin = widget->mapToGlobal(QPoint(0, 0));
+    QJsonObject node{{"class", QString::fromLatin1(widget->metaObject()->className())},
+                     {"name", widget->objectName()},
+                     {"text", TextOf(widget)},
+                     {"x", origin.x()},
+                     {"y", origin.y()},
+                     {"width", widget->width()},
+                     {"height", widget->height()},
+                     {"enabled", widget->isEnabled()}};
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
+        node.insert("checked", button->isChecked());
+    if (const auto* button = qobject_cast<const QToolButton*>(widget)) {
+        if (const QAction* action = button->defaultAction())
+            node.insert("command", action->objectName());
+    }
+    QJsonArray actions;
+    for (const QAction* action : widget->actions()) {
+        if (!action->objectName().isEmpty() && action->isVisible())
+            actions.append(action->objectName());
+    }
+    if (!actions.isEmpty())
+        node.insert("actions", actions);
+    QJsonArray children;
+    for (QObject* child : widget->children()) {
+        auto* child_widget = qobject_cast<QWidget*>(child);
+        if (child_widget && child_widget->isVisible() && !child_widget->isWindow())
+            children.append(Describe(child_widget));
+    }
+    if (!children.isEmpty())
+        node.insert("children", children);
+    return node;
+}
+
+} // namespace
+
+UiDump::UiDump(const QString& path) : m_path(path)
+{
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(k_calm_ms);
+    connect(&m_timer, &QTimer::timeout, this, &UiDump::Write);
+    qApp->installEventFilter(this);
+    m_timer.start();
+}
+
+QJsonObject UiDump::Tree()
+{
+    QJsonArray windows;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible())
+            windows.append(Describe(window));
+    }
+    return QJsonObject{{"windows", windows}};
+}
+
+bool UiDump::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Paint:
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::ActionChanged:
+        if (!m_timer.isActive())
+            m_timer.start();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void UiDump::Write()
+{
+    QSaveFile file(m_path);
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    file.write(QJsonDocument(Tree()).toJson(QJsonDocument::Compact));
+    file.commit();
+}
+
+} // namespace tarnix
+
+#include "moc_ui_dump.cpp"
