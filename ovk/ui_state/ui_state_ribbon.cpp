@@ -8,32 +8,6 @@
 
 namespace ovk {
 
-namespace {
-
-/// Keeps the bar from painting while its pages come and go.
-class UpdatesBlocker
-{
-public:
-    explicit UpdatesBlocker(QWidget* widget)
-        : mp_widget(widget && widget->updatesEnabled() ? widget : nullptr)
-    {
-        if (mp_widget)
-            mp_widget->setUpdatesEnabled(false);
-    }
-    ~UpdatesBlocker()
-    {
-        if (mp_widget)
-            mp_widget->setUpdatesEnabled(true);
-    }
-    UpdatesBlocker(const UpdatesBlocker&) = delete;
-    UpdatesBlocker& operator=(const UpdatesBlocker&) = delete;
-
-private:
-    QWidget* mp_widget;
-};
-
-} // namespace
-
 UiStateRibbon::UiStateRibbon() : TUiState(GetSuiteName()) {}
 
 UiStateRibbon::UiStateRibbon(const QJsonObject& json) : TUiState(json) {}
@@ -111,7 +85,6 @@ QString UiStateRibbon::_GetSubitemsTag() const
 void UiStateRibbon::_Activate(ActivationMode mode)
 {
     Qtitan::RibbonBar* bar = LiveRibbonBar();
-    const UpdatesBlocker blocker(bar);
     TUiState::_Activate(mode);
     if (!bar)
         return;
@@ -125,7 +98,6 @@ void UiStateRibbon::_Activate(ActivationMode mode)
 void UiStateRibbon::_Deactivate(ActivationMode mode)
 {
     Qtitan::RibbonBar* bar = LiveRibbonBar();
-    const UpdatesBlocker blocker(bar);
     const int current = bar ? bar->currentPageIndex() : -1;
     const QList<UiStateRibbonPage*> pages = _GetChildren();
     for (int i = 0; i < pages.size(); ++i) {

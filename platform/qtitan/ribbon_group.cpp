@@ -24,6 +24,8 @@ RibbonGroup::RibbonGroup(QWidget* parent, const QString& title)
 {
     d->title = title;
     d->panel = new RibbonGroupPanel(this);
+    // The page gives it its size. Without this, Qt measures it anew each time it is shown.
+    setAttribute(Qt::WA_Resized);
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::NoFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

@@ -24,6 +24,8 @@ RibbonPage::RibbonPage(RibbonBar* bar, const QString& title)
       d(std::make_unique<RibbonPagePrivate>(this))
 {
     d->title = title;
+    // The bar gives it its size. Without this, Qt measures it anew each time it is shown.
+    setAttribute(Qt::WA_Resized);
     setFocusPolicy(Qt::NoFocus);
     setAccessibleName(plainText(title));
 }
