@@ -15,6 +15,17 @@ UiStateComposite* CompositeOf(ITreeItem* item)
     return composite || !item ? composite : dynamic_cast<UiStateComposite*>(item->GetParent());
 }
 
+/// A drop-down without a title of its own goes by that of its first command, as its button does.
+QString ShownTitle(const UiStateComposite& composite)
+{
+    const QString title = composite.GetTitle();
+    if (!title.isEmpty() || !dynamic_cast<const UiStateCompositeCommand*>(&composite))
+        return title;
+    const auto* first = dynamic_cast<UiStateCompositeItem*>(composite.GetAvailableChild(0));
+    IUiItem* command = first ? first->GetUiItem() : nullptr;
+    return command ? command->GetTitle() : title;
+}
+
 /// Whether one more item fits, when those that are in the composite already do not count.
 bool FitsOneMore(const SiteTreeModel& model, const DropRequest& drop)
 {
@@ -68,8 +79,10 @@ QVariant CompositeModel::data(const QModelIndex& index, int role) const
         return {};
     ITreeItem* item = GetItem(index);
     if (auto* composite = dynamic_cast<UiStateComposite*>(item)) {
-        if (index.column() == 0 && (role == Qt::DisplayRole || role == Qt::EditRole))
+        if (index.column() == 0 && role == Qt::EditRole)
             return composite->GetTitle();
+        if (index.column() == 0 && role == Qt::DisplayRole)
+            return ShownTitle(*composite);
         if (index.column() == 1 && role == Qt::DisplayRole)
             return dynamic_cast<UiStateCompositeMenu*>(composite) ? tr("Menu")
                                                                   : tr("Composite command");

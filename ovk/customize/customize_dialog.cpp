@@ -48,6 +48,9 @@ UiCommand* FindStyleCommand()
                     : nullptr;
 }
 
+constexpr int c_width = 140;
+constexpr int c_height = 42;
+
 /// A button's text comes from the platform's theme, which often has no translation of it.
 void TranslateButton(QAbstractButton* button)
 {
@@ -211,6 +214,8 @@ void UiCustomizeDialog::Impl::Arrange()
     auto* all = new QVBoxLayout(this);
     all->addLayout(top, 1);
     all->addWidget(mp_box);
+    // In lines and characters of the font, so that it is right at every scale.
+    resize(fontMetrics().averageCharWidth() * c_width, fontMetrics().height() * c_height);
 }
 
 void UiCustomizeDialog::Impl::Retranslate()

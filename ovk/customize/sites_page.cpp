@@ -97,6 +97,9 @@ UiCustomizeSitesWidget::Impl::Impl(UiCustomizeSitesWidget& owner)
     ConnectViews();
     ConnectControls();
     Retranslate();
+    // Before the first layout: all buttons of a tab at once would ask for a very wide dialog.
+    for (const Site& site : m_sites)
+        OnSelectionChanged(site);
 }
 
 UiCustomizeSitesWidget::Impl::~Impl() = default;

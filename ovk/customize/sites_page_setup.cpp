@@ -10,8 +10,10 @@ namespace ovk {
 
 namespace {
 
-constexpr int c_rows = 40;      ///< width of the first column, in average characters
-constexpr int c_style_rows = 18;
+// Widths in average characters.
+constexpr int c_commands_width = 46;
+constexpr int c_shortcut_width = 16;
+constexpr int c_tree_width = 48;
 
 void SetUpTree(QTreeView& view)
 {
@@ -76,7 +78,7 @@ void UiCustomizeSitesWidget::Impl::ConnectViews()
     mp_view_commands->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     mp_view_commands->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Interactive);
     mp_view_commands->horizontalHeader()->resizeSection(
-        1, fontMetrics().averageCharWidth() * c_style_rows + 2 * style()->pixelMetric(QStyle::PM_ButtonMargin));
+        1, fontMetrics().averageCharWidth() * c_shortcut_width);
     mp_view_commands->verticalHeader()->hide();
     mp_view_commands->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     mp_view_commands->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
@@ -116,7 +118,8 @@ void UiCustomizeSitesWidget::Impl::ConnectViews()
     mp_view_qab->setRootIsDecorated(false);
     mp_splitter_commands->setStretchFactor(0, 3);
     mp_splitter_commands->setStretchFactor(1, 2);
-    mp_view_ribbon->setMinimumWidth(fontMetrics().averageCharWidth() * c_rows);
+    mp_splitter_commands->setMinimumWidth(fontMetrics().averageCharWidth() * c_commands_width);
+    mp_view_ribbon->setMinimumWidth(fontMetrics().averageCharWidth() * c_tree_width);
 }
 
 void UiCustomizeSitesWidget::Impl::ConnectControls()
