@@ -217,7 +217,7 @@ QImage DrawHelpers::disabledImage(const QImage& image)
         for (int x = 0; x < result.width(); ++x) {
             // A middle grey that keeps the drawing's lights and darks, half transparent: it reads
             // as absent on a white page and on a dark one.
-            const int grey = 70 + qGray(line[x]) * 115 / 255;
+            const int grey = 98 + qGray(line[x]) * 105 / 255;
             line[x] = qRgba(grey, grey, grey, qAlpha(line[x]) * 140 / 255);
         }
     }

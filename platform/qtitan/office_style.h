@@ -53,7 +53,8 @@ public:
 
     /// Primitive elements that this style knows besides Qt's own, to be cast to PrimitiveElement.
     enum OfficePrimitiveElement : uint {
-        /// The frame of a dock panel with its ground; the option's rectangle is its outline.
+        /// The frame of a dock panel with its ground. The option's rectangle is its outline as
+        /// QPainter::drawRect takes it: the panel's without its last column and row.
         PE_DockPanelFrame = 0xFF00000Au
     };
 

@@ -125,7 +125,7 @@ RibbonButtonLayout SmallLayout(const RibbonButtonOption& option)
         if (option.menu == RibbonMenuKind::Split)
             layout.main = content;
         else if (text || icon)
-            layout.arrow.translate(-Px(option, 2), 0);
+            layout.arrow.setRight(layout.arrow.right() - 2 * Px(option, 2));
     }
     int left = content.left() + Px(option, icon ? SmallPadding : TextPadding);
     if (icon) {

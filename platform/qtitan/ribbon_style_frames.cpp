@@ -130,7 +130,9 @@ void DrawTabBase(const Canvas& canvas)
 void DrawDockPanel(const Canvas& canvas)
 {
     const ThemeLook& look = canvas.look(Element::DockFrame);
-    DrawHelpers::drawFrame(*canvas.painter, canvas.rect(), look.border, look.middle);
+    // The rectangle is the outline as a pen draws it: the last line lies just outside.
+    const QRect panel = canvas.rect().adjusted(0, 0, 1, 1);
+    DrawHelpers::drawFrame(*canvas.painter, panel, look.border, look.middle);
     if (!canvas.widget)
         return;
     for (const QObject* child : canvas.widget->children()) {
@@ -140,7 +142,7 @@ void DrawDockPanel(const Canvas& canvas)
         if (title->isHidden())
             continue;
         const ThemeLook& strip = canvas.look(Element::DockTitle);
-        const QRect ground = title->geometry().intersected(canvas.rect().adjusted(1, 1, -1, -1));
+        const QRect ground = title->geometry().intersected(panel.adjusted(1, 1, -1, -1));
         FillGround(canvas, ground, strip);
         canvas.painter->fillRect(ground.left(), ground.bottom(), ground.width(), 1, strip.border);
     }
