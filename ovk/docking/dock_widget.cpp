@@ -156,7 +156,9 @@ void DockWidget::setVisible(bool visible)
     Impl* const impl = _Impl();
     impl->explicitly_hidden = !visible;
     const bool shown = visible && IsAvailable();
-    if (shown == IsVisible()) {
+    // Its parent asks a child that nobody has shown or hidden yet while it appears itself.
+    const bool due = shown && !isVisible() && !isWindow() && parentWidget()->isVisible();
+    if (shown == IsVisible() && !due) {
         // A layout would show a panel that nobody has hidden yet.
         if (!shown)
             setAttribute(Qt::WA_WState_ExplicitShowHide);

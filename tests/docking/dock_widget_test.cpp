@@ -59,6 +59,7 @@ private Q_SLOTS:
     void aBlockedPanelIsCovered();
     void aPageMayDeleteItsPanelWhenItBecomesActive();
     void theLayoutOfThePanelIsTitleTabsPage();
+    void panelsDockedBeforeTheWindowShowsAppearWithIt();
 };
 
 void DockWidgetTest::aNewPanelStandsAtItsDefaults()
@@ -935,6 +936,32 @@ void DockWidgetTest::theLayoutOfThePanelIsTitleTabsPage()
     QCOMPARE(t, qMax(title->fontMetrics().height(), title->GetRight().first()->height())
                     + 2 * title->style()->pixelMetric(QStyle::PM_DockWidgetTitleMargin, nullptr,
                                                       title));
+}
+
+void DockWidgetTest::panelsDockedBeforeTheWindowShowsAppearWithIt()
+{
+    DockFixture fixture(QSize(800, 600), false);
+    DockWidget* const panel = fixture.manager->CreateDockWidget();
+    auto* const page = new FakePage("page", QSize(150, 90));
+    panel->AddPage(page);
+    fixture.Left()->AddWidget(panel);
+    DockWidget* const hidden = fixture.Panel("hidden");
+    fixture.Left()->AddWidget(hidden);
+    hidden->setVisible(false);
+    DockWidget* const empty = fixture.manager->CreateDockWidget();
+    fixture.Left()->AddWidget(empty);
+    fixture.window.show();
+    fixture.manager->show();
+    DockFixture::Settle();
+    QVERIFY(panel->isVisible());
+    QVERIFY(page->isVisible());
+    QVERIFY(!hidden->isVisible());
+    QVERIFY(!empty->isVisible());
+    QVERIFY(fixture.Left()->GetDockSite()->_pp()->handle->isVisible());
+    const DockTitle* const title = panel->_Impl()->title;
+    QCOMPARE(title->width(), panel->width());
+    QVERIFY(title->GetRight().first()->geometry().right() > panel->width() - 10);
+    QCOMPARE(fixture.Inconsistency(), QString());
 }
 
 OVK_TEST_CLASS(DockWidgetTest)
