@@ -6,7 +6,7 @@
 #include <QList>
 #include <QSet>
 
-#include <type_traits>
+#include <typeinfo>
 
 namespace ovk {
 
@@ -125,7 +125,7 @@ protected:
     /// Inserts a `Child`, at the end if the index is past it; anything else is not inserted.
     void _InsertChild(int index, ITreeItem* child) override
     {
-        if (Child* const item = dynamic_cast<Child*>(child))
+        if (Child* const item = _ToChild(child))
             m_children.insert(qBound(0, index, m_children.size()), item);
     }
     ITreeItem* _RemoveChild(int index) override
@@ -155,6 +155,20 @@ protected:
     const QList<Child*>& _GetChildren() const { return m_children; }
 
 private:
+    /// The node as a `Child`; null if it is none. All children of a container are of one or two
+    /// classes, so the class that was found to be right last is nearly always right again.
+    static Child* _ToChild(ITreeItem* node)
+    {
+        static const std::type_info* known = nullptr;
+        const std::type_info* const type = &typeid(*node);
+        if (type == known)
+            return static_cast<Child*>(node);
+        Child* const child = dynamic_cast<Child*>(node);
+        if (child)
+            known = type;
+        return child;
+    }
+
     /// As _DeleteItems(), without the notice to children that are about to die.
     void _DropChildren()
     {

@@ -23,7 +23,7 @@ struct Profile;
 class OVK_EXPORT UiProfileController : public IApplicationController
 {
 public:
-    enum FileFormat
+    enum FileFormat : int
     {
         ffBinary = 0, ///< Binary JSON, the extension "bin".
         ffJson = 1    ///< JSON text in UTF-8, the extension "json".

@@ -21,7 +21,7 @@ class OVK_EXPORT UiProfileItem : public Named, public IJsonStorable, public Tree
 {
 public:
     /// The occasion of an activation or a deactivation. Suites pass it on unchanged.
-    enum ActivationMode
+    enum ActivationMode : int
     {
         amOrdinary = 0, ///< A layout goes on or off screen.
         amRestore = 1   ///< A saved copy of the profile takes the place of the live one.

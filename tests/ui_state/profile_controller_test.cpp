@@ -54,7 +54,7 @@ private Q_SLOTS:
     void anUnknownFormatNumberWritesBinary()
     {
         const QTemporaryDir folder;
-        Profiles().Save(UiProfile(), folder.path(), UiProfileController::FileFormat(0));
+        Profiles().Save(UiProfile(), folder.path(), UiProfileController::FileFormat(7));
         QVERIFY(ReadDocument(folder.filePath(QStringLiteral("uiprofile.fake.bin")),
                              DocumentFormat::Binary));
     }
