@@ -322,7 +322,7 @@ private Q_SLOTS:
         std::vector<Triangle> triangles = MakeBox({1, 1, 1}).Triangles();
         triangles.pop_back();
         scene.Add("Add", {Part("open", std::make_shared<const Mesh>(MakeBox({1, 1, 1}).Points(), triangles), 0)});
-        QVERIFY(Finds(scene, "open at 3"));
+        QVERIFY(Finds(scene, "open edges: 3"));
     }
 
     void theReportNamesEveryPart()

@@ -108,7 +108,7 @@ protected:
             text += QStringLiteral("<p style=\"margin:3px 0\">%1%2</p>").arg(subject, findings[i].text.toHtmlEscaped());
         }
         if (findings.size() > k_most)
-            text += QStringLiteral("<p>") + QCoreApplication::translate("tarnix::Backstage", "and %n more", nullptr, static_cast<int>(findings.size() - k_most)) + QStringLiteral("</p>");
+            text += QStringLiteral("<p>") + QCoreApplication::translate("tarnix::Backstage", "More findings: %n", nullptr, static_cast<int>(findings.size() - k_most)) + QStringLiteral("</p>");
         mp_findings->setText(text);
     }
 

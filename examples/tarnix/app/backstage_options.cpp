@@ -52,6 +52,8 @@ public:
         scroll->setWidgetResizable(true);
         scroll->setFrameShape(QFrame::NoFrame);
         auto* content = new QWidget(scroll);
+        // The page's own ground shows through.
+        scroll->viewport()->setAutoFillBackground(false);
         auto* columns = new QHBoxLayout(content);
         columns->setContentsMargins(0, 0, 8, 0);
         columns->setSpacing(20);
@@ -61,6 +63,7 @@ public:
         columns->addLayout(right);
         columns->addStretch(1);
         scroll->setWidget(content);
+        content->setAutoFillBackground(false);
         Body()->addWidget(scroll, 1);
 
         Settings& s = host.settings;

@@ -41,7 +41,7 @@ void Copy(Host& host)
         names.append(part.name);
     data->setText(names.join(QLatin1Char('\n')));
     QApplication::clipboard()->setMimeData(data);
-    host.Tell(QCoreApplication::translate("tarnix::EditCommands", "%n part(s) copied.", nullptr, static_cast<int>(parts.size())));
+    host.Tell(QCoreApplication::translate("tarnix::EditCommands", "Parts copied: %n", nullptr, static_cast<int>(parts.size())));
 }
 
 void Paste(Host& host)
@@ -184,13 +184,13 @@ const CommandSpec k_select_rows[] = {
     {"Select.Faulty", Need::VisibleParts,
      [](Host& host) {
          host.GetScene().Select([](const Part& part) { return part.visible && !part.GetMesh()->GetTopology().IsSolid(); });
-         host.Tell(QCoreApplication::translate("tarnix::EditCommands", "%n faulty part(s).", nullptr, host.GetScene().SelectedCount()));
+         host.Tell(QCoreApplication::translate("tarnix::EditCommands", "Faulty parts: %n", nullptr, host.GetScene().SelectedCount()));
      }},
     {"Select.Outside", Need::VisibleParts,
      [](Host& host) {
          const Plate plate = host.GetScene().GetPlate();
          host.GetScene().Select([&plate](const Part& part) { return part.visible && !IsInside(part.Bounds(), plate); });
-         host.Tell(QCoreApplication::translate("tarnix::EditCommands", "%n part(s) outside.", nullptr, host.GetScene().SelectedCount()));
+         host.Tell(QCoreApplication::translate("tarnix::EditCommands", "Parts outside: %n", nullptr, host.GetScene().SelectedCount()));
      }},
     {"Select.Similar", Need::Selection,
      [](Host& host) {

@@ -87,7 +87,7 @@ void Reload(Host& host)
         }
         return count > 0;
     });
-    host.Tell(QCoreApplication::translate("tarnix::FileCommands", "%n part(s) read again.", nullptr, count));
+    host.Tell(QCoreApplication::translate("tarnix::FileCommands", "Parts read again: %n", nullptr, count));
     if (!errors.isEmpty())
         host.Warn(Tr("Some parts could not be read again; they stay as they were."), errors);
 }
@@ -115,7 +115,7 @@ void ExportEach(Host& host)
             if (!WriteFile(host, QDir(folder).filePath(name + QStringLiteral(".stl")), StlWriter::Binary(part.PlacedMesh(), part.name)))
                 return;
         }
-        host.Tell(QCoreApplication::translate("tarnix::FileCommands", "%n part(s) exported.", nullptr, used.size()));
+        host.Tell(QCoreApplication::translate("tarnix::FileCommands", "Parts exported: %n", nullptr, used.size()));
     });
 }
 

@@ -65,7 +65,7 @@ void CopyMeasurements(Host& host)
         lines.append(fields.join(QLatin1Char('\t')));
     }
     QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
-    host.Tell(QCoreApplication::translate("tarnix::InspectCommands", "%n measurement(s) copied.", nullptr, lines.size()));
+    host.Tell(QCoreApplication::translate("tarnix::InspectCommands", "Measurements copied: %n", nullptr, lines.size()));
 }
 
 void RunChecks(Host& host)
@@ -75,7 +75,7 @@ void RunChecks(Host& host)
     host.Refresh();
     const int count = host.GetFacts().findings;
     host.Tell(count == 0 ? Tr("The build is ready: nothing to report.")
-                         : QCoreApplication::translate("tarnix::InspectCommands", "%n finding(s).", nullptr, count));
+                         : QCoreApplication::translate("tarnix::InspectCommands", "Findings: %n", nullptr, count));
 }
 
 void ShowNextFinding(Host& host)

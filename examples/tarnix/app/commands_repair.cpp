@@ -34,11 +34,11 @@ QString TextOf(const RepairReport& report)
         if (count > 0)
             parts.append(QCoreApplication::translate("tarnix::RepairCommands", text, nullptr, count));
     };
-    add(report.joined, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "%n point(s) joined"));
-    add(report.removed, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "%n triangle(s) removed"));
-    add(report.turned, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "%n triangle(s) turned"));
-    add(report.added, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "%n triangle(s) added"));
-    return parts.join(QStringLiteral(", ")) + QLatin1Char('.');
+    add(report.joined, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "points joined: %n"));
+    add(report.removed, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "triangles removed: %n"));
+    add(report.turned, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "triangles turned: %n"));
+    add(report.added, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "triangles added: %n"));
+    return parts.join(QStringLiteral(", "));
 }
 
 /// Runs a repair on the meshes of the selected parts; parts on which it changes nothing make no
@@ -74,7 +74,7 @@ void ChangeMeshes(Host& host, const QString& title, const std::function<Mesh(con
     size_t triangles = 0;
     for (const Part* part : host.GetScene().Selected())
         triangles += part->GetMesh()->Triangles().size();
-    host.Tell(QCoreApplication::translate("tarnix::RepairCommands", "%n triangle(s) now.", nullptr, static_cast<int>(triangles)));
+    host.Tell(QCoreApplication::translate("tarnix::RepairCommands", "Triangles now: %n", nullptr, static_cast<int>(triangles)));
 }
 
 void Subdivide(Host& host)

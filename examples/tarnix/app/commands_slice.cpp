@@ -139,7 +139,7 @@ void ExportAll(Host& host)
         while (written < count && WriteFile(host, QDir(folder).filePath(LayerName(written)), LayerDrawing(host, written)))
             ++written;
         QApplication::restoreOverrideCursor();
-        host.Tell(QCoreApplication::translate("tarnix::SliceCommands", "%n layer(s) exported.", nullptr, written));
+        host.Tell(QCoreApplication::translate("tarnix::SliceCommands", "Layers exported: %n", nullptr, written));
     });
 }
 

@@ -115,7 +115,7 @@ bool ImportFiles(Host& host, const QStringList& paths)
         host.GetScene().Add(title, std::move(loaded.parts));
         if (host.view)
             host.view->ZoomTo(host.GetScene().Bounds());
-        host.Tell(QCoreApplication::translate("tarnix::FileActions", "%n part(s) added.", nullptr, count));
+        host.Tell(QCoreApplication::translate("tarnix::FileActions", "Parts added: %n", nullptr, count));
     }
     if (!loaded.errors.isEmpty())
         host.Warn(count > 0 ? Tr("Some files could not be read.") : Tr("The file could not be read; nothing was changed."), loaded.errors);
@@ -153,6 +153,8 @@ bool OpenFilesNow(Host& host, const QStringList& paths)
     for (const Part& part : loaded.parts)
         host.AddRecent(part.file);
     host.GetScene().Add(Tr("Add parts"), std::move(loaded.parts));
+    // What lies in files is not lost when the program is left.
+    host.GetScene().SetSaved();
     if (host.view)
         host.view->ZoomTo(host.GetScene().Bounds());
     return true;

@@ -24,6 +24,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -38,7 +39,29 @@ struct Options
     QString layout;
     QString tour;
     QString dump;
+    bool exit_after_paint = false;
     QStringList files;
+};
+
+/// Ends the program once the window was painted for the first time, and says so: the time to this
+/// word is the time of a start.
+class FirstPaint : public QObject
+{
+public:
+    explicit FirstPaint(QWidget& window) { window.installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            watched->removeEventFilter(this);
+            QTimer::singleShot(0, this, [] {
+                std::printf("painted\n");
+                std::fflush(stdout);
+                QCoreApplication::quit();
+            });
+        }
+        return false;
+    }
 };
 
 /// All files of the program go into one folder. It must be told before anything asks where they
@@ -77,7 +100,8 @@ Options ReadOptions(const QApplication& application)
     const QCommandLineOption data(QStringLiteral("data-dir"), QStringLiteral("Keeps preferences and profiles below this folder."), QStringLiteral("folder"));
     const QCommandLineOption tour(QStringLiteral("tour"), QStringLiteral("Goes through the program by itself and leaves pictures in this folder."), QStringLiteral("folder"));
     const QCommandLineOption dump(QStringLiteral("dump-ui"), QStringLiteral("Keeps a description of the window in this file, for tests."), QStringLiteral("file"));
-    parser.addOptions({product, layout, data, tour, dump});
+    const QCommandLineOption paint(QStringLiteral("exit-after-paint"), QStringLiteral("Ends after the first painted window, to measure a start."));
+    parser.addOptions({product, layout, data, tour, dump, paint});
     parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("STL files or a build."), QStringLiteral("[files...]"));
     parser.process(application);
     Options options;
@@ -85,6 +109,7 @@ Options ReadOptions(const QApplication& application)
     options.layout = parser.value(layout);
     options.tour = parser.value(tour);
     options.dump = parser.value(dump);
+    options.exit_after_paint = parser.isSet(paint);
     options.files = parser.positionalArguments();
     if (!k_products.contains(options.product))
         Refuse(QStringLiteral("there is no product \"%1\"; there are: %2").arg(options.product, k_products.join(QStringLiteral(", "))));
@@ -141,6 +166,9 @@ int RunWindow(const Options& options, tarnix::Host& host, tarnix::PageFactory& p
         window.restoreGeometry(host.settings.geometry.GetData());
         window.ribbonBar()->setMinimized(host.settings.ribbon_minimized);
     }
+    std::unique_ptr<FirstPaint> first_paint;
+    if (options.exit_after_paint)
+        first_paint = std::make_unique<FirstPaint>(window);
     window.show();
     if (!options.files.isEmpty())
         OpenFilesNow(host, options.files);

@@ -259,7 +259,7 @@ void MainWindow::UpdateStatusBar()
     const Scene& scene = m_host.GetScene();
     const Formatter& format = m_host.workspace.Format();
     const int selected = scene.SelectedCount();
-    mp_selection->setText(selected > 0 ? tr("%1 of %n part(s)", nullptr, scene.Count()).arg(selected) : tr("%n part(s)", nullptr, scene.Count()));
+    mp_selection->setText(selected > 0 ? tr("Selected: %1 of %2").arg(selected).arg(scene.Count()) : tr("Parts: %1").arg(scene.Count()));
     const Box box = scene.Bounds(selected > 0);
     mp_size->setVisible(!box.IsEmpty());
     mp_size->setText(format.Size(box.Size()));
@@ -272,7 +272,7 @@ void MainWindow::UpdateStatusBar()
 
 void MainWindow::UpdateCaption()
 {
-    setWindowTitle(QStringLiteral("%1[*] - %2").arg(m_host.workspace.BuildName(), QApplication::applicationDisplayName()));
+    setWindowTitle(QStringLiteral("%1[*] \u2013 %2").arg(m_host.workspace.BuildName(), QApplication::applicationDisplayName()));
     setWindowModified(m_host.GetScene().IsModified() && m_host.GetScene().Count() > 0);
 }
 

@@ -152,7 +152,13 @@ void Tour::BuildScript()
         SelectPage(QStringLiteral("page.check"));
         Run("Check.Run");
         Run("Check.Overhang");
-    }, [this] { Run("Check.Overhang"); });
+        Run("View.RotateDown");
+        Run("View.RotateDown");
+        Run("View.RotateDown");
+    }, [this] {
+        Run("Check.Overhang");
+        Run("View.Home");
+    });
     Add("inspect-section", page("page.section"));
     Add("slice-home", [this, window] {
         window->ActivateLayout(QStringLiteral("Slice"));

@@ -29,19 +29,19 @@ std::vector<Finding> CheckBuild(const Scene& scene, double overhang_degrees, con
             continue;
         const Topology& topology = part.GetMesh()->GetTopology();
         if (topology.open_edges > 0)
-            report(Level::Fault, part, Texts::tr("The surface is open at %n edge(s).", nullptr, topology.open_edges));
+            report(Level::Fault, part, Texts::tr("The surface is open; open edges: %n.", nullptr, topology.open_edges));
         if (topology.crowded_edges > 0)
-            report(Level::Fault, part, Texts::tr("More than two triangles meet at %n edge(s).", nullptr, topology.crowded_edges));
+            report(Level::Fault, part, Texts::tr("More than two triangles meet at an edge; such edges: %n.", nullptr, topology.crowded_edges));
         if (topology.reversed_edges > 0)
-            report(Level::Fault, part, Texts::tr("Triangles disagree about the outside at %n edge(s).", nullptr, topology.reversed_edges));
+            report(Level::Fault, part, Texts::tr("Triangles disagree about the outside; such edges: %n.", nullptr, topology.reversed_edges));
         else if (topology.IsSolid() && part.GetMesh()->Volume() < 0.0)
             report(Level::Fault, part, Texts::tr("The part is inside out."));
         if (topology.degenerate > 0)
-            report(Level::Note, part, Texts::tr("%n triangle(s) have no area.", nullptr, topology.degenerate));
+            report(Level::Note, part, Texts::tr("Triangles without area: %n.", nullptr, topology.degenerate));
         if (topology.duplicates > 0)
-            report(Level::Warning, part, Texts::tr("%n triangle(s) are there twice.", nullptr, topology.duplicates));
+            report(Level::Warning, part, Texts::tr("Triangles that are there twice: %n.", nullptr, topology.duplicates));
         if (topology.shells > 1)
-            report(Level::Note, part, Texts::tr("The part has %n shell(s).", nullptr, topology.shells));
+            report(Level::Note, part, Texts::tr("The part is made of several shells: %n.", nullptr, topology.shells));
         const Box& box = part.Bounds();
         if (!IsInside(box, scene.GetPlate()))
             report(Level::Fault, part,
@@ -102,7 +102,7 @@ QString BuildReport(const Scene& scene, double overhang_degrees, double density,
     QString text = Texts::tr("Build report") + QStringLiteral("\n\n");
     const Plate& plate = scene.GetPlate();
     text += Texts::tr("Build volume: %1").arg(format.Size({plate.width, plate.depth, plate.height})) + QLatin1Char('\n');
-    text += Texts::tr("%n part(s)", nullptr, scene.Count()) + QLatin1Char('\n');
+    text += Texts::tr("Parts: %n", nullptr, scene.Count()) + QLatin1Char('\n');
     for (const Part& part : scene.Parts()) {
         text += QLatin1Char('\n');
         for (const auto& [title, value] : PartFigures(part, density, format))

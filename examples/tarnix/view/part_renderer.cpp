@@ -56,6 +56,29 @@ struct PartRenderer::Eye
         return static_cast<float>(0.36 + 0.60 * diffuse + 0.16 * side + 0.14 * gleam);
     }
 
+    /// The depth of the level plane at a height, as a linear function of the place on the screen.
+    ScreenPoint PlaneAt(double z) const
+    {
+        // With the ray to a pixel as back * 1 + right * u - up * v, the plane's normal gives the
+        // depth in closed form: 1/way in perspective, the way itself in a parallel view.
+        const double gap = Dot({0, 0, 1}, target) - z;
+        const double n_right = right.z, n_up = up.z, n_back = back.z;
+        ScreenPoint plane;
+        if (perspective) {
+            // way * (-n_back + n_right * u + n_up * w) = -(eye height over the plane)
+            const double over = gap + distance * n_back;
+            const double per_pixel = 1.0 / (scale * distance);
+            plane.x = static_cast<float>(-n_right * per_pixel / over);
+            plane.y = static_cast<float>(n_up * per_pixel / over);
+            plane.depth = static_cast<float>((n_back + (n_right * middle_x - n_up * middle_y) * per_pixel) / over);
+        } else {
+            plane.x = static_cast<float>(-n_right / (scale * n_back));
+            plane.y = static_cast<float>(n_up / (scale * n_back));
+            plane.depth = static_cast<float>((-gap + (n_right * middle_x - n_up * middle_y) / scale) / n_back);
+        }
+        return plane;
+    }
+
     /// How much a line must be taken nearer to win over its own surface.
     float LineBias() const { return perspective ? 0.0006f : 0.0f; }
     /// In a parallel view depth is a length: the bias is one too.
@@ -342,7 +365,7 @@ void PartRenderer::DrawGlass(const PartList& parts, const ViewState& state, cons
     }
     std::sort(panes.begin(), panes.end(), [](const Pane& a, const Pane& b) { return a.depth < b.depth; });
     for (const Pane& pane : panes)
-        m_raster.Glaze(pane.corner[0], pane.corner[1], pane.corner[2], pane.color, 0.30f);
+        m_raster.Glaze(pane.corner[0], pane.corner[1], pane.corner[2], pane.color, 0.36f);
 }
 
 void PartRenderer::DrawEdges(const Part& part, const Eye& eye, const ViewState& state, const ViewColors& colors)
@@ -390,36 +413,54 @@ void PartRenderer::DrawLayers(const PartList& parts, const Camera& camera, const
     const Eye eye(Transform(), camera, size);
     m_layers.Clean(parts);
     constexpr int k_most_layers = 160;
-    const int step = std::max(1, (options.current + 1) / k_most_layers);
+    const int step = options.stack ? std::max(1, (options.current + 1) / k_most_layers) : 1;
+    const int first = options.stack ? options.current % step : options.current;
     for (size_t i = 0; i < parts.size(); ++i) {
         const Part& part = parts[i];
         if (!part.visible)
             continue;
         const auto owner = static_cast<uint16_t>(std::min<size_t>(i + 1, 0xffff));
-        for (int layer = options.stack ? options.current % step : options.current; layer <= options.current; layer += step) {
-            const double z = (layer + 0.5) * options.thickness;
-            const Slice& slice = m_layers.Get(part, z);
-            const bool top = layer == options.current;
-            // Light from the side of the contour, as if each layer were a thin wall.
-            for (const Polygon& contour : slice.contours) {
-                for (size_t k = 0; k < contour.size(); ++k) {
-                    const Point2& p = contour[k];
-                    const Point2& q = contour[(k + 1) % contour.size()];
-                    const Vec3 normal = Normalized(Vec3{q.y - p.y, p.x - q.x, 0.0});
-                    const float light = top ? 1.0f : std::min(1.1f, eye.Light(normal) + ((layer / step) % 2 ? 0.06f : 0.0f));
-                    ScreenPoint a, b;
-                    if (!eye.OnScreen({p.x, p.y, z}, a) || !eye.OnScreen({q.x, q.y, z}, b))
-                        continue;
-                    m_raster.Line(a, b, Darker(part.color, std::min(1.0f, light)), top ? 1.0f : 0.9f, 0.0f, true, owner);
-                }
-            }
-            for (const std::vector<Point2>& gap : slice.gaps) {
-                for (size_t k = 0; k + 1 < gap.size(); ++k) {
-                    ScreenPoint a, b;
-                    if (eye.OnScreen({gap[k].x, gap[k].y, z}, a) && eye.OnScreen({gap[k + 1].x, gap[k + 1].y, z}, b))
-                        m_raster.Line(a, b, 0xffe01020, 1.0f, 0.0f, true, owner);
-                }
-            }
+        for (int layer = first; layer <= options.current; layer += step)
+            DrawLayer(part, eye, (layer + 1) * options.thickness, step * options.thickness,
+                      m_layers.Get(part, (layer + 0.5) * options.thickness), (layer / step) % 2 != 0, owner);
+    }
+}
+
+void PartRenderer::DrawLayer(const Part& part, const Eye& eye, double top, double thickness, const Slice& slice,
+                             bool odd, uint16_t owner)
+{
+    if (slice.IsEmpty())
+        return;
+    // Each layer is a plate with walls; every second one a trace darker, so that they are told apart.
+    const float shade = odd ? 0.94f : 1.0f;
+    const double bottom = top - thickness;
+    std::vector<std::vector<ScreenPoint>> lines;
+    for (const Polygon& contour : slice.contours) {
+        std::vector<ScreenPoint> line;
+        for (size_t k = 0; k < contour.size(); ++k) {
+            const Point2& p = contour[k];
+            const Point2& q = contour[(k + 1) % contour.size()];
+            ScreenPoint corners[4];
+            if (!eye.OnScreen({p.x, p.y, top}, corners[0]) || !eye.OnScreen({q.x, q.y, top}, corners[1])
+                || !eye.OnScreen({q.x, q.y, bottom}, corners[2]) || !eye.OnScreen({p.x, p.y, bottom}, corners[3]))
+                continue;
+            const float light = eye.Light(Normalized(Vec3{q.y - p.y, p.x - q.x, 0.0})) * shade;
+            for (ScreenPoint& corner : corners)
+                corner.light = light;
+            m_raster.Fill(corners[0], corners[1], corners[2], part.color, owner);
+            m_raster.Fill(corners[0], corners[2], corners[3], part.color, owner);
+            line.push_back(corners[0]);
+        }
+        lines.push_back(std::move(line));
+    }
+    const bool from_above = eye.LooksAt({0, 0, 1}, part.Bounds().Center());
+    if (from_above)
+        m_raster.FillFlat(lines, eye.PlaneAt(top), part.color, eye.Light({0, 0, 1}) * shade, owner);
+    for (const std::vector<Point2>& gap : slice.gaps) {
+        for (size_t k = 0; k + 1 < gap.size(); ++k) {
+            ScreenPoint a, b;
+            if (eye.OnScreen({gap[k].x, gap[k].y, top}, a) && eye.OnScreen({gap[k + 1].x, gap[k + 1].y, top}, b))
+                m_raster.Line(a, b, 0xffe01020, 1.0f, 0.0f, true, owner);
         }
     }
 }

@@ -47,6 +47,8 @@ private:
     void DrawEdges(const Part& part, const Eye& eye, const ViewState& state, const ViewColors& colors);
     void DrawCap(const Part& part, const Eye& eye, const Section& section, uint16_t owner);
     void DrawLayers(const PartList& parts, const Camera& camera, const ViewState& state, const QSize& size);
+    void DrawLayer(const Part& part, const Eye& eye, double top, double thickness, const Slice& slice, bool odd,
+                   uint16_t owner);
     const std::vector<float>& CornerNormals(const MeshPtr& mesh);
     const std::vector<Edge>& AllEdges(const MeshPtr& mesh);
 

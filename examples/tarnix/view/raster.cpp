@@ -83,6 +83,44 @@ void Raster::Fill(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint&
     });
 }
 
+void Raster::FillFlat(const std::vector<std::vector<ScreenPoint>>& lines, const ScreenPoint& plane, QRgb color,
+                      float light, uint16_t owner)
+{
+    // Crossings of the lines with the middle of each row.
+    std::vector<std::vector<float>> rows(static_cast<size_t>(m_height));
+    for (const std::vector<ScreenPoint>& line : lines) {
+        for (size_t i = 0; i < line.size(); ++i) {
+            const ScreenPoint* a = &line[i];
+            const ScreenPoint* b = &line[(i + 1) % line.size()];
+            if (a->y > b->y)
+                std::swap(a, b);
+            const int first = std::max(0, static_cast<int>(std::ceil(std::max(a->y, -1.0f) - 0.5f)));
+            for (int y = first; y < m_height && static_cast<float>(y) + 0.5f < b->y; ++y) {
+                const float t = (static_cast<float>(y) + 0.5f - a->y) / (b->y - a->y);
+                rows[static_cast<size_t>(y)].push_back(a->x + (b->x - a->x) * t);
+            }
+        }
+    }
+    const QRgb lit = Lit(color, light);
+    for (int y = 0; y < m_height; ++y) {
+        std::vector<float>& hits = rows[static_cast<size_t>(y)];
+        std::sort(hits.begin(), hits.end());
+        for (size_t i = 0; i + 1 < hits.size(); i += 2) {
+            const int x0 = std::max(0, static_cast<int>(std::ceil(std::max(hits[i], -1.0f) - 0.5f)));
+            const int x1 = std::min(m_width, static_cast<int>(std::ceil(std::min(hits[i + 1], static_cast<float>(m_width)) - 0.5f)));
+            float depth = plane.x * (static_cast<float>(x0) + 0.5f) + plane.y * (static_cast<float>(y) + 0.5f) + plane.depth;
+            size_t at = static_cast<size_t>(y) * static_cast<size_t>(m_width) + static_cast<size_t>(x0);
+            for (int x = x0; x < x1; ++x, ++at, depth += plane.x) {
+                if (depth < m_depths[at])
+                    continue;
+                m_depths[at] = depth;
+                m_colors[at] = lit;
+                m_owners[at] = owner;
+            }
+        }
+    }
+}
+
 void Raster::Glaze(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c, QRgb color, float opacity)
 {
     Scan(a, b, c, [this, color, opacity](size_t at, float depth, float light) {

@@ -27,6 +27,11 @@ public:
 
     /// Fills a triangle with a colour times its light. `owner` is the number of its part, above 0.
     void Fill(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c, QRgb color, uint16_t owner);
+    /// Fills a flat shape of closed lines by the even-odd rule. Its depth is that of the plane
+    /// `depth = plane.x * x + plane.y * y + plane.depth`, which a flat shape in space has on the
+    /// screen in either projection.
+    void FillFlat(const std::vector<std::vector<ScreenPoint>>& lines, const ScreenPoint& plane, QRgb color,
+                  float light, uint16_t owner);
     /// As Fill, mixed with what lies behind, which must have been drawn before; leaves the depth.
     void Glaze(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c, QRgb color, float opacity);
     /// A line, one pixel wide in the finished picture, drawn where nothing nearer is. `bias` is the

@@ -56,7 +56,7 @@ void Workspace::StartMeasuring(MeasureKind kind)
     Q_EMIT MeasurementsChanged();
     const int points = PointsNeeded(kind);
     Q_EMIT Told(points == 1 ? tr("Click a point on a part.")
-                            : tr("Click %n point(s) on parts.", nullptr, points));
+                            : tr("Points to click on parts: %n", nullptr, points));
 }
 
 void Workspace::StopMeasuring()
