@@ -161,6 +161,11 @@ QMenu* ICompositeCommand::GetMenu()
     return impl.popup.get();
 }
 
+QObject* ICompositeCommand::GetLifetime() const
+{
+    return &_pr().lifetime;
+}
+
 IUiItem* ICompositeCommand::ForEach(std::function<bool(IUiItem*)> visit)
 {
     for (IUiItem* const item : qAsConst(_pr().items)) {

@@ -7,6 +7,7 @@
 #include <memory>
 
 class QMenu;
+class QObject;
 
 namespace ovk {
 
@@ -47,6 +48,10 @@ public:
     /// The popup with all items, null while the list is empty. Owned by the composite; it lives
     /// until the list changes.
     QMenu* GetMenu();
+
+    /// An object that lives exactly as long as the composite, for a QPointer of those who remember
+    /// the composite. Owned by the composite.
+    QObject* GetLifetime() const;
 
     /// Visits the items in order, null for a separator.
     IUiItem* ForEach(std::function<bool(IUiItem*)> visit) override;

@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QList>
 #include <QMenu>
+#include <QObject>
 #include <QString>
 
 class QAction;
@@ -37,6 +38,7 @@ public:
     QString title;
     QIcon icon;
     std::unique_ptr<QMenu> popup;
+    mutable QObject lifetime;
 };
 
 } // namespace ovk

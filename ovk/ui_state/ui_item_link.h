@@ -8,8 +8,8 @@ namespace ovk {
 
 class IUiItem;
 
-/// A remembered site item that it does not own. A command that the host destroyed is no longer
-/// remembered, also when another one has come to stand at its address.
+/// A remembered site item that it does not own. A command or a composite that was destroyed is no
+/// longer remembered, also when another one has come to stand at its address.
 class OVK_EXPORT UiItemLink
 {
 public:

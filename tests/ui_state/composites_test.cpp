@@ -230,6 +230,23 @@ private Q_SLOTS:
         QCOMPARE(group->GetAvailableCount(), 0);
     }
 
+    void spotForgetsACompositeThatIsGone()
+    {
+        UiStateRibbonGroup* group =
+            SuiteOf<UiStateRibbon>(*mp_layout).GetPage("page.home")->GetGroup("group.edit");
+        QCOMPARE(group->GetAvailableCount(), 1);
+        mp_save->InsertItem(new UiStateCompositeItem(QStringLiteral("composite.clip")), -1);
+        QCOMPARE(mp_save->GetAvailableCount(), 3);
+        // Not by DeleteComposite, which takes the spots along.
+        delete mp_suite->RemoveComposite(mp_suite->GetIndexOf(mp_clip));
+        QCOMPARE(group->GetAvailableCount(), 0);
+        QCOMPARE(mp_save->GetAvailableCount(), 2);
+        auto* suite = new UiStateComposites;
+        suite->FromJson(Json("{'subitems': [{'id': 'composite.clip', 'items': ['Edit.Copy']}]}"));
+        mp_layout->ReplaceState(mp_suite, suite);
+        QCOMPARE(group->GetAvailableCount(), 1);
+    }
+
     void titleReachesTheCommand()
     {
         mp_clip->Activate(UiProfileItem::amOrdinary);
