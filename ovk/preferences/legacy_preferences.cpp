@@ -19,6 +19,10 @@ namespace {
 /// cost a key as long as all names above it.
 constexpr int MaxDepth = 256;
 
+/// Nor are there ever this many names: a file that makes more of them than this, all keys taken
+/// together, has no further paths. Its memory would grow far beyond its size.
+constexpr int MaxKeyCharacters = 1 << 24;
+
 /// The document in the making.
 class Flattener
 {
@@ -52,16 +56,20 @@ public:
         if (key.endsWith(QLatin1Char('/')))
             key.chop(1);
         const auto value = m_values.find(key);
-        if (value == m_values.end())
-            m_values.insert(key, text);
-        else
+        if (value == m_values.end()) {
+            m_key_characters += key.size();
+            if (m_key_characters <= MaxKeyCharacters)
+                m_values.insert(key, text);
+        } else {
             *value += (m_in_mouse_shortcuts ? m_separator : QStringLiteral(";")) + text;
+        }
     }
 
 private:
     QMap<QString, QString>& m_values;
     QStringList m_names;
     QString m_separator;
+    qint64 m_key_characters = 0;
     bool m_in_mouse_shortcuts = false;
 };
 

@@ -3,6 +3,9 @@
 #include <ovk/preferences/preference_basics.h>
 
 #include <QList>
+#include <QStringView>
+
+#include <memory>
 
 namespace ovk {
 
@@ -42,7 +45,14 @@ private:
     friend class PreferenceBasics;
     friend class PreferenceCollectionBasics;
 
+    struct NameIndex;
+
+    PreferenceBasics* _FindItem(QStringView name);
+    bool _IsIndexed() const;
+    void _Index();
+
     QList<PreferenceBasics*> m_items;
+    std::unique_ptr<NameIndex> mp_index;
 };
 
 } // namespace ovk

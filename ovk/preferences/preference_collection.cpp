@@ -4,6 +4,30 @@
 
 namespace ovk {
 
+namespace {
+
+/// A collection whose items are collections is as deep as the file says, and each level takes its
+/// share of the stack. No host nests its values this deep.
+constexpr int MaxDepth = 1000;
+
+class Depth
+{
+public:
+    Depth() { ++s_depth; }
+    ~Depth() { --s_depth; }
+    Depth(const Depth&) = delete;
+    Depth& operator=(const Depth&) = delete;
+
+    static bool IsTooDeep() { return s_depth > MaxDepth; }
+
+private:
+    static int s_depth;
+};
+
+int Depth::s_depth = 0;
+
+} // namespace
+
 PreferenceCollectionBasics::PreferenceCollectionBasics(PreferenceChapter& parent, const QString& name)
     : PreferenceChapter(parent, name)
 {
@@ -25,11 +49,13 @@ void PreferenceCollectionBasics::Clear()
 
 void PreferenceCollectionBasics::_DoLoad(QXmlStreamReader& reader)
 {
+    const Depth depth;
     Clear();
     while (!reader.atEnd()) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         if (token == QXmlStreamReader::StartElement) {
-            if (PreferenceBasics* const item = _CreateItem())
+            PreferenceBasics* const item = Depth::IsTooDeep() ? nullptr : _CreateItem();
+            if (item)
                 item->Load(reader);
             else
                 reader.skipCurrentElement();

@@ -107,22 +107,69 @@ QString FloatToText(const QString& text)
 
 namespace {
 
-/// The paths of one row in the case in which they are compared.
-struct LowerCasePaths
+/// The last characters of a path, as one number.
+quint64 Tail(const QString& path)
 {
-    QString oldPath;
-    QString newPath;
+    quint64 tail = 0;
+    for (int i = qMax(0, path.size() - 4); i < path.size(); ++i)
+        tail = (tail << 16) | path.at(i).unicode();
+    return tail;
+}
+
+/// A bit for each step of a path; steps may share one.
+quint64 Steps(const QString& path)
+{
+    quint64 steps = 0;
+    uint hash = 0;
+    for (const QChar character : path) {
+        if (character != QLatin1Char('/')) {
+            hash = hash * 31 + character.unicode();
+            continue;
+        }
+        steps |= quint64(1) << (hash % 64);
+        hash = 0;
+    }
+    return steps | quint64(1) << (hash % 64);
+}
+
+/// A piece of a path in the case in which it is compared, and what tells at a glance that a path
+/// does not have it. Of 280 rows hardly three touch a path.
+struct Key
+{
+    explicit Key(const QString& path) : text(path.toLower()), tail(Tail(text)), steps(Steps(text))
+    {
+        if (text.size() < 4)
+            tail_mask = (quint64(1) << (16 * text.size())) - 1;
+    }
+
+    /// False if the key is neither the end of the path nor a run of its steps.
+    bool MayFit(quint64 path_tail, quint64 path_steps) const
+    {
+        return (path_tail & tail_mask) == tail || (steps & ~path_steps) == 0;
+    }
+
+    QString text;
+    quint64 tail;
+    quint64 tail_mask = ~quint64(0);
+    quint64 steps;
 };
 
-const std::vector<LowerCasePaths>& LowerCaseConversions()
+/// The paths of one row.
+struct Keys
 {
-    static const std::vector<LowerCasePaths> s_paths = [] {
-        std::vector<LowerCasePaths> paths;
+    Key oldPath;
+    Key newPath;
+};
+
+const std::vector<Keys>& ConversionKeys()
+{
+    static const std::vector<Keys> s_keys = [] {
+        std::vector<Keys> keys;
         for (const PreferenceConversion& row : PreferenceConversions())
-            paths.push_back({row.oldPath.toLower(), row.newPath.toLower()});
-        return paths;
+            keys.push_back({Key(row.oldPath), Key(row.newPath)});
+        return keys;
     }();
-    return s_paths;
+    return s_keys;
 }
 
 /// True if the piece of \a path from \a position on is a run of whole steps with a step behind it.
@@ -142,21 +189,26 @@ PreferenceConverter& DefaultConverter()
 
 void MapPreferencePath(QString& path, PreferenceConverter& converter, PathDirection direction)
 {
-    const std::vector<LowerCasePaths>& rows = LowerCaseConversions();
+    const std::vector<Keys>& rows = ConversionKeys();
+    const bool to_old = direction == PathDirection::NewToOld;
+    quint64 tail = Tail(path);
+    quint64 steps = Steps(path);
     for (size_t i = 0; i < rows.size(); ++i) {
-        const bool to_old = direction == PathDirection::NewToOld;
-        const QString& key = to_old ? rows[i].newPath : rows[i].oldPath;
-        const QString& replacement = to_old ? rows[i].oldPath : rows[i].newPath;
-        const int position = path.indexOf(key);
+        const Key& key = to_old ? rows[i].newPath : rows[i].oldPath;
+        if (!key.MayFit(tail, steps))
+            continue;
+        const int position = path.indexOf(key.text);
         if (position < 0)
             continue;
         // At the end nothing is asked about what is in front: a row may match the tail of a word.
-        if (position + key.size() == path.size()) {
+        const bool at_end = position + key.text.size() == path.size();
+        if (!at_end && !IsWholeSteps(path, position, key.text.size()))
+            continue;
+        if (at_end)
             converter = PreferenceConversions()[i].converter;
-            path.replace(position, key.size(), replacement);
-        } else if (IsWholeSteps(path, position, key.size())) {
-            path.replace(position, key.size(), replacement);
-        }
+        path.replace(position, key.text.size(), (to_old ? rows[i].oldPath : rows[i].newPath).text);
+        tail = Tail(path);
+        steps = Steps(path);
     }
 }
 

@@ -10,6 +10,8 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+#include <algorithm>
+
 namespace ovk {
 
 namespace {
@@ -20,10 +22,20 @@ bool IsForbidden(QChar character)
     return (code < 0x20 && code != 0x09 && code != 0x0a && code != 0x0d) || code >= 0xfffe;
 }
 
+/// True for nearly every text there is: nothing in it but needs no second look.
+bool IsHarmless(const QString& text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar character) {
+        return !character.isSurrogate() && !IsForbidden(character);
+    });
+}
+
 } // namespace
 
 QString WithoutForbiddenCharacters(const QString& text)
 {
+    if (IsHarmless(text))
+        return text;
     QString allowed;
     allowed.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {

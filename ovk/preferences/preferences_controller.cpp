@@ -114,11 +114,14 @@ QString PreferencesController::GetFileName() const
 void PreferencesController::Save()
 {
     SaveFile(CurrentFile(true), [this](QIODevice& file) {
-        QXmlStreamWriter writer(&file);
-        writer.writeStartDocument();
+        // Into a text: a writer over a device encodes and hands over each bracket by itself. It
+        // would not name the encoding there, so the declaration is written for it.
+        QString document = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
+        QXmlStreamWriter writer(&document);
         static_cast<PreferenceBasics&>(*mp_root).Save(writer);
         writer.writeEndDocument();
-        return !writer.hasError();
+        const QByteArray bytes = document.toUtf8();
+        return file.write(bytes) == bytes.size();
     });
 }
 
