@@ -12,6 +12,8 @@ namespace ovk {
 
 namespace {
 
+constexpr int c_memory = 250; // milliseconds
+
 QWidget* DeepestAt(QWidget& window, const QPoint& pos)
 {
     QWidget* const child = window.childAt(window.mapFromGlobal(pos));
@@ -112,6 +114,7 @@ void DockDragController::Reset()
     if (mp_current)
         mp_current->mp_controller = nullptr;
     mp_current = nullptr;
+    mp_found = nullptr;
     if (mp_widget)
         mp_widget->removeEventFilter(this);
     mp_widget = nullptr;
@@ -128,6 +131,23 @@ void DockDragController::ClearPreviews()
 }
 
 QWidget* DockDragController::FindWidget(const QPoint& pos) const
+{
+    QWidget* const widget = SearchWindows(pos);
+    if (widget) {
+        mp_found = widget;
+        m_found_at.start();
+        return widget;
+    }
+    // The hole that the search punches into the dragged panel takes effect when the window manager
+    // has taken note of it. Till then there seems to be nothing under the cursor.
+    const bool fresh = mp_found && mp_found->isVisible() && m_found_at.isValid()
+                       && !m_found_at.hasExpired(c_memory);
+    if (fresh && mp_found->rect().contains(mp_found->mapFromGlobal(pos)))
+        return mp_found;
+    return nullptr;
+}
+
+QWidget* DockDragController::SearchWindows(const QPoint& pos) const
 {
     if (QWidget* const widget = QApplication::widgetAt(pos))
         return widget;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QObject>
 #include <QtCore/QPoint>
 #include <QtCore/QPointer>
@@ -57,11 +58,14 @@ private:
     /// Takes down every preview: none may outlive its drag.
     void ClearPreviews();
     QWidget* FindWidget(const QPoint& pos) const;
+    QWidget* SearchWindows(const QPoint& pos) const;
 
     DockManager* mp_manager;
     QPointer<DockWidget> mp_widget;
     IDockDragTarget* mp_current = nullptr;
     WidgetAt m_widget_at;
+    mutable QPointer<QWidget> mp_found;
+    mutable QElapsedTimer m_found_at;
 };
 
 } // namespace ovk
