@@ -92,7 +92,7 @@ Q_SIGNALS:
     void aboutToShow();
     /// Comes before the backstage is hidden.
     void aboutToHide();
-    void activePageChanged(RibbonBackstagePage* page);
+    void activePageChanged(Qtitan::RibbonBackstagePage* page);
 
 protected:
     bool event(QEvent* event) override;

@@ -7,12 +7,14 @@
 
 #include <vector>
 
+#include <ovk/core/export.h>
+
 namespace Qtitan {
 
 class RibbonBar;
 
 /// A row of the backstage's column: of a page or of a command.
-class RibbonBackstageRow : public QAbstractButton
+class OVK_TEST_EXPORT RibbonBackstageRow : public QAbstractButton
 {
     Q_OBJECT
 public:
@@ -34,7 +36,7 @@ private:
 };
 
 /// The arrow at the top of the column that leads back.
-class RibbonBackstageBack : public QAbstractButton
+class OVK_TEST_EXPORT RibbonBackstageBack : public QAbstractButton
 {
     Q_OBJECT
 public:

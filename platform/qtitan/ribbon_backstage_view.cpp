@@ -19,6 +19,7 @@ namespace Qtitan {
 RibbonBackstageView::RibbonBackstageView(RibbonBar* bar)
     : QWidget(bar ? bar->window() : nullptr), d(std::make_unique<RibbonBackstageViewPrivate>(this))
 {
+    qRegisterMetaType<Qtitan::RibbonBackstagePage*>();
     d->bar = bar;
     setObjectName(QStringLiteral("ribbonBackstage"));
     setAttribute(Qt::WA_OpaquePaintEvent);

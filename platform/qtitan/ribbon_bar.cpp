@@ -29,6 +29,7 @@ RibbonBarPrivate::~RibbonBarPrivate() = default;
 void RibbonBarPrivate::create()
 {
     installRibbonAccessibility();
+    qRegisterMetaType<Qtitan::RibbonPage*>();
     q->setObjectName(QStringLiteral("ribbonBar"));
     q->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     q->setFocusPolicy(Qt::NoFocus);
@@ -230,7 +231,7 @@ void RibbonBarPrivate::pageVisibilityChanged(RibbonPage* page)
         return;
     tabsChanged();
     if (page->isHidden() && page == current)
-        makeCurrent(nearestShown(pages.indexOf(page)));
+        makeCurrent(nearestShown(pages.indexOf(page) + 1));
     else if (!page->isHidden() && !current)
         makeCurrent(page);
 }

@@ -137,7 +137,7 @@ Q_SIGNALS:
     /// The bar was minimised or restored.
     void minimizationChanged(bool minimized);
     /// Another page is current; null when there is none left.
-    void currentPageChanged(RibbonPage* page);
+    void currentPageChanged(Qtitan::RibbonPage* page);
 
 protected:
     bool event(QEvent* event) override;

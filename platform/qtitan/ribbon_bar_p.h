@@ -9,6 +9,8 @@
 
 #include <memory>
 
+#include <ovk/core/export.h>
+
 QT_BEGIN_NAMESPACE
 class QWheelEvent;
 QT_END_NAMESPACE
@@ -135,7 +137,7 @@ public:
 };
 
 /// One of the buttons of a caption that the bar draws.
-class RibbonCaptionWidget : public QAbstractButton
+class OVK_TEST_EXPORT RibbonCaptionWidget : public QAbstractButton
 {
     Q_OBJECT
 public:
@@ -150,7 +152,7 @@ private:
 };
 
 /// The window buttons at the end of the caption.
-class RibbonCaptionBox : public QWidget
+class OVK_TEST_EXPORT RibbonCaptionBox : public QWidget
 {
     Q_OBJECT
 public:

@@ -47,6 +47,7 @@ void RibbonGalleryButton::paintEvent(QPaintEvent*)
 RibbonGallery::RibbonGallery(QWidget* parent)
     : QFrame(parent), d(std::make_unique<RibbonGalleryPrivate>(this))
 {
+    qRegisterMetaType<Qtitan::RibbonGalleryItem*>();
     setMouseTracking(true);
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::StrongFocus);

@@ -161,9 +161,9 @@ public:
 
 Q_SIGNALS:
     /// An item was picked with the mouse or the keyboard.
-    void itemClicked(RibbonGalleryItem* item);
+    void itemClicked(Qtitan::RibbonGalleryItem* item);
     /// The pointer or the keyboard came to an item, or left the items (null): for a live preview.
-    void itemHovered(RibbonGalleryItem* item);
+    void itemHovered(Qtitan::RibbonGalleryItem* item);
 
 protected:
     bool event(QEvent* event) override;

@@ -6,6 +6,8 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QAbstractButton>
 
+#include <ovk/core/export.h>
+
 QT_BEGIN_NAMESPACE
 class QScrollBar;
 QT_END_NAMESPACE
@@ -13,7 +15,7 @@ QT_END_NAMESPACE
 namespace Qtitan {
 
 /// A scroll or drop-down button at the side of a gallery on a ribbon group.
-class RibbonGalleryButton : public QAbstractButton
+class OVK_TEST_EXPORT RibbonGalleryButton : public QAbstractButton
 {
     Q_OBJECT
 public:

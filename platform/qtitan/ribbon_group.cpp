@@ -34,6 +34,8 @@ RibbonGroup::RibbonGroup(QWidget* parent, const QString& title)
 
 RibbonGroup::~RibbonGroup()
 {
+    // The panel comes home before its popup goes.
+    hidePopup();
     delete d->popup;
     if (d->page)
         RibbonPagePrivate::get(d->page)->groupGone(this);

@@ -5,10 +5,12 @@
 
 #include <QtCore/QPointer>
 
+#include <ovk/core/export.h>
+
 namespace Qtitan {
 
 /// The window in which a group that is reduced to one button shows itself in full.
-class RibbonGroupPopup : public QWidget
+class OVK_TEST_EXPORT RibbonGroupPopup : public QWidget
 {
     Q_OBJECT
 public:

@@ -110,7 +110,7 @@ void RibbonGroupPanel::removeItem(const QAction* action)
     invalidate();
     if (item.button)
         delete item.button;
-    else if (auto* widget_action = qobject_cast<QWidgetAction*>(item.action))
+    else if (auto* widget_action = qobject_cast<QWidgetAction*>(item.action); widget_action && item.widget)
         widget_action->releaseWidget(item.widget);
 }
 

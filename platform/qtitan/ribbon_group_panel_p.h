@@ -14,7 +14,7 @@ namespace Qtitan {
 class RibbonGroup;
 
 /// The launcher: the small button in the corner of a group's title strip.
-class RibbonLauncher : public QAbstractButton
+class OVK_TEST_EXPORT RibbonLauncher : public QAbstractButton
 {
     Q_OBJECT
 public:

@@ -16,7 +16,7 @@ class RibbonGroup;
 class RibbonPage;
 
 /// Draws the key tips of one window, above everything else in it.
-class RibbonKeyTipOverlay : public QWidget
+class OVK_TEST_EXPORT RibbonKeyTipOverlay : public QWidget
 {
     Q_OBJECT
 public:

@@ -5,13 +5,15 @@
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QWidget>
 
+#include <ovk/core/export.h>
+
 namespace Qtitan {
 
 class RibbonBar;
 class RibbonPage;
 
 /// A button at an end of something that scrolls.
-class RibbonScrollButton : public QAbstractButton
+class OVK_TEST_EXPORT RibbonScrollButton : public QAbstractButton
 {
     Q_OBJECT
 public:
@@ -25,7 +27,7 @@ private:
 };
 
 /// The clip of one page: scrolls it when even its smallest form does not fit.
-class RibbonPageHolder : public QWidget
+class OVK_TEST_EXPORT RibbonPageHolder : public QWidget
 {
     Q_OBJECT
 public:
@@ -63,7 +65,7 @@ private:
 
 /// The area of the current page: its ground and border. A child of the bar, or of the window while
 /// a minimised bar peeks.
-class RibbonPageArea : public QWidget
+class OVK_TEST_EXPORT RibbonPageArea : public QWidget
 {
     Q_OBJECT
 public:

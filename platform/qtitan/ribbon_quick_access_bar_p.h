@@ -6,13 +6,15 @@
 #include <QtGui/QPixmap>
 #include <QtWidgets/QAbstractButton>
 
+#include <ovk/core/export.h>
+
 namespace Qtitan {
 
 class RibbonOverflowPopup;
 
 /// Shows the part of the quick access bar that fits. The bar itself is always as wide as it wants
 /// to be, so that its own layout never hides anything.
-class RibbonQuickAccessClip : public QWidget
+class OVK_TEST_EXPORT RibbonQuickAccessClip : public QWidget
 {
     Q_OBJECT
 public:
@@ -28,7 +30,7 @@ private:
 };
 
 /// The button behind the quick access bar that opens what does not fit.
-class RibbonOverflowButton : public QAbstractButton
+class OVK_TEST_EXPORT RibbonOverflowButton : public QAbstractButton
 {
     Q_OBJECT
 public:
@@ -48,7 +50,7 @@ private:
 };
 
 /// The window that shows the rest of the quick access bar: the bar itself, moved to its left.
-class RibbonOverflowPopup : public QWidget
+class OVK_TEST_EXPORT RibbonOverflowPopup : public QWidget
 {
     Q_OBJECT
 public:

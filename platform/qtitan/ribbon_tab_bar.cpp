@@ -36,7 +36,20 @@ void RibbonTabBar::setPages(const QList<RibbonPage*>& pages)
 {
     m_pages = pages;
     m_hovered = -1;
+    grabMnemonics();
     invalidate();
+}
+
+void RibbonTabBar::grabMnemonics()
+{
+    for (auto it = m_shortcuts.cbegin(); it != m_shortcuts.cend(); ++it)
+        releaseShortcut(it.key());
+    m_shortcuts.clear();
+    for (RibbonPage* page : qAsConst(m_pages)) {
+        const QKeySequence sequence = QKeySequence::mnemonic(page->title());
+        if (!sequence.isEmpty())
+            m_shortcuts.insert(grabShortcut(sequence), page);
+    }
 }
 
 void RibbonTabBar::invalidate()
@@ -54,8 +67,15 @@ const std::vector<int>& RibbonTabBar::titleWidths() const
         ++g_measurements;
         m_titles.clear();
         const QFontMetrics font = fontMetrics();
-        for (const RibbonPage* page : m_pages)
-            m_titles.push_back(font.horizontalAdvance(plainText(page->title())));
+        // Pages come and go one by one at a change of layout: what was measured stays known.
+        QHash<QString, int> advances;
+        for (const RibbonPage* page : m_pages) {
+            const QString title = plainText(page->title());
+            const auto known = m_advances.constFind(title);
+            m_titles.push_back(known == m_advances.cend() ? font.horizontalAdvance(title) : *known);
+            advances.insert(title, m_titles.back());
+        }
+        m_advances = advances;
         m_measured = true;
     }
     return m_titles;
@@ -223,6 +243,16 @@ bool RibbonTabBar::event(QEvent* event)
             RibbonToolTip::hideToolTip();
         return true;
     }
+    case QEvent::Shortcut: {
+        RibbonPage* page = m_shortcuts.value(static_cast<QShortcutEvent*>(event)->shortcutId());
+        if (!page)
+            break;
+        RibbonBarPrivate* bar = RibbonBarPrivate::get(m_bar);
+        RibbonKeyboard::enter(m_bar);
+        bar->makeCurrent(page);
+        bar->beginPeek();
+        return true;
+    }
     case QEvent::ShortcutOverride: {
         // Keys of the walk are ours while the focus is on the tabs.
         const int key = static_cast<QKeyEvent*>(event)->key();
@@ -244,6 +274,7 @@ void RibbonTabBar::changeEvent(QEvent* event)
     case QEvent::FontChange:
     case QEvent::StyleChange:
     case QEvent::LayoutDirectionChange:
+        m_advances.clear();
         invalidate();
         break;
     default:

@@ -2,6 +2,7 @@
 
 #include "ribbon_tab_layout_p.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtGui/QColor>
 #include <QtWidgets/QWidget>
@@ -71,9 +72,13 @@ private:
     /// The room between the scroll buttons.
     QRect viewRect() const;
 
+    void grabMnemonics();
+
     RibbonBar* m_bar;
+    QHash<int, RibbonPage*> m_shortcuts; ///< by the identifiers of mnemonics
     QList<RibbonPage*> m_pages;
     mutable std::vector<int> m_titles;
+    mutable QHash<QString, int> m_advances;
     mutable bool m_measured = false;
     mutable RibbonTabGeometry m_geometry;
     mutable int m_geometryWidth = -1;
