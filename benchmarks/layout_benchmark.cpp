@@ -150,8 +150,8 @@ public:
         m_window->resize(1600, 900);
         m_window->show();
         m_profile = std::make_unique<ovk::UiProfile>();
-        m_profile->FromJson({{"layouts", QJsonArray{LayoutJson("One", count),
-                                                    LayoutJson("Two", count)}}});
+        m_profile->FromJson(
+            {{"layouts", QJsonArray{LayoutJson("One", count), LayoutJson("Two", count)}}});
         Settle();
     }
     ~Host()

@@ -77,16 +77,17 @@ void ClearToolBar(QToolBar& bar)
     }
 }
 
-void ForEachCompositeSite(UiLayout& layout,
-                          const std::function<void(UiStateCommandSpots&)>& visit)
+void ForEachCompositeSite(UiLayout& layout, const std::function<void(UiStateCommandSpots&)>& visit)
 {
     if (auto* bar = dynamic_cast<UiStateQAB*>(layout.GetState(UiStateQAB::GetSuiteName())))
         visit(*bar);
-    if (auto* bars = dynamic_cast<UiStateToolbars*>(layout.GetState(UiStateToolbars::GetSuiteName()))) {
+    if (auto* bars =
+            dynamic_cast<UiStateToolbars*>(layout.GetState(UiStateToolbars::GetSuiteName()))) {
         for (int i = 0; i < bars->GetCount(); ++i)
             visit(*static_cast<UiStateToolbar*>(bars->GetItem(i)));
     }
-    if (auto* ribbon = dynamic_cast<UiStateRibbon*>(layout.GetState(UiStateRibbon::GetSuiteName()))) {
+    if (auto* ribbon =
+            dynamic_cast<UiStateRibbon*>(layout.GetState(UiStateRibbon::GetSuiteName()))) {
         for (int i = 0; i < ribbon->GetCount(); ++i) {
             UiStateRibbonPage* page = ribbon->GetPage(i);
             for (int j = 0; j < page->GetCount(); ++j)

@@ -40,7 +40,6 @@ void ClearToolBar(QToolBar& bar);
 
 /// Visits every site of a layout that can show a composite command: the quick access bar, the tool
 /// bars, the groups of the ribbon.
-void ForEachCompositeSite(UiLayout& layout,
-                          const std::function<void(UiStateCommandSpots&)>& visit);
+void ForEachCompositeSite(UiLayout& layout, const std::function<void(UiStateCommandSpots&)>& visit);
 
 } // namespace ovk

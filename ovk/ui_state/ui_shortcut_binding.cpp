@@ -114,8 +114,8 @@ QJsonObject UiShortcutBinding::ToJson() const
 
 bool UiShortcutBinding::FromJson(const QJsonObject& json)
 {
-    _pr().m_key = QKeySequence::fromString(json.value(key_sequence).toString(),
-                                           QKeySequence::PortableText);
+    _pr().m_key =
+        QKeySequence::fromString(json.value(key_sequence).toString(), QKeySequence::PortableText);
     return UiStateItem::FromJson(json);
 }
 

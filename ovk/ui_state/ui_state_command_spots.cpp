@@ -154,8 +154,8 @@ UiProfileItem* UiStateCommandSpots::_CreateSubItem(const QJsonObject& json)
         return new UiSpotCommand(json);
     if (type == UiSpotSeparator::GetType())
         return new UiSpotSeparator(json);
-    LogProfile(QStringLiteral("Spot of unknown type \"%1\" skipped in \"%2\"")
-                          .arg(type, GetName()));
+    LogProfile(
+        QStringLiteral("Spot of unknown type \"%1\" skipped in \"%2\"").arg(type, GetName()));
     return nullptr;
 }
 

@@ -12,9 +12,8 @@ class UiSpotSeparator;
 /// A site: an ordered list of spots. A spot is available when it is a separator, or a command spot
 /// whose item this product offers. Every index of the operations below counts available spots
 /// only; the others keep their places between them, in the tree and in the file.
-class OVK_EXPORT UiStateCommandSpots
-    : public TUiState<UiStateCommandSpots, UiSpot, Dummy::Dummy>,
-      public IStateAvailable
+class OVK_EXPORT UiStateCommandSpots : public TUiState<UiStateCommandSpots, UiSpot, Dummy::Dummy>,
+                                       public IStateAvailable
 {
 public:
     explicit UiStateCommandSpots(const QString& name);

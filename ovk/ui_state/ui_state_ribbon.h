@@ -7,7 +7,8 @@ namespace ovk {
 
 /// The ribbon of a layout: its pages in order. The tree is the master of the live ribbon bar;
 /// nothing is ever read back from the bar.
-class OVK_EXPORT UiStateRibbon : public TUiState<UiStateRibbon, UiStateRibbonPage, UiStateRibbonPage>
+class OVK_EXPORT UiStateRibbon
+    : public TUiState<UiStateRibbon, UiStateRibbonPage, UiStateRibbonPage>
 {
 public:
     UiStateRibbon();

@@ -15,8 +15,8 @@ namespace {
 const QVector<QKeySequence>& EditingKeys()
 {
     static const QVector<QKeySequence> keys = {
-        QKeySequence(QKeySequence::Copy),   QKeySequence(QKeySequence::Cut),
-        QKeySequence(QKeySequence::Paste),  QKeySequence(QKeySequence::Delete),
+        QKeySequence(QKeySequence::Copy),      QKeySequence(QKeySequence::Cut),
+        QKeySequence(QKeySequence::Paste),     QKeySequence(QKeySequence::Delete),
         QKeySequence(QKeySequence::SelectAll), QKeySequence(QKeySequence::Undo),
         QKeySequence(QKeySequence::Redo),
     };

@@ -38,11 +38,12 @@ private Q_SLOTS:
         QTest::newRow("neither title nor icon")
             << QByteArray("{'id': 'c', 'type': 'menu', 'items': []}")
             << QByteArray("{'id': 'c', 'type': 'menu', 'items': []}");
-        QTest::newRow("all keys")
-            << QByteArray("{'id': 'c', 'type': 'menu', 'title': 'T', 'icon': 'I', "
-                          "'items': ['A', 'B']}")
-            << QByteArray("{'id': 'c', 'type': 'menu', 'title': 'T', 'icon': 'I', "
-                          "'items': ['A', 'B']}");
+        QTest::newRow("all keys") << QByteArray(
+                                         "{'id': 'c', 'type': 'menu', 'title': 'T', 'icon': 'I', "
+                                         "'items': ['A', 'B']}")
+                                  << QByteArray(
+                                         "{'id': 'c', 'type': 'menu', 'title': 'T', 'icon': 'I', "
+                                         "'items': ['A', 'B']}");
         QTest::newRow("any other type is a drop-down")
             << QByteArray("{'id': 'c', 'type': 'gallery', 'items': ['A']}")
             << QByteArray("{'id': 'c', 'type': 'command', 'items': ['A']}");
@@ -181,7 +182,8 @@ private Q_SLOTS:
     {
         auto& bar = SuiteOf<UiStateQAB>(*mp_layout);
         bar.AddSpot(UiStateCommandSpots::CreateCommandSpot(QStringLiteral("composite.clip")));
-        auto* toolbar = static_cast<UiStateToolbar*>(SuiteOf<UiStateToolbars>(*mp_layout).GetItem(0));
+        auto* toolbar =
+            static_cast<UiStateToolbar*>(SuiteOf<UiStateToolbars>(*mp_layout).GetItem(0));
         toolbar->AddSpot(UiStateCommandSpots::CreateCommandSpot(QStringLiteral("composite.clip")));
         auto* menu = static_cast<UiStateMenu*>(SuiteOf<UiStateMenus>(*mp_layout).GetItem(0));
         menu->AddSpot(UiStateCommandSpots::CreateCommandSpot(QStringLiteral("composite.clip")));
@@ -288,7 +290,8 @@ private Q_SLOTS:
         };
         const auto own = make("{'id': 'c', 'title': 'Mine', 'icon': 'old', 'items': ['A']}");
         const auto base = make("{'id': 'c', 'title': 'T', 'icon': 'old', 'items': ['A', 'B']}");
-        const auto source = make("{'id': 'c', 'title': 'U', 'icon': 'new', 'items': ['A', 'B', 'C']}");
+        const auto source =
+            make("{'id': 'c', 'title': 'U', 'icon': 'new', 'items': ['A', 'B', 'C']}");
         own->Merge(*source, base.get());
         QCOMPARE(own->ToJson().value("title").toString(), QStringLiteral("Mine"));
         QCOMPARE(own->GetIconName(), QStringLiteral("new"));

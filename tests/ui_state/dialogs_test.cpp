@@ -27,9 +27,10 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("read");
         QTest::addColumn<QRect>("geometry");
         QTest::addColumn<QByteArray>("written");
-        QTest::newRow("a rectangle") << QByteArray("{'id': 'd', 'l': 10, 't': 20, 'w': 300, 'h': 200}")
-                                     << QRect(10, 20, 300, 200)
-                                     << QByteArray("{'id': 'd', 'l': 10, 't': 20, 'w': 300, 'h': 200}");
+        QTest::newRow("a rectangle")
+            << QByteArray("{'id': 'd', 'l': 10, 't': 20, 'w': 300, 'h': 200}")
+            << QRect(10, 20, 300, 200)
+            << QByteArray("{'id': 'd', 'l': 10, 't': 20, 'w': 300, 'h': 200}");
         QTest::newRow("no keys") << QByteArray("{'id': 'd'}") << QRect(QPoint(0, 0), QPoint(-1, -1))
                                  << QByteArray("{'id': 'd', 'l': 0, 't': 0, 'w': 0, 'h': 0}");
         QTest::newRow("past all numbers")

@@ -196,8 +196,8 @@ private Q_SLOTS:
         FakeHost host;
         host.Start();
         UiLayout& layout = *host.Activate("Model");
-        SuiteOf<UiStateQAB>(layout).AddSpot(UiStateCommandSpots::CreateCommandSpot(
-            *host.Command("Edit.Copy")));
+        SuiteOf<UiStateQAB>(layout).AddSpot(
+            UiStateCommandSpots::CreateCommandSpot(*host.Command("Edit.Copy")));
         auto* bar = static_cast<UiStateToolbar*>(SuiteOf<UiStateToolbars>(layout).GetItem(0));
         bar->SetVisible(false);
         bar->SetMovable(false);

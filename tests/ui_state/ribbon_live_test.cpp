@@ -33,8 +33,7 @@ private Q_SLOTS:
         QCOMPARE(file->title(), QStringLiteral("File"));
         QCOMPARE(Shown(*file), QStringList({"File.Open", "|", "File.Save"}));
         QCOMPARE(file->styleForAction(mp_host->Command("File.Open")), Qt::ToolButtonTextUnderIcon);
-        QCOMPARE(file->styleForAction(mp_host->Command("File.Save")),
-                 Qt::ToolButtonTextBesideIcon);
+        QCOMPARE(file->styleForAction(mp_host->Command("File.Save")), Qt::ToolButtonTextBesideIcon);
         QCOMPARE(Shown(*page->getGroup(1)), QStringList{"Clipboard"});
         QVERIFY(mp_ribbon->CheckConsistency());
     }
@@ -74,8 +73,15 @@ private Q_SLOTS:
         QVERIFY(!page->IsShown());
         QVERIFY(page->GetWidget()->isHidden());
         QCOMPARE(LivePages(mp_host->Bar()), QStringList({"page.home", "(lost)"}));
-        QCOMPARE(page->ToJson().value("groups").toArray().at(0).toObject().value("spots")
-                     .toArray().size(), 2);
+        QCOMPARE(page->ToJson()
+                     .value("groups")
+                     .toArray()
+                     .at(0)
+                     .toObject()
+                     .value("spots")
+                     .toArray()
+                     .size(),
+                 2);
     }
 
     void separatorsAloneShowNoGroup()
@@ -130,7 +136,8 @@ private Q_SLOTS:
         mp_host->Command("File.Save")->setIcon(QIcon(red));
         UiStateRibbonGroup* group = Group("group.file");
         QVERIFY(group->GetWidget()->icon().isNull());
-        group->InsertSpot(0, UiStateCommandSpots::CreateCommandSpot(*mp_host->Command("File.Save")));
+        group->InsertSpot(0,
+                          UiStateCommandSpots::CreateCommandSpot(*mp_host->Command("File.Save")));
         QCOMPARE(group->GetWidget()->icon().cacheKey(),
                  mp_host->Command("File.Save")->icon().cacheKey());
     }

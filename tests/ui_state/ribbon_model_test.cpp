@@ -52,9 +52,8 @@ struct GroupModel
     }
     int Available() const
     {
-        return static_cast<int>(std::count_if(spots.begin(), spots.end(), [](const auto& spot) {
-            return spot.IsAvailable();
-        }));
+        return static_cast<int>(std::count_if(spots.begin(), spots.end(),
+                                              [](const auto& spot) { return spot.IsAvailable(); }));
     }
 };
 
@@ -72,8 +71,7 @@ struct PageModel
     }
 };
 
-template <class T>
-QStringList Ids(const std::vector<T>& items)
+template <class T> QStringList Ids(const std::vector<T>& items)
 {
     QStringList ids;
     for (const T& item : items)
@@ -122,10 +120,7 @@ private Q_SLOTS:
     }
 
 private:
-    int Random(size_t below)
-    {
-        return below == 0 ? 0 : static_cast<int>(m_random() % below);
-    }
+    int Random(size_t below) { return below == 0 ? 0 : static_cast<int>(m_random() % below); }
     QString NewId(const char* prefix) { return QLatin1String(prefix) + QString::number(m_next++); }
 
     QByteArray Step()
@@ -342,7 +337,8 @@ private:
         }
         for (size_t i = 0; i < model.groups.size(); ++i) {
             const GroupModel& group_model = model.groups[i];
-            const auto& group = *static_cast<UiStateRibbonGroup*>(page.GetItem(static_cast<int>(i)));
+            const auto& group =
+                *static_cast<UiStateRibbonGroup*>(page.GetItem(static_cast<int>(i)));
             if (ChildNames(group) != Ids(group_model.spots))
                 return group_model.id + " spots " + ChildNames(group).join(' ');
             if (group.GetAvailableCount() != group_model.Available())

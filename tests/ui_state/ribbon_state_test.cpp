@@ -27,8 +27,7 @@ public:
 };
 
 /// A page or a group from a file.
-template <class Node>
-std::unique_ptr<Node> Read(const QByteArray& text)
+template <class Node> std::unique_ptr<Node> Read(const QByteArray& text)
 {
     const QJsonObject json = Json(text);
     auto node = std::make_unique<Node>(json);
@@ -54,9 +53,10 @@ private Q_SLOTS:
         QTest::newRow("no title") << QByteArray("{'id': 'a'}")
                                   << QByteArray("{'id': 'a', 'title': '', 'groups': []}")
                                   << QByteArray("{'id': 'a', 'title': '', 'spots': []}");
-        QTest::newRow("a title is no number") << QByteArray("{'id': 'a', 'title': 7}")
-                                              << QByteArray("{'id': 'a', 'title': '', 'groups': []}")
-                                              << QByteArray("{'id': 'a', 'title': '', 'spots': []}");
+        QTest::newRow("a title is no number")
+            << QByteArray("{'id': 'a', 'title': 7}")
+            << QByteArray("{'id': 'a', 'title': '', 'groups': []}")
+            << QByteArray("{'id': 'a', 'title': '', 'spots': []}");
         QTest::newRow("hidden and built in")
             << QByteArray("{'id': 'a', 'title': 'T', 'visible': false, 'persistence': 4}")
             << QByteArray(
@@ -183,9 +183,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("base");
         QTest::addColumn<QString>("source");
         QTest::addColumn<QString>("merged");
-        QTest::newRow("untouched follows the new default") << "A" << "A" << "B" << "B";
-        QTest::newRow("the user's stays") << "Mine" << "A" << "B" << "Mine";
-        QTest::newRow("nothing new") << "A" << "A" << "A" << "A";
+        QTest::newRow("untouched follows the new default") << "A"
+                                                           << "A"
+                                                           << "B"
+                                                           << "B";
+        QTest::newRow("the user's stays") << "Mine"
+                                          << "A"
+                                          << "B"
+                                          << "Mine";
+        QTest::newRow("nothing new") << "A"
+                                     << "A"
+                                     << "A"
+                                     << "A";
     }
     void mergeOfTitles()
     {
@@ -219,7 +228,8 @@ private Q_SLOTS:
 
     void newDefaultGroupComesAfterTheUsers()
     {
-        const QByteArray base = "{'pages': [{'id': 'p', 'groups': [{'id': 'g1'}, {'id': 'gone'}]}]}";
+        const QByteArray base =
+            "{'pages': [{'id': 'p', 'groups': [{'id': 'g1'}, {'id': 'gone'}]}]}";
         UiStateRibbon own;
         own.FromJson(Json(base));
         own.GetPage("p")->InsertGroup(new UiStateRibbonGroup(QStringLiteral("mine")), 0);

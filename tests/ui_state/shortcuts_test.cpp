@@ -22,10 +22,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("written");
-        QTest::newRow("one chord") << "Ctrl+S" << "Ctrl+S";
-        QTest::newRow("two chords") << "Ctrl+K, Ctrl+D" << "Ctrl+K, Ctrl+D";
-        QTest::newRow("empty") << "" << "";
-        QTest::newRow("keypad") << "Num+5" << "Num+5";
+        QTest::newRow("one chord") << "Ctrl+S"
+                                   << "Ctrl+S";
+        QTest::newRow("two chords") << "Ctrl+K, Ctrl+D"
+                                    << "Ctrl+K, Ctrl+D";
+        QTest::newRow("empty") << ""
+                               << "";
+        QTest::newRow("keypad") << "Num+5"
+                                << "Num+5";
     }
     void bindingReadsAndWrites()
     {

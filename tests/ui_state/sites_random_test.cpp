@@ -73,11 +73,11 @@ private Q_SLOTS:
             UiLayout& layout = *host.Layout(Random(4) == 0 ? "Twin" : "Big");
             const QByteArray done = Step(layout);
             const QString wrong = Difference();
-            QVERIFY2(wrong.isEmpty(), qPrintable(QStringLiteral("seed %1, step %2, %3 in %4: %5")
-                                                     .arg(seed)
-                                                     .arg(step)
-                                                     .arg(QString::fromLatin1(done),
-                                                          layout.GetName(), wrong)));
+            QVERIFY2(wrong.isEmpty(),
+                     qPrintable(QStringLiteral("seed %1, step %2, %3 in %4: %5")
+                                    .arg(seed)
+                                    .arg(step)
+                                    .arg(QString::fromLatin1(done), layout.GetName(), wrong)));
             if (step % 25 == 0)
                 QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }

@@ -25,8 +25,8 @@ public:
 class TitledSpot : public UiSpotCommand
 {
 public:
-    using UiSpotCommand::UiSpotCommand;
     using UiSpotCommand::_MergeContent;
+    using UiSpotCommand::UiSpotCommand;
 };
 
 /// A site in the layout "Model", which deletes it.
@@ -245,10 +245,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("index");
         QTest::addColumn<QStringList>("names");
         const QStringList last{"?1", "File.Open", "?2", "File.Save", "?3", "Edit.Copy"};
-        QTest::newRow("before the first") << 0 << QStringList{"?1", "Edit.Copy", "File.Open", "?2",
-                                                              "File.Save", "?3"};
-        QTest::newRow("before the second") << 1 << QStringList{"?1", "File.Open", "?2", "Edit.Copy",
-                                                               "File.Save", "?3"};
+        QTest::newRow("before the first")
+            << 0 << QStringList{"?1", "Edit.Copy", "File.Open", "?2", "File.Save", "?3"};
+        QTest::newRow("before the second")
+            << 1 << QStringList{"?1", "File.Open", "?2", "Edit.Copy", "File.Save", "?3"};
         QTest::newRow("behind trailing unresolved spots") << 2 << last;
         QTest::newRow("past the end") << 77 << last;
         QTest::newRow("negative") << -1 << last;

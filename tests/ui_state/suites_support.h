@@ -16,16 +16,14 @@ namespace ovk_test {
 inline QJsonObject Json(QByteArray text)
 {
     QJsonParseError error;
-    const QJsonObject object =
-        QJsonDocument::fromJson(text.replace('\'', '"'), &error).object();
+    const QJsonObject object = QJsonDocument::fromJson(text.replace('\'', '"'), &error).object();
     if (error.error != QJsonParseError::NoError)
         qWarning("Bad JSON in a test: %s", qPrintable(error.errorString()));
     return object;
 }
 
 /// The suite of a layout by its class.
-template <class Suite>
-Suite& SuiteOf(ovk::UiLayout& layout)
+template <class Suite> Suite& SuiteOf(ovk::UiLayout& layout)
 {
     return dynamic_cast<Suite&>(*layout.GetState(Suite::GetSuiteName()));
 }
@@ -46,13 +44,13 @@ inline QJsonObject BigCatalogue(int count)
     QJsonArray ids;
     for (int i = 0; i < count; ++i) {
         const QString id = QStringLiteral("Big.%1").arg(i);
-        commands.append(QJsonObject{{"id", id}, {"title", QStringLiteral("Command %1").arg(i)},
-                                    {"visual", true}});
+        commands.append(QJsonObject{
+            {"id", id}, {"title", QStringLiteral("Command %1").arg(i)}, {"visual", true}});
         ids.append(id);
     }
     const QJsonObject layout{{"id", "Big"}, {"command_ids", ids}};
-    const QJsonObject product{{"id", "Fake"}, {"profile_suffix", "fake"},
-                              {"layout", QJsonArray{layout}}};
+    const QJsonObject product{
+        {"id", "Fake"}, {"profile_suffix", "fake"}, {"layout", QJsonArray{layout}}};
     return {{"commands", QJsonObject{{"command", commands}}},
             {"products", QJsonObject{{"product", QJsonArray{product}}}}};
 }
