@@ -408,7 +408,12 @@ QPalette RibbonTheme::palette() const
     };
     const QColor disabled_base = look(Element::EditDisabled).middle;
     set(QPalette::Window, ground, ground);
-    set(QPalette::WindowText, window.text, window.disabled);
+    // Labels stand on bars as well as on windows.
+    QVector<QColor> label_grounds{ground};
+    for (const Element bar : {Element::StatusBar, Element::ToolBar, Element::DockFrame, Element::TabPane})
+        label_grounds += look(bar).grounds();
+    set(QPalette::WindowText, DrawHelpers::legible(window.text, label_grounds, TextContrast),
+        DisabledText(window.text, label_grounds));
     set(QPalette::Base, view.middle, disabled_base);
     set(QPalette::AlternateBase, look(Element::ViewAlternate).middle, disabled_base);
     // One colour serves text on a base and on a disabled base, so it must show on both.

@@ -134,11 +134,17 @@ void RibbonThemeTest::textsOnBarsReadInTheColourOfLabels()
     QFETCH(int, number);
     const RibbonTheme theme(static_cast<OfficeStyle::Theme>(number),
                             OfficeStyle::accentColor(OfficeStyle::AccentColorBlue));
-    const QColor text = theme.palette().color(QPalette::WindowText);
+    const QPalette palette = theme.palette();
+    const QColor text = palette.color(QPalette::WindowText);
+    const QColor disabled = palette.color(QPalette::Disabled, QPalette::WindowText);
     for (const Element element : {Element::StatusBar, Element::ToolBar, Element::DockTitle, Element::DockFrame,
                                   Element::TabPane, Element::BackstagePage}) {
         for (const QColor& ground : theme[element].grounds())
             QVERIFY2(DrawHelpers::contrast(text, ground) >= 4.5, RibbonTheme::name(element));
+        if (element == Element::DockTitle || element == Element::BackstagePage)
+            continue;
+        for (const QColor& ground : theme[element].grounds())
+            QVERIFY2(DrawHelpers::contrast(disabled, ground) >= 2.0, RibbonTheme::name(element));
     }
 }
 
