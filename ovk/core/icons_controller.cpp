@@ -1,5 +1,7 @@
 #include "ovk/core/icons_controller.h"
 
+#include "ovk/core/svg_icon_engine_p.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -13,6 +15,13 @@ namespace ovk {
 namespace {
 
 IconsController* g_icons = nullptr;
+
+QIcon Open(const QString& path)
+{
+    if (path.endsWith(QLatin1String(".svg")))
+        return QIcon(std::make_unique<SvgIconEngine>(path).release()); // the icon's
+    return QIcon(path);
+}
 
 } // namespace
 
@@ -53,7 +62,7 @@ const QIcon& IconsController::Load(const QString& name)
         for (const char* extension : {".svg", ".png"}) {
             const QString candidate = path + name + QLatin1String(extension);
             if (QFile::exists(candidate))
-                return impl.m_cache.insert(key, QIcon(candidate)).value();
+                return impl.m_cache.insert(key, Open(candidate)).value();
         }
     }
     return s_none;

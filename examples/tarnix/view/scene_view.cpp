@@ -161,7 +161,7 @@ const QImage& SceneView::Shadow()
 {
     if (m_shadow_dirty) {
         const ViewState& state = m_workspace.GetViewState();
-        const bool wanted = state.shadows && state.plate && !state.layers.shown && !state.section.on
+        const bool wanted = !m_workspace.GetScene().Parts().empty() && state.shadows && state.plate && !state.layers.shown && !state.section.on
             && (state.mode == DisplayMode::Shaded || state.mode == DisplayMode::Edges || state.mode == DisplayMode::Triangles);
         m_shadow = wanted ? PlateShadow(m_workspace.GetScene().Parts(), m_workspace.GetScene().GetPlate()) : QImage();
         m_shadow_dirty = false;
@@ -192,13 +192,17 @@ void SceneView::Paint(QPainter& painter, const QSize& size, int samples, bool fo
 
     const qreal ratio = for_screen ? devicePixelRatioF() : 1.0;
     const QSize pixels = size * ratio;
-    if (m_parts_dirty || !for_screen || m_parts_samples < samples || m_parts_picture.size() != pixels) {
+    if (scene.Parts().empty()) {
+        m_parts_picture = QImage();
+    } else if (m_parts_dirty || !for_screen || m_parts_samples < samples || m_parts_picture.size() != pixels) {
         m_parts_picture = m_renderer.Draw(scene.Parts(), m_camera, state, m_colors, pixels, samples);
         m_parts_samples = samples;
         m_parts_dirty = !for_screen;
     }
-    m_parts_picture.setDevicePixelRatio(ratio);
-    painter.drawImage(0, 0, m_parts_picture);
+    if (!m_parts_picture.isNull()) {
+        m_parts_picture.setDevicePixelRatio(ratio);
+        painter.drawImage(0, 0, m_parts_picture);
+    }
 
     if (from_below)
         overlay.PlateAndGrid(scene.GetPlate(), state, QImage());
