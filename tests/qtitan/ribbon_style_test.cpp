@@ -144,7 +144,13 @@ QVector<Kind> Kinds()
         KindOf<QStatusBar>("status bar", [](QStatusBar& bar) { bar.addWidget(new QLabel(Ink)); }),
         KindOf<QToolBar>("tool bar", [](QToolBar& bar) { bar.addAction(Ink); }),
         KindOf<QMenuBar>("menu bar", [](QMenuBar& bar) { bar.addMenu(Ink); }),
-        KindOf<QDockWidget>("dock widget", [](QDockWidget& dock) { dock.setWindowTitle(Ink); }),
+        KindOf<QMainWindow>("dock widget",
+                            [](QMainWindow& window) {
+                                auto* dock = new QDockWidget(Ink, &window);
+                                dock->setWidget(new QListWidget);
+                                window.addDockWidget(Qt::LeftDockWidgetArea, dock);
+                                window.setCentralWidget(new QWidget);
+                            }),
         KindOf<QScrollBar>("scroll bar", [](QScrollBar& bar) { bar.setRange(0, 50); }),
         KindOf<QSlider>("slider", [](QSlider& slider) { slider.setOrientation(Qt::Horizontal); }),
         KindOf<QSplitter>("splitter",
@@ -178,6 +184,48 @@ QImage PictureOf(const Kind& kind, bool enabled)
     // With a rim, so that a text at the edge is seen whole.
     return style_test::Picture(picture.size() + QSize(20, 20), 1, QApplication::palette().color(QPalette::Window),
                                [&picture](QPainter& painter) { painter.drawPixmap(10, 10, picture); });
+}
+
+/// The solid blocks of a picture and the least contrast of one with what is beside it.
+struct InkFound
+{
+    int blocks = 0;
+    qreal least = 21.0;
+    QString where;
+};
+
+InkFound FindInk(const QImage& picture)
+{
+    InkFound found;
+    for (int y = 2; y + 14 < picture.height(); ++y) {
+        for (int x = 4; x + 8 < picture.width(); ++x) {
+            // A block of one colour, as large as the character, with one ground on both sides.
+            const QRgb ink = picture.pixel(x, y);
+            bool solid = picture.pixel(x - 1, y) != ink && picture.pixel(x, y - 1) != ink;
+            for (int dy = 0; solid && dy < 13; ++dy)
+                for (int dx = 0; solid && dx < 5; ++dx)
+                    solid = picture.pixel(x + dx, y + dy) == ink;
+            int width = 5;
+            while (solid && width < 20 && x + width < picture.width() && picture.pixel(x + width, y + 4) == ink)
+                ++width;
+            if (!solid || width == 20 || x + width + 2 >= picture.width())
+                continue;
+            const QRgb ground = picture.pixel(x - 3, y + 4);
+            if (ground != picture.pixel(x + width + 1, y + 4) || ground == ink)
+                continue;
+            ++found.blocks;
+            const qreal contrast = DrawHelpers::contrast(QColor(ink), QColor(ground));
+            if (contrast < found.least) {
+                found.least = contrast;
+                found.where = QStringLiteral("%1 on %2 at (%3, %4): %5")
+                                  .arg(QColor(ink).name(), QColor(ground).name())
+                                  .arg(x)
+                                  .arg(y)
+                                  .arg(contrast);
+            }
+        }
+    }
+    return found;
 }
 
 bool IsWordless(const Kind& kind)
@@ -268,36 +316,10 @@ void RibbonStyleTest::inkOnWidgetsReads()
     for (const bool enabled : {true, false}) {
         const QImage picture = PictureOf(Kinds()[index], enabled);
         const qreal wanted = enabled ? 4.5 : 2.0;
-        // A block of one colour, as large as the character, with one ground on both sides of it.
-        int blocks = 0;
-        for (int y = 2; y + 10 < picture.height(); ++y) {
-            for (int x = 4; x + 8 < picture.width(); ++x) {
-                const QRgb ink = picture.pixel(x, y);
-                bool solid = picture.pixel(x - 1, y) != ink && picture.pixel(x, y - 1) != ink;
-                for (int dy = 0; solid && dy < 8; ++dy)
-                    for (int dx = 0; solid && dx < 5; ++dx)
-                        solid = picture.pixel(x + dx, y + dy) == ink;
-                int width = 5;
-                while (solid && width < 20 && picture.pixel(x + width, y + 4) == ink)
-                    ++width;
-                if (!solid || width == 20 || x + width + 2 >= picture.width())
-                    continue;
-                const QRgb ground = picture.pixel(x - 3, y + 4);
-                if (ground != picture.pixel(x + width + 1, y + 4) || ground == ink)
-                    continue;
-                ++blocks;
-                const qreal contrast = DrawHelpers::contrast(QColor(ink), QColor(ground));
-                QVERIFY2(contrast >= wanted,
-                         qPrintable(QStringLiteral("%1 on %2 at (%3, %4), %5: %6")
-                                        .arg(QColor(ink).name(), QColor(ground).name())
-                                        .arg(x)
-                                        .arg(y)
-                                        .arg(enabled ? "enabled" : "disabled")
-                                        .arg(contrast)));
-            }
-        }
+        const InkFound found = FindInk(picture);
+        QVERIFY2(found.least >= wanted, qPrintable(found.where + (enabled ? "" : " disabled")));
         // The test is worth nothing when it does not see the text.
-        QVERIFY2(blocks > 0, enabled ? "no text seen" : "no disabled text seen");
+        QVERIFY2(found.blocks > 0, enabled ? "no text seen" : "no disabled text seen");
     }
 }
 
@@ -550,20 +572,23 @@ void RibbonStyleTest::coloursOfAHostsWidgetStay()
 void RibbonStyleTest::aModelsTextColourStaysReadableOnASelection()
 {
     style_test::ApplicationStyle style;
-    style->setTheme(OfficeStyle::Office2013White);
-    QListWidget list;
-    auto* item = new QListWidgetItem(Ink);
-    item->setForeground(QColor(0, 0, 160));
-    list.addItem(item);
-    auto* pale = new QListWidgetItem(Ink);
-    pale->setForeground(QColor(220, 220, 220));
-    list.addItem(pale);
-    list.setSelectionMode(QAbstractItemView::MultiSelection);
-    list.selectAll();
-    list.resize(80, 80);
-    list.setFont(QFont(QStringLiteral("DejaVu Sans"), 12));
-    const QImage picture = list.grab().toImage();
-    QVERIFY(!picture.isNull());
+    for (int theme = 0; theme < style_test::ThemeCount; ++theme) {
+        style->setTheme(static_cast<OfficeStyle::Theme>(theme));
+        QListWidget list;
+        QFont font(QStringLiteral("DejaVu Sans"));
+        font.setPixelSize(13);
+        list.setFont(font);
+        for (const QColor& color : {QColor(0, 0, 160), QColor(220, 220, 220), QColor(255, 230, 0)}) {
+            auto* item = new QListWidgetItem(Ink, &list);
+            item->setForeground(color);
+        }
+        list.setSelectionMode(QAbstractItemView::MultiSelection);
+        list.selectAll();
+        list.resize(100, 100);
+        const InkFound found = FindInk(list.grab().toImage());
+        QCOMPARE(found.blocks, 3);
+        QVERIFY2(found.least >= 4.5, qPrintable(found.where));
+    }
 }
 
 void RibbonStyleTest::selectedRowsHaveOneFrame()
