@@ -19,7 +19,6 @@ class OVK_EXPORT IDockPage
 {
 public:
     IDockPage();
-    virtual ~IDockPage();
     IDockPage(const IDockPage&) = delete;
     IDockPage& operator=(const IDockPage&) = delete;
 
@@ -46,6 +45,8 @@ public:
 
     /// The size policy that the panel takes while the page is current.
     virtual QSizePolicy GetSizePolicy() const = 0;
+
+    virtual ~IDockPage();
 
     /// The panel that the page is in, or null.
     DockWidget* GetDockWidget() const;

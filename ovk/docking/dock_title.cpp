@@ -102,11 +102,14 @@ void DockTitle::DrawText(QPainter& painter) const
 {
     const int x = GetLeftExtent() + GetMargin();
     const int baseline = GetMargin() + fontMetrics().height();
+    // A long title must not run under the buttons.
+    const int room = qMax(0, width() - x - GetRightExtent());
+    const QString text = fontMetrics().elidedText(m_title, Qt::ElideRight, room);
     painter.setPen(palette().color(QPalette::WindowText));
     if (isRightToLeft())
-        painter.drawText(QPoint(width() - x - GetTextWidth(), baseline), m_title);
+        painter.drawText(QPoint(width() - x - fontMetrics().horizontalAdvance(text), baseline), text);
     else
-        painter.drawText(QPoint(x, baseline), m_title);
+        painter.drawText(QPoint(x, baseline), text);
 }
 
 void DockTitle::paintEvent(QPaintEvent*)
@@ -160,6 +163,7 @@ MinimizeButton::MinimizeButton(QWidget* parent) : DockButton(parent)
 void MinimizeButton::SetCollapsed(bool collapsed)
 {
     setIcon(Icon(collapsed ? "dockUnfold" : "dockFold"));
+    setToolTip(collapsed ? tr("Unfold") : tr("Fold"));
 }
 
 CollapsibleButton::CollapsibleButton(QWidget* parent) : DockButton(parent)
@@ -170,11 +174,13 @@ CollapsibleButton::CollapsibleButton(QWidget* parent) : DockButton(parent)
 void CollapsibleButton::SetCollapsible(bool collapsible)
 {
     setIcon(Icon(collapsible ? "dockUnpin" : "dockPin"));
+    setToolTip(collapsible ? tr("Keep open") : tr("Allow folding"));
 }
 
 CloseButton::CloseButton(QWidget* parent) : DockButton(parent)
 {
     setIcon(style()->standardIcon(QStyle::SP_DockWidgetCloseButton, nullptr, this));
+    setToolTip(tr("Close"));
 }
 
 DockWidgetTitle::DockWidgetTitle(QWidget* parent)

@@ -32,8 +32,12 @@ bool DockToolboxSite::AddWidget(DockWidget* widget)
 
 bool DockToolboxSite::InsertWidget(int index, DockWidget* widget)
 {
-    if (!widget || widget->GetToolboxSite() == this)
+    if (!widget)
         return false;
+    if (widget->GetToolboxSite() == this) {
+        insertWidget(index, widget);
+        return true;
+    }
     if (!widget->isHidden())
         mp_impl->EnsureLaidOut();
     switch (mp_impl->CheckFit(*widget)) {

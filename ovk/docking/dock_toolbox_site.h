@@ -46,7 +46,7 @@ public:
     bool AddWidget(DockWidget* widget);
 
     /// Docks a panel at `index` of the box, -1 behind the last item. Other panels may collapse for
-    /// it. False, and nothing changed, if it does not fit.
+    /// it. A panel of this site only moves. False, and nothing changed, if it does not fit.
     bool InsertWidget(int index, DockWidget* widget);
 
     /// Takes a panel out of the box; it keeps its parent.

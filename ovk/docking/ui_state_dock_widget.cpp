@@ -1,7 +1,7 @@
 #include "ovk/docking/ui_state_dock_widget.h"
 
 #include "ovk/commands/widget_factory.h"
-#include "ovk/docking/dock_manager.h"
+#include "ovk/docking/dock_manager_p.h"
 #include "ovk/docking/dock_page.h"
 #include "ovk/docking/dock_widget_p.h"
 #include "ovk/docking/ui_state_dock_live_p.h"
@@ -128,7 +128,9 @@ UiStateDockWidget::UiStateDockWidget(QWidget* widget) : TUiState(NameOf(widget))
     }
     mp_widget = panel;
     SetPersistence(panel->IsDeleteOnEmpty() ? ipOrdinary : ipBuiltIn);
-    SetVisible(!panel->IsExplicitlyHidden());
+    // A panel that is only away while the backstage is open was not hidden by the user.
+    const bool away = panel->GetManager()->_Impl()->hidden.contains(panel);
+    SetVisible(away || !panel->IsExplicitlyHidden());
     // What folded for want of room is not the user's wish: it opens again where there is room.
     m_minimized = panel->IsCollapsed() && !panel->IsForcedCollapsed();
     m_minimizable = panel->IsCollapsible();

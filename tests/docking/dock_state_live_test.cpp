@@ -169,6 +169,7 @@ private Q_SLOTS:
     void aCaptureIsEqualToWhatWasBuilt();
     void aCaptureForgetsToolbarsAndCloseButtons();
     void aForcedFoldIsNotStored();
+    void aPanelThatIsAwayForTheBackstageIsStoredAsShown();
     void buildingAHundredTimesChangesNothing();
     void anUnknownAreaIsSkippedWithAllItHolds();
     void restoringACopyLeavesThePanels();
@@ -371,6 +372,19 @@ void DockStateLiveTest::aForcedFoldIsNotStored()
     host.State().GetItems(items);
     QVERIFY(items.at(0)->IsMinimized());
     QVERIFY(!items.at(1)->IsMinimized());
+}
+
+void DockStateLiveTest::aPanelThatIsAwayForTheBackstageIsStoredAsShown()
+{
+    DockHost host;
+    host.Load(Docking({}, {Panel("f", {"F"}, QRect(300, 200, 250, 180)),
+                           Panel("g", {"G"}, QRect(30, 200, 250, 180))}));
+    host.Find("g")->setVisible(false);
+    host.Manager().HideFloating();
+    const QJsonObject captured = host.Captured();
+    host.Load(captured);
+    QVERIFY(host.Find("f")->isVisible());
+    QVERIFY(!host.Find("g")->isVisible());
 }
 
 void DockStateLiveTest::buildingAHundredTimesChangesNothing()

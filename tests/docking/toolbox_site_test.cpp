@@ -31,6 +31,7 @@ private Q_SLOTS:
     void clearDeletesThePanelsAndKeepsThePages();
     void panelsKnowWhetherTheyCouldOpen();
     void sizesAreComputedOnceAChange();
+    void aPanelMovesWithinItsSite();
 };
 
 void ToolboxSiteTest::panelsAreAddedBeforeTheLastItem()
@@ -336,17 +337,12 @@ void ToolboxSiteTest::panelsOfASideShareTheWidestMinimum()
     fixture.Left()->AddWidget(wide);
     fixture.Left()->AddWidget(narrow);
     DockFixture::Settle();
-    QSize min(10, 20);
-    QSize max(30, 40);
-    QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     narrow->_Impl()->PostUpdate(DockWidget::Impl::UpdateSizes);
     DockFixture::Settle();
     QCOMPARE(narrow->minimumWidth(), 210);
     QCOMPARE(narrow->maximumWidth(), 0xFFFFFF);
     QCOMPARE(narrow->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
     QCOMPARE(narrow->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
-    Q_UNUSED(min);
-    Q_UNUSED(max);
 }
 
 void ToolboxSiteTest::clearDeletesThePanelsAndKeepsThePages()
@@ -407,6 +403,25 @@ void ToolboxSiteTest::sizesAreComputedOnceAChange()
     panel->SetClosable(false);
     DockFixture::Settle();
     QVERIFY(computations <= 2);
+}
+
+void ToolboxSiteTest::aPanelMovesWithinItsSite()
+{
+    DockFixture fixture;
+    DockWidget* const a = fixture.Panel("a");
+    fixture.Left()->AddWidget(a);
+    fixture.Left()->AddWidget(fixture.Panel("b"));
+    fixture.Left()->SetCrossSize(180);
+    DockFixture::Settle();
+    QVERIFY(fixture.Left()->InsertWidget(-1, a));
+    DockFixture::Settle();
+    QCOMPARE(DockFixture::Order(*fixture.Left()), (QStringList{"b", "|", "a"}));
+    QVERIFY(a->isVisible());
+    QCOMPARE(fixture.Left()->GetCrossSize(), 180);
+    QVERIFY(!fixture.Left()->InsertWidget(0, nullptr));
+    fixture.Right()->RemoveWidget(a);
+    QCOMPARE(a->GetToolboxSite(), fixture.Left());
+    QCOMPARE(fixture.Inconsistency(), QString());
 }
 
 OVK_TEST_CLASS(ToolboxSiteTest)
