@@ -7,6 +7,7 @@
 #include <QPixmapCache>
 #include <QWidget>
 #include <QWindow>
+#include <algorithm>
 #include <cmath>
 
 namespace Qtitan {

@@ -3,6 +3,7 @@
 #include "ribbon_painter_p.h"
 
 #include <QBrush>
+#include <algorithm>
 
 namespace Qtitan {
 namespace paint_util {

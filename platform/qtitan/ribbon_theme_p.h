@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <QVector>
 #include <array>
 
 namespace Qtitan {

@@ -22,11 +22,13 @@
 #include <QSpinBox>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QStyleFactory>
 #include <QStyleOption>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 #include <qtitan/draw_helpers.h>
 
 using namespace Qtitan;
