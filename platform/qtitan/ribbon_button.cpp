@@ -35,6 +35,24 @@ RibbonButton::RibbonButton(RibbonGround ground, RibbonButtonHost* host, QWidget*
 
 RibbonButton::~RibbonButton() = default;
 
+void RibbonButton::setAction(QAction* action)
+{
+    // An action with a menu of its own makes the button change its mode.
+    const ToolButtonPopupMode mode = popupMode();
+    setDefaultAction(action);
+    setPopupMode(mode);
+    contentsChanged();
+}
+
+void RibbonButton::contentsChanged()
+{
+    m_contents = contents();
+    invalidate();
+    // A button that shows only an icon and has no text is told by what its tool tip says.
+    if (m_contents.text.isEmpty())
+        setAccessibleName(toolTip());
+}
+
 RibbonItemSize RibbonButton::wantedSize() const
 {
     switch (toolButtonStyle()) {
@@ -177,11 +195,9 @@ void RibbonButton::actionEvent(QActionEvent* event)
     QToolButton::actionEvent(event);
     if (event->action() != defaultAction() && event->type() != QEvent::ActionRemoved)
         return;
-    Contents now = contents();
-    if (now == m_contents)
+    if (contents() == m_contents)
         return;
-    m_contents = std::move(now);
-    invalidate();
+    contentsChanged();
     if (m_host)
         m_host->buttonChanged();
 }
@@ -250,6 +266,12 @@ void RibbonButton::mousePressEvent(QMouseEvent* event)
     }
     // QToolButton takes a strip at the side for the menu's; ours lies where it is drawn.
     QAbstractButton::mousePressEvent(event);
+}
+
+void RibbonButton::mouseReleaseEvent(QMouseEvent* event)
+{
+    // Not QToolButton's: it writes to itself after a click that may have deleted the button.
+    QAbstractButton::mouseReleaseEvent(event);
 }
 
 void RibbonButton::mouseDoubleClickEvent(QMouseEvent* event)

@@ -30,6 +30,8 @@ public:
     RibbonButton(RibbonGround ground, RibbonButtonHost* host, QWidget* parent);
     ~RibbonButton() override;
 
+    /// setDefaultAction, after which the button knows what it was measured for.
+    void setAction(QAction* action);
     /// The size that the style asks for.
     RibbonItemSize wantedSize() const;
     RibbonItemSize displaySize() const { return m_size; }
@@ -66,6 +68,7 @@ protected:
     void leaveEvent(QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     bool hitButton(const QPoint& position) const override;
@@ -87,6 +90,7 @@ private:
         }
     };
     Contents contents() const;
+    void contentsChanged();
 
     RibbonGround m_ground;
     RibbonButtonHost* m_host;

@@ -156,7 +156,7 @@ void RibbonBar::mouseMoveEvent(QMouseEvent* event)
         top->showNormal();
         d->pressedAt.setX(int(part * width()));
     }
-    top->move(event->globalPos() - mapTo(top, d->pressedAt));
+    top->move(top->pos() + event->pos() - d->pressedAt);
 }
 
 void RibbonBar::mouseReleaseEvent(QMouseEvent*)

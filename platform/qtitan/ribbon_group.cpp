@@ -304,8 +304,7 @@ void RibbonGroup::changeEvent(QEvent* event)
 
 void RibbonGroup::resizeEvent(QResizeEvent*)
 {
-    if (d->panel->parentWidget() == this)
-        d->panel->setGeometry(rect());
+    d->fitPanel();
 }
 
 void RibbonGroup::paintEvent(QPaintEvent*)
@@ -343,10 +342,7 @@ void RibbonGroupPrivate::insertAction(QAction* action, QAction* before)
             item.button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
             item.button->setPopupMode(QToolButton::MenuButtonPopup);
         }
-        const QToolButton::ToolButtonPopupMode mode = item.button->popupMode();
-        item.button->setDefaultAction(action);
-        // An action with a menu of its own makes the button change its mode.
-        item.button->setPopupMode(mode);
+        item.button->setAction(action);
         QObject::connect(item.button, &QToolButton::triggered, q, [this] {
             if (RibbonBar* bar = ribbonBarOf(q))
                 RibbonBarPrivate::get(bar)->commandRan();
@@ -408,6 +404,12 @@ void RibbonGroupPrivate::setCollapsed(bool on)
     }
     panel->setVisible(!on);
     q->update();
+}
+
+void RibbonGroupPrivate::fitPanel()
+{
+    if (panel->parentWidget() == q)
+        panel->setGeometry(q->rect());
 }
 
 void RibbonGroupPrivate::setTitleVisible(bool visible)

@@ -49,6 +49,8 @@ public:
     /// Shows the step, one of reductionSteps().
     void applyStep(int step);
     void setCollapsed(bool collapsed);
+    /// Gives the panel the size of the group, unless it is in the popup.
+    void fitPanel();
     void setTitleVisible(bool visible);
     void popupHidden();
     void insertAction(QAction* action, QAction* before);

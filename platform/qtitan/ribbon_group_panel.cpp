@@ -22,6 +22,11 @@ namespace {
 int g_computations = 0;
 int g_placements = 0;
 
+QSize wantedSize(const QWidget* widget)
+{
+    return widget->sizeHint().expandedTo(widget->minimumSize()).boundedTo(widget->maximumSize());
+}
+
 bool isShown(const RibbonGroupPanel::Item& item)
 {
     return item.action->isVisible() && (item.separator || item.widget);
@@ -181,8 +186,8 @@ std::vector<RibbonLayoutItem> RibbonGroupPanel::layoutItems(bool all_sizes) cons
                 entry.iconWidth = item.button->widthFor(RibbonItemSize::Icon);
         } else if (item.widget) {
             entry.kind = RibbonLayoutItem::Kind::Widget;
-            const QSize hint = item.widget->sizeHint().expandedTo(item.widget->minimumSize())
-                                   .boundedTo(item.widget->maximumSize());
+            const QSize hint = wantedSize(item.widget);
+            item.hint = hint;
             entry.wanted = RibbonItemSize::Large;
             entry.width = hint.width();
             if (qobject_cast<RibbonGallery*>(item.widget))
@@ -350,8 +355,13 @@ void RibbonGroupPanel::buttonChanged()
 bool RibbonGroupPanel::event(QEvent* event)
 {
     switch (event->type()) {
-    case QEvent::LayoutRequest: // a widget of the host's has another size hint
-        invalidate();
+    case QEvent::LayoutRequest:
+        // Also comes when children are merely shown; only another size hint is worth a layout.
+        for (const Item& item : m_items)
+            if (item.widget && !item.button && item.hint != wantedSize(item.widget)) {
+                invalidate();
+                break;
+            }
         break;
     case QEvent::HoverEnter:
     case QEvent::HoverLeave:

@@ -42,6 +42,7 @@ public:
         QPointer<QWidget> widget;       ///< null for a separator
         RibbonButton* button = nullptr; ///< the widget, when it is a button of ours
         bool separator = false;
+        mutable QSize hint;             ///< what a widget of the host's wanted when it was measured
         QRect rect;                     ///< as laid out; of a separator, where it is drawn
     };
 

@@ -319,8 +319,11 @@ void RibbonPagePrivate::place()
             width = gd->reductionSteps()[static_cast<std::size_t>(steps[static_cast<std::size_t>(i)])].second;
         const QRect rect(x, metrics.pageTop, width, metrics.groupHeightFor(titlesVisible));
         shown.at(i)->setGeometry(directed(rect, q->width(), q->layoutDirection()));
-        if (!gd->collapsed)
+        if (!gd->collapsed) {
+            // A group that is not seen yet gets its resize event only when it is shown.
+            gd->fitPanel();
             gd->panel->ensurePlaced();
+        }
         x += width + metrics.groupSpacing;
     }
     q->update();

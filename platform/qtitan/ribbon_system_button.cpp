@@ -117,10 +117,13 @@ void RibbonSystemButton::keyPressEvent(QKeyEvent* event)
 void RibbonSystemButton::mousePressEvent(QMouseEvent* event)
 {
     RibbonToolTip::hideToolTip();
-    if (m_backstage || !menu())
-        QAbstractButton::mousePressEvent(event);
-    else
-        QToolButton::mousePressEvent(event);
+    QAbstractButton::mousePressEvent(event);
+}
+
+void RibbonSystemButton::mouseReleaseEvent(QMouseEvent* event)
+{
+    // Not QToolButton's: it writes to itself after a click that may have deleted the button.
+    QAbstractButton::mouseReleaseEvent(event);
 }
 
 void RibbonSystemButton::mouseDoubleClickEvent(QMouseEvent* event)

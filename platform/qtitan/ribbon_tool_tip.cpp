@@ -37,9 +37,18 @@ QSize textSize(const QString& text, const QFont& font, int width)
         return QSize(0, 0);
     const QFontMetrics metrics(font);
     const int flags = Qt::AlignLeft | Qt::TextExpandTabs | (width > 0 ? Qt::TextWordWrap : 0);
-    return metrics.boundingRect(QRect(0, 0, width > 0 ? width : QWIDGETSIZE_MAX, QWIDGETSIZE_MAX), flags,
-                                text)
-        .size();
+    QSize size = metrics
+                     .boundingRect(QRect(0, 0, width > 0 ? width : QWIDGETSIZE_MAX, QWIDGETSIZE_MAX),
+                                   flags, text)
+                     .size();
+    if (width <= 0 || size.width() <= width)
+        return size;
+    // Blanks at the end of a line hang over; only a word that is too long may widen the tip.
+    int longest = width;
+    for (const QString& word : text.simplified().split(QLatin1Char(' ')))
+        longest = qMax(longest, metrics.horizontalAdvance(word));
+    size.setWidth(qMin(size.width(), longest));
+    return size;
 }
 
 void setUpDocument(QTextDocument& document, const QString& text, const QFont& font, int width)
@@ -286,7 +295,7 @@ void RibbonToolTip::paintEvent(QPaintEvent*)
     painter.setLayoutDirection(layoutDirection());
     if (!m_icon.isNull())
         DrawHelpers::drawIcon(painter, place(layout.icon), m_icon, layout.icon.size(),
-                              disabled ? QIcon::Disabled : QIcon::Normal);
+                              disabled ? QIcon::Disabled : QIcon::Normal, QIcon::Off, color);
     painter.setPen(color);
     painter.setFont(boldFont(font()));
     painter.drawText(place(layout.title), alignment, m_title);
