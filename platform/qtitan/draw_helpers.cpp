@@ -225,22 +225,76 @@ QImage DrawHelpers::disabledImage(const QImage& image)
     return result;
 }
 
+QImage DrawHelpers::visibleSign(const QImage& image, const QColor& ink)
+{
+    if (image.isNull() || !ink.isValid())
+        return image;
+    const qreal ink_light = luminance(ink);
+    if (ink_light > 0.2 && ink_light < 0.35)
+        return image;
+    QImage result = image.convertToFormat(QImage::Format_ARGB32);
+    qint64 weight = 0;
+    qint64 coloured = 0;
+    qint64 light = 0;
+    for (int y = 0; y < result.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(result.constScanLine(y));
+        for (int x = 0; x < result.width(); ++x) {
+            const int alpha = qAlpha(line[x]);
+            const auto channels = {qRed(line[x]), qGreen(line[x]), qBlue(line[x])};
+            weight += alpha;
+            coloured += std::max(channels) - std::min(channels) > 40 ? alpha : 0;
+            light += static_cast<qint64>(alpha) * qGray(line[x]);
+        }
+    }
+    // Something with colours, or with dark and light in it, is a picture and speaks for itself.
+    if (weight == 0 || coloured * 50 > weight)
+        return image;
+    const qreal grey = static_cast<qreal>(light) / weight;
+    if (ink_light >= 0.35 ? grey > 120 : grey < 215)
+        return image;
+    for (int y = 0; y < result.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(result.scanLine(y));
+        for (int x = 0; x < result.width(); ++x)
+            line[x] = qRgba(ink.red(), ink.green(), ink.blue(), qAlpha(line[x]));
+    }
+    result.setDevicePixelRatio(image.devicePixelRatio());
+    return result;
+}
+
+QIcon DrawHelpers::visibleIcon(const QIcon& icon, const QSize& size, qreal device_pixel_ratio,
+                               const QColor& ink)
+{
+    const QPixmap plain = iconPixmap(icon, size, device_pixel_ratio);
+    const QPixmap seen = iconPixmap(icon, size, device_pixel_ratio, QIcon::Normal, QIcon::Off, ink);
+    if (plain.cacheKey() == seen.cacheKey())
+        return icon;
+    QIcon result;
+    for (const QIcon::State state : {QIcon::Off, QIcon::On}) {
+        result.addPixmap(iconPixmap(icon, size, device_pixel_ratio, QIcon::Normal, state, ink),
+                         QIcon::Normal, state);
+        result.addPixmap(iconPixmap(icon, size, device_pixel_ratio, QIcon::Disabled, state, ink),
+                         QIcon::Disabled, state);
+    }
+    return result;
+}
+
 QPixmap DrawHelpers::iconPixmap(const QIcon& icon, const QSize& size, qreal device_pixel_ratio,
-                                QIcon::Mode mode, QIcon::State state)
+                                QIcon::Mode mode, QIcon::State state, const QColor& ink)
 {
     if (icon.isNull() || size.isEmpty())
         return {};
     const qreal ratio = std::max(1.0, device_pixel_ratio);
     const RibbonTheme& theme = RibbonTheme::current();
     // Some icons draw themselves in the theme's colours.
-    const QString key = QStringLiteral("qtitan-icon-%1-%2x%3-%4-%5-%6-%7")
+    const QString key = QStringLiteral("qtitan-icon-%1-%2x%3-%4-%5-%6-%7-%8")
                             .arg(icon.cacheKey())
                             .arg(size.width())
                             .arg(size.height())
                             .arg(ratio)
                             .arg(mode)
                             .arg(state)
-                            .arg(theme[Element::DockTitle].text.rgb(), 0, 16);
+                            .arg(theme[Element::DockTitle].text.rgb(), 0, 16)
+                            .arg(ink.isValid() ? ink.rgb() : 0, 0, 16);
     QPixmap result;
     if (QPixmapCache::find(key, &result))
         return result;
@@ -262,6 +316,14 @@ QPixmap DrawHelpers::iconPixmap(const QIcon& icon, const QSize& size, qreal devi
     }
     if (image.isNull())
         return {};
+    const QImage seen = visibleSign(image, ink);
+    if (ink.isValid() && seen.cacheKey() == image.cacheKey()) {
+        // The same picture as without an ink, so that callers can tell.
+        result = iconPixmap(icon, size, device_pixel_ratio, mode, state);
+        QPixmapCache::insert(key, result);
+        return result;
+    }
+    image = seen;
     if (mode == QIcon::Disabled)
         image = disabledImage(image);
     image.setDevicePixelRatio(ratio);
@@ -271,10 +333,11 @@ QPixmap DrawHelpers::iconPixmap(const QIcon& icon, const QSize& size, qreal devi
 }
 
 void DrawHelpers::drawIcon(QPainter& painter, const QRect& rect, const QIcon& icon,
-                           const QSize& size, QIcon::Mode mode, QIcon::State state)
+                           const QSize& size, QIcon::Mode mode, QIcon::State state,
+                           const QColor& ink)
 {
     const qreal ratio = DeviceRatio(painter);
-    const QPixmap pixmap = iconPixmap(icon, size, ratio, mode, state);
+    const QPixmap pixmap = iconPixmap(icon, size, ratio, mode, state, ink);
     if (pixmap.isNull())
         return;
     const QSizeF extent = QSizeF(pixmap.size()) / pixmap.devicePixelRatio();

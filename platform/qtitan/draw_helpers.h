@@ -61,14 +61,26 @@ public:
                            const QColor& color = QColor(0, 0, 0, 70));
 
     /// The icon's picture for that size and device pixel ratio, never scaled up blurred: a smaller
-    /// picture keeps its size. Disabled pictures are made from the normal one where the icon has
-    /// none, faded so that they read on dark and on light.
+    /// picture keeps its size. Disabled pictures are made from the normal one, faded so that they
+    /// read on dark and on light. With `ink`, the colour of the text beside it, a picture that is a
+    /// plain dark (or plain light) sign takes that colour where it would not be seen otherwise.
     static QPixmap iconPixmap(const QIcon& icon, const QSize& size, qreal device_pixel_ratio,
-                              QIcon::Mode mode = QIcon::Normal, QIcon::State state = QIcon::Off);
+                              QIcon::Mode mode = QIcon::Normal, QIcon::State state = QIcon::Off,
+                              const QColor& ink = QColor());
 
-    /// Draws the icon centred in `rect`.
+    /// Draws the icon centred in `rect`; `ink` as in iconPixmap.
     static void drawIcon(QPainter& painter, const QRect& rect, const QIcon& icon, const QSize& size,
-                         QIcon::Mode mode = QIcon::Normal, QIcon::State state = QIcon::Off);
+                         QIcon::Mode mode = QIcon::Normal, QIcon::State state = QIcon::Off,
+                         const QColor& ink = QColor());
+
+    /// The icon with plain signs in the colour of `ink` where they would not be seen otherwise, for
+    /// code that draws icons by itself; the icon as it is where nothing needs to change.
+    static QIcon visibleIcon(const QIcon& icon, const QSize& size, qreal device_pixel_ratio,
+                             const QColor& ink);
+
+    /// A copy of the picture in one colour with its alpha when it is a plain sign of the other
+    /// lightness than `ink`; the picture itself otherwise.
+    static QImage visibleSign(const QImage& image, const QColor& ink);
 
     /// A copy of the picture greyed and faded for a disabled item.
     static QImage disabledImage(const QImage& image);

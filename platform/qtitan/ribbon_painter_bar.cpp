@@ -313,7 +313,8 @@ void RibbonPainter::drawSystemButton(QPainter& painter, const RibbonPaintOption&
             content = Visual(option, option.rect, content);
         }
         DrawHelpers::drawIcon(painter, icon, option.icon, option.iconSize,
-                              option.has(RibbonState::Disabled) ? QIcon::Disabled : QIcon::Normal);
+                              option.has(RibbonState::Disabled) ? QIcon::Disabled : QIcon::Normal,
+                              QIcon::Off, ink);
     } else if (!text) {
         // Without either, the three bars that everybody knows for a menu.
         const int width = Px(option, 12);

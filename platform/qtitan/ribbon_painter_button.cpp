@@ -332,15 +332,14 @@ void RibbonPainter::drawButton(QPainter& painter, const RibbonButtonOption& opti
     if (looks.shown)
         DrawGround(painter, option, layout, looks);
 
+    const QColor main_ink = InkFor(option, looks.main);
+    const QColor menu_ink = InkFor(option, looks.menu);
     if (ShowsIcon(option))
         DrawHelpers::drawIcon(painter, layout.icon, option.icon, option.iconSize,
                               disabled ? QIcon::Disabled
                                        : option.has(RibbonState::Hover) ? QIcon::Active
                                                                         : QIcon::Normal,
-                              option.has(RibbonState::Checked) ? QIcon::On : QIcon::Off);
-
-    const QColor main_ink = InkFor(option, looks.main);
-    const QColor menu_ink = InkFor(option, looks.menu);
+                              option.has(RibbonState::Checked) ? QIcon::On : QIcon::Off, main_ink);
     if (option.large) {
         // In a split button the text lies in the menu's half.
         const QColor ink = option.menu == RibbonMenuKind::Split ? menu_ink : main_ink;

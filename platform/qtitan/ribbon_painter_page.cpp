@@ -208,7 +208,7 @@ void RibbonPainter::drawCollapsedGroup(QPainter& painter, const RibbonPaintOptio
     drawLook(painter, frame, frame_look, theme.cornerRadius());
     const bool disabled = option.has(RibbonState::Disabled);
     DrawHelpers::drawIcon(painter, frame, option.icon, option.iconSize,
-                          disabled ? QIcon::Disabled : QIcon::Normal);
+                          disabled ? QIcon::Disabled : QIcon::Normal, QIcon::Off, frame_look.text);
 
     const QColor ink = disabled ? theme[Element::Button].disabled : theme[element].text;
     const QStringList lines = splitText(option.text, option.font, Px(option, 9));

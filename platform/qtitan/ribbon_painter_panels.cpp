@@ -88,7 +88,8 @@ void RibbonPainter::drawBackstageRow(QPainter& painter, const RibbonPaintOption&
         icon.moveTop(option.rect.top() + (option.rect.height() - icon.height()) / 2);
         text.setLeft(icon.right() + 1 + Px(option, 8));
         DrawHelpers::drawIcon(painter, Visual(option, option.rect, icon), option.icon, option.iconSize,
-                              option.has(RibbonState::Disabled) ? QIcon::Disabled : QIcon::Normal);
+                              option.has(RibbonState::Disabled) ? QIcon::Disabled : QIcon::Normal,
+                              QIcon::Off, ink);
     }
     DrawLine(painter, Visual(option, option.rect, text), Qt::AlignLeading | Qt::AlignVCenter,
              option.text, ink, option);

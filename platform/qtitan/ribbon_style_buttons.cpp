@@ -205,6 +205,10 @@ bool DrawButtonControl(QStyle::ControlElement element, const Canvas& canvas)
                       && !canvas.has(QStyle::State_Sunken) && !canvas.has(QStyle::State_On);
     if (!flat && !HasOwnColor(canvas))
         label.palette = TextPalette(label.palette, QPalette::ButtonText, ButtonLook(canvas));
+    if (!label.icon.isNull())
+        label.icon = DrawHelpers::visibleIcon(label.icon, label.iconSize,
+                                              canvas.painter->device()->devicePixelRatioF(),
+                                              label.palette.color(QPalette::Active, QPalette::ButtonText));
     canvas.style->drawControl(element, &label, canvas.painter, canvas.widget);
     return true;
 }
@@ -241,6 +245,10 @@ bool DrawToolButton(QStyle::ComplexControl control, const Canvas& canvas)
                                 ToolInk(canvas, main_state, auto_raise));
     // Some labels are written in the colour of plain text.
     label.palette.setBrush(QPalette::WindowText, label.palette.brush(QPalette::ButtonText));
+    if (!label.icon.isNull())
+        label.icon = DrawHelpers::visibleIcon(label.icon, label.iconSize,
+                                              canvas.painter->device()->devicePixelRatioF(),
+                                              label.palette.color(QPalette::Active, QPalette::ButtonText));
     const int frame = style->pixelMetric(QStyle::PM_DefaultFrameWidth, tool, canvas.widget);
     const bool has_arrow = !split && (tool->features & QStyleOptionToolButton::HasMenu)
                            && !(tool->subControls & QStyle::SC_ToolButtonMenu);

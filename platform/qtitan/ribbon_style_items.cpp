@@ -159,6 +159,11 @@ bool DrawItemControl(QStyle::ControlElement element, const Canvas& canvas)
             for (const QPalette::ColorGroup each : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
                 cell.palette.setColor(each, QPalette::Text, text);
         }
+        if (!cell.icon.isNull())
+            cell.icon = DrawHelpers::visibleIcon(
+                cell.icon, cell.decorationSize, canvas.painter->device()->devicePixelRatioF(),
+                state == Element::View ? cell.palette.color(QPalette::Active, QPalette::Text)
+                                       : canvas.look(state).text);
         canvas.style->drawControl(element, &cell, canvas.painter, canvas.widget);
         return true;
     }

@@ -97,7 +97,7 @@ void DrawItemIcon(const Canvas& canvas, const QStyleOptionMenuItem& item, int co
                               !canvas.enabled()                     ? QIcon::Disabled
                               : canvas.has(QStyle::State_Selected) ? QIcon::Active
                                                                    : QIcon::Normal,
-                              checked ? QIcon::On : QIcon::Off);
+                              checked ? QIcon::On : QIcon::Off, mark);
         return;
     }
     if (!checked)

@@ -192,6 +192,8 @@ private Q_SLOTS:
     void iconsGrowInTheirSteps();
     void iconsAreNotBlurred();
     void disabledIconsShowOnDarkAndLight();
+    void plainSignsTakeTheColourOfTheText_data();
+    void plainSignsTakeTheColourOfTheText();
     void aSelectedTabOpensTheLineOfThePage();
     void statesLookDifferent_data();
     void statesLookDifferent();
@@ -506,6 +508,33 @@ void RibbonPainterTest::disabledIconsShowOnDarkAndLight()
             QVERIFY(DrawHelpers::contrast(shown, ground) > 1.15);
         }
     }
+}
+
+void RibbonPainterTest::plainSignsTakeTheColourOfTheText_data()
+{
+    QTest::addColumn<QColor>("icon");
+    QTest::addColumn<QColor>("ink");
+    QTest::addColumn<bool>("changes");
+    QTest::newRow("a dark sign beside light text") << QColor(60, 60, 60) << QColor(240, 240, 240) << true;
+    QTest::newRow("a dark sign beside dark text") << QColor(60, 60, 60) << QColor(30, 30, 30) << false;
+    QTest::newRow("a light sign beside dark text") << QColor(245, 245, 245) << QColor(30, 30, 30) << true;
+    QTest::newRow("a light sign beside light text") << QColor(245, 245, 245) << QColor(Qt::white) << false;
+    QTest::newRow("a grey sign, seen on both") << QColor(140, 140, 140) << QColor(Qt::white) << false;
+    QTest::newRow("a blue picture beside light text") << QColor(20, 40, 150) << QColor(Qt::white) << false;
+    QTest::newRow("no text to go by") << QColor(60, 60, 60) << QColor() << false;
+}
+
+void RibbonPainterTest::plainSignsTakeTheColourOfTheText()
+{
+    QFETCH(QColor, icon);
+    QFETCH(QColor, ink);
+    QFETCH(bool, changes);
+    const QIcon sign = SquareIcon(icon);
+    const QPixmap pixmap = DrawHelpers::iconPixmap(sign, QSize(16, 16), 1, QIcon::Normal, QIcon::Off, ink);
+    QCOMPARE(pixmap.toImage().pixelColor(8, 8), changes ? ink : icon);
+    const QIcon visible = DrawHelpers::visibleIcon(sign, QSize(16, 16), 1, ink);
+    QCOMPARE(visible.cacheKey() != sign.cacheKey(), changes);
+    QCOMPARE(visible.pixmap(16, 16).toImage().pixelColor(8, 8), changes ? ink : icon);
 }
 
 void RibbonPainterTest::aSelectedTabOpensTheLineOfThePage()
