@@ -136,18 +136,20 @@ bool UiState::FromJson(const QJsonObject& object)
     UiStateItem::FromJson(object);
     const QJsonArray elements = object.value(_GetSubitemsTag()).toArray();
     const int size = elements.size();
-    for (int i = 0; i < size; ++i) {
-        const QJsonObject element = elements.at(i).toObject();
-        std::unique_ptr<UiProfileItem> child(_CreateSubItem(element));
-        if (!child)
-            continue;
-        const int count = GetChildCount();
-        AppendChild(child.get());
-        if (GetChildCount() == count)
-            continue; // not a child of this node's class
-        child.release()->FromJson(element);
-    }
+    for (int i = 0; i < size; ++i)
+        _AppendFromJson(elements.at(i).toObject());
     return true;
+}
+
+void UiState::_AppendFromJson(const QJsonObject& element)
+{
+    std::unique_ptr<UiProfileItem> child(_CreateSubItem(element));
+    if (!child)
+        return;
+    const int count = GetChildCount();
+    AppendChild(child.get());
+    if (GetChildCount() > count)
+        child.release()->FromJson(element);
 }
 
 } // namespace ovk

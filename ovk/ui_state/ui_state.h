@@ -58,6 +58,10 @@ protected:
     /// Validates every child.
     virtual void _Validate(QSet<QString>& changed);
 
+    /// Makes the child that \a element describes, appends and reads it; nothing if its type is
+    /// unknown or it is no child of this class.
+    void _AppendFromJson(const QJsonObject& element);
+
     /// Makes the node active without building anything, for a widget that was made on demand.
     void _SetActive();
 

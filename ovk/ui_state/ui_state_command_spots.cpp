@@ -5,6 +5,7 @@
 #include "ovk/ui_state/ui_profile.h"
 #include "ovk/ui_state/ui_spot_command.h"
 
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 
 namespace ovk {
@@ -12,6 +13,7 @@ namespace ovk {
 namespace {
 
 const QLatin1String key_id("id");
+const QLatin1String key_style("style");
 const QLatin1String key_type("type");
 
 /// The item that the spot stands for; null for a separator too.
@@ -143,13 +145,31 @@ UiSpotSeparator* UiStateCommandSpots::CreateSeparatorSpot()
     return new UiSpotSeparator(profile ? profile->NextId() : 0);
 }
 
+bool UiStateCommandSpots::FromJson(const QJsonObject& json)
+{
+    UiStateItem::FromJson(json);
+    const QJsonArray elements = json.value(_GetSubitemsTag()).toArray();
+    const int size = elements.size();
+    for (int i = 0; i < size; ++i) {
+        // Nearly every spot of a file is a command with a style. It is read in two looks; asking
+        // for all that a spot may have costs more than making it.
+        const QJsonObject element = elements.at(i).toObject();
+        const QJsonValue id = element.value(key_id);
+        const QJsonValue style = element.value(key_style);
+        if (element.size() == 2 && id.isString() && style.isDouble()) {
+            UiSpotCommand* const spot = CreateCommandSpot(id.toString());
+            spot->SetStyle(static_cast<Qt::ToolButtonStyle>(style.toInt(0)));
+            AppendChild(spot);
+        } else {
+            _AppendFromJson(element);
+        }
+    }
+    return true;
+}
+
 UiProfileItem* UiStateCommandSpots::_CreateSubItem(const QJsonObject& json)
 {
-    const QJsonValue value = json.value(key_type);
-    // What is in the object is read when the spot has its place, so its name is enough here.
-    if (value.isUndefined())
-        return new UiSpotCommand(json.value(key_id).toString());
-    const QString type = value.toString(UiSpotCommand::GetType());
+    const QString type = json.value(key_type).toString(UiSpotCommand::GetType());
     if (type == UiSpotCommand::GetType())
         return new UiSpotCommand(json);
     if (type == UiSpotSeparator::GetType())

@@ -49,6 +49,8 @@ public:
     /// The spot of that name among all spots; null if absent.
     UiSpot* Find(const QString& name) const;
 
+    bool FromJson(const QJsonObject& json) override;
+
     /// A new spot for the item with the text beside the icon; the caller owns it.
     static UiSpotCommand* CreateCommandSpot(IUiItem& item);
     /// A new spot by identifier; the caller owns it and sets its style.

@@ -326,6 +326,43 @@ private Q_SLOTS:
         QCOMPARE(fresh.NextId(), 9);
     }
 
+    void aSpotIsReadFromAnyObject_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<QByteArray>("written");
+        QTest::newRow("command with a style")
+            << QByteArray(R"({"id": "a", "style": 3})") << QByteArray(R"({"id": "a", "style": 3})");
+        QTest::newRow("style 0") << QByteArray(R"({"id": "a", "style": 0})")
+                                 << QByteArray(R"({"id": "a"})");
+        QTest::newRow("id alone") << QByteArray(R"({"id": "a"})") << QByteArray(R"({"id": "a"})");
+        QTest::newRow("hidden, without a name")
+            << QByteArray(R"({"style": 1, "visible": false})")
+            << QByteArray(R"({"id": "", "style": 1, "visible": false})");
+        QTest::newRow("name of another type")
+            << QByteArray(R"({"id": 5, "style": 1})") << QByteArray(R"({"id": "", "style": 1})");
+        QTest::newRow("style of another type")
+            << QByteArray(R"({"id": "a", "style": "1"})") << QByteArray(R"({"id": "a"})");
+        QTest::newRow("type given") << QByteArray(R"({"id": "a", "type": "command", "style": 2})")
+                                    << QByteArray(R"({"id": "a", "style": 2})");
+        QTest::newRow("separator") << QByteArray(R"({"id": "a", "type": "separator"})")
+                                   << QByteArray(R"({"id": "a", "type": "separator"})");
+        QTest::newRow("all") << QByteArray(R"({"id": "a", "style": 2, "visible": false,
+                                               "persistence": 3, "is_changed_by_user": true})")
+                             << QByteArray(R"({"id": "a", "style": 2, "visible": false,
+                                               "persistence": 3, "is_changed_by_user": true})");
+    }
+
+    void aSpotIsReadFromAnyObject()
+    {
+        QFETCH(QByteArray, json);
+        QFETCH(QByteArray, written);
+        UiStateCommandSpots site(QStringLiteral("site"));
+        QVERIFY(site.FromJson(QJsonDocument::fromJson("{\"spots\": [" + json + "]}").object()));
+        QCOMPARE(site.GetCount(), 1);
+        QCOMPARE(site.GetItem(0)->GetParent(), static_cast<ITreeItem*>(&site));
+        QCOMPARE(site.GetItem(0)->ToJson(), QJsonDocument::fromJson(written).object());
+    }
+
     void userMenusTakeNoPartInAMerge()
     {
         UiProfile user;
