@@ -50,8 +50,8 @@ void Animator::updateCurrentTime(int time)
         return;
     site->_pp()->EnsureLaidOut();
     const bool vertical = site->IsVertical();
-    const QSize size = SizeAt(time, vertical, panel->minimumSize(), panel->maximumSize(),
-                              site->geometry().size());
+    const QSize size =
+        SizeAt(time, vertical, panel->minimumSize(), panel->maximumSize(), site->geometry().size());
     if (vertical) {
         mp_estimator->setMaximumHeight(size.height());
         mp_estimator->setFixedWidth(size.width());

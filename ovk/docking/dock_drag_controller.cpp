@@ -140,8 +140,8 @@ QWidget* DockDragController::FindWidget(const QPoint& pos) const
     }
     // The hole that the search punches into the dragged panel takes effect when the window manager
     // has taken note of it. Till then there seems to be nothing under the cursor.
-    const bool fresh = mp_found && mp_found->isVisible() && m_found_at.isValid()
-                       && !m_found_at.hasExpired(c_memory);
+    const bool fresh = mp_found && mp_found->isVisible() && m_found_at.isValid() &&
+                       !m_found_at.hasExpired(c_memory);
     if (fresh && mp_found->rect().contains(mp_found->mapFromGlobal(pos)))
         return mp_found;
     return nullptr;
@@ -185,8 +185,8 @@ IDockDragTarget* DockDragController::FindTarget(const QPoint& pos) const
 
 bool DockDragController::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == mp_widget
-        && (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::WindowBlocked))
+    if (watched == mp_widget &&
+        (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::WindowBlocked))
         Cancel();
     return QObject::eventFilter(watched, event);
 }

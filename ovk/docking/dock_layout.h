@@ -24,7 +24,13 @@ public:
     class Impl;
 
     /// The four sides.
-    enum Side { Left = 0, Right = 1, Top = 2, Bottom = 3 };
+    enum Side
+    {
+        Left = 0,
+        Right = 1,
+        Top = 2,
+        Bottom = 3
+    };
 
     /// Makes the sites. The layout is not yet set on `area`.
     explicit DockLayout(DockArea& area);

@@ -12,7 +12,8 @@ namespace ovk {
 /// floating panels and the one drag that may be under way.
 ///
 /// A host creates one, sets its central widget through GetLayout() and makes panels with
-/// CreateDockWidget(). The settings that it reads are those of DockSettings, shared by all managers.
+/// CreateDockWidget(). The settings that it reads are those of DockSettings, shared by all
+/// managers.
 class OVK_EXPORT DockManager : public DockArea
 {
     Q_OBJECT
@@ -21,7 +22,8 @@ public:
     class Impl;
 
     /// Meaning of the edge gaps.
-    enum EdgeGapMode {
+    enum EdgeGapMode
+    {
         Pixels = 0, ///< The gaps are pixels.
         Percent = 1 ///< The gaps are percent of the manager's size.
     };
@@ -61,7 +63,8 @@ public:
     /// Uncovers what DisableFloating() covered, as far as it still floats.
     void EnableFloating();
 
-    /// Panels made from now on have no menu and can neither be closed nor moved; see AfterActivate().
+    /// Panels made from now on have no menu and can neither be closed nor moved; see
+    /// AfterActivate().
     void DisableCustomization();
 
     /// Ends DisableCustomization() for panels made from now on.

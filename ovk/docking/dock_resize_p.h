@@ -11,7 +11,8 @@
 namespace ovk {
 
 /// The part of a window's border that a resize pulls at.
-enum class ResizeEdge {
+enum class ResizeEdge
+{
     TopLeft = 0,
     Left = 1,
     BottomLeft = 2,

@@ -53,7 +53,8 @@ OVK_TEST_EXPORT std::vector<int> PlanExpansion(const Panels& panels, int free);
 OVK_TEST_EXPORT int MinimumHeight(const Panels& panels);
 
 /// Does a panel fit, and how?
-enum class Fit {
+enum class Fit
+{
     FitsAsIs = 0,
     FitsCollapsed = 1,
     FitsAfterCollapsingOthers = 2,
@@ -70,12 +71,12 @@ OVK_TEST_EXPORT Fit CheckFitHorizontal(const Panel& panel, const Panels& panels,
 /// The heights of the central widget and a site while its handle is dragged, along one axis.
 struct DragInput
 {
-    bool leading = true;  ///< Left or top: the site grows with the cursor.
-    int delta = 0;        ///< How far the cursor went.
-    int central = 0;      ///< Present size of the central widget.
-    int central_min = 0;  ///< Its least size.
-    int site = 0;         ///< Present size of the site.
-    int site_max = 0;     ///< Its largest size.
+    bool leading = true; ///< Left or top: the site grows with the cursor.
+    int delta = 0;       ///< How far the cursor went.
+    int central = 0;     ///< Present size of the central widget.
+    int central_min = 0; ///< Its least size.
+    int site = 0;        ///< Present size of the site.
+    int site_max = 0;    ///< Its largest size.
 };
 
 /// The new cross size of a site whose handle was dragged.

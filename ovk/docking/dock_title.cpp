@@ -107,7 +107,8 @@ void DockTitle::DrawText(QPainter& painter) const
     const QString text = fontMetrics().elidedText(m_title, Qt::ElideRight, room);
     painter.setPen(palette().color(QPalette::WindowText));
     if (isRightToLeft())
-        painter.drawText(QPoint(width() - x - fontMetrics().horizontalAdvance(text), baseline), text);
+        painter.drawText(QPoint(width() - x - fontMetrics().horizontalAdvance(text), baseline),
+                         text);
     else
         painter.drawText(QPoint(x, baseline), text);
 }

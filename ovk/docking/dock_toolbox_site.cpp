@@ -190,8 +190,8 @@ void DockToolboxSite::OnDragLeave(IDockDragTarget*, DockWidget&, IDockDragTarget
 {
     mp_impl->EnsureLaidOut();
     const DockArea* const area = mp_impl->GetArea();
-    if (next && next == static_cast<const IDockDragTarget*>(area)
-        && geometry().contains(area->mapFromGlobal(pos)))
+    if (next && next == static_cast<const IDockDragTarget*>(area) &&
+        geometry().contains(area->mapFromGlobal(pos)))
         return;
     const auto* const item = dynamic_cast<DockToolboxSiteDragTarget*>(next);
     if (item && item->GetToolboxSite() == this)

@@ -32,7 +32,8 @@ public:
     class Impl;
 
     /// Flags of what goes on in the site.
-    enum State {
+    enum State
+    {
         Idle = 1,
         Evaluating = 4, ///< A dragged panel is over the site.
         Animating = 8   ///< The preview is growing.

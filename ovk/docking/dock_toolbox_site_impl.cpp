@@ -71,8 +71,7 @@ void DockToolboxSite::Impl::ExpandForcedWidgets()
         return;
     const QList<DockWidget*> panels = GetPanels();
     dock_space::Panels described = Describe(panels);
-    const int free =
-        dock_space::CalcFreeSpace(described, GetLength(), true).free;
+    const int free = dock_space::CalcFreeSpace(described, GetLength(), true).free;
     bool any_forced = false;
     for (int i = 0; i < panels.size(); ++i) {
         described[i].visible = panels.at(i)->isVisible();
@@ -245,8 +244,8 @@ void DockToolboxSite::Impl::Evaluate(DockWidget& panel, const QPoint& pos)
     if (target == estimator)
         return;
     const QPoint inside = target->mapFromGlobal(pos);
-    const bool second_half = site->IsVertical() ? inside.y() > target->height() / 2
-                                                : inside.x() > target->width() / 2;
+    const bool second_half =
+        site->IsVertical() ? inside.y() > target->height() / 2 : inside.x() > target->width() / 2;
     if (second_half)
         ++place;
     if (estimator && index == place)

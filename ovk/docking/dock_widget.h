@@ -23,7 +23,8 @@ public:
     class Impl;
 
     /// What an index of a page counts.
-    enum PositionMode {
+    enum PositionMode
+    {
         Visible = 0, ///< The pages that have a tab, in the order of the tabs.
         All = 1      ///< All pages.
     };

@@ -127,8 +127,8 @@ void DockWidget::Impl::FilterTabBar(QEvent& event)
     case QEvent::MouseButtonPress: {
         const auto& mouse = static_cast<const QMouseEvent&>(event);
         const IDockPage* const page = GetCurrentPage();
-        if (QGuiApplication::mouseButtons() == Qt::LeftButton && tab_bar->tabAt(mouse.pos()) >= 0
-            && page && movable)
+        if (QGuiApplication::mouseButtons() == Qt::LeftButton && tab_bar->tabAt(mouse.pos()) >= 0 &&
+            page && movable)
             tab_tear_armed = true;
         break;
     }

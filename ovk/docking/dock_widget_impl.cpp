@@ -164,8 +164,8 @@ void DockWidget::Impl::UpdateTitleButtons()
 
 bool DockWidget::Impl::TabsShown() const
 {
-    return (tabs_enabled && visible_pages.size() > 1)
-           || (visible_pages.size() == 1 && !hide_last_tab);
+    return (tabs_enabled && visible_pages.size() > 1) ||
+           (visible_pages.size() == 1 && !hide_last_tab);
 }
 
 void DockWidget::Impl::ShowCurrentPage()
@@ -292,8 +292,8 @@ void DockWidget::Impl::OnShown()
     site->_pp()->InvalidateSizes();
     site->_pp()->EnsureLaidOut();
     // A box without a length was not laid out yet; that is no want of room.
-    if (!site->_pp()->EnsureSpace(Panel(), GetCurrentMin().height())
-        && site->_pp()->GetLength() > 0)
+    if (!site->_pp()->EnsureSpace(Panel(), GetCurrentMin().height()) &&
+        site->_pp()->GetLength() > 0)
         Panel()->SetCollapsed(true, false);
     site->_UpdateSizer();
 }

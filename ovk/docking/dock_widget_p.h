@@ -30,7 +30,8 @@ class OVK_TEST_EXPORT DockWidget::Impl : public DockWindow::Impl
 {
 public:
     /// What has to be brought up to date.
-    enum UpdateFlag {
+    enum UpdateFlag
+    {
         UpdateGeometry = 1,
         UpdateTitleText = 2,
         UpdateTabs = 4,

@@ -138,7 +138,8 @@ UiStateDockWidget::UiStateDockWidget(QWidget* widget) : TUiState(NameOf(widget))
     m_movable = panel->IsMovable();
     m_geometry = panel->geometry();
     for (int i = 0; i < panel->GetCount(DockWidget::All); ++i)
-        AppendChild(new UiStateDockPage(*panel, *panel->GetPageAt(i, DockWidget::All)->GetWidget()));
+        AppendChild(
+            new UiStateDockPage(*panel, *panel->GetPageAt(i, DockWidget::All)->GetWidget()));
 }
 
 UiStateDockWidget::UiStateDockWidget(const UiStateDockWidget& other) = default;

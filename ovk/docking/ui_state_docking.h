@@ -19,9 +19,8 @@ protected:
 };
 
 /// The stored areas with their docked panels.
-class OVK_EXPORT UiStateAreas
-    : public TUiState<UiStateAreas, UiStateDockArea, UiStateDockArea>,
-      public IDockingItems
+class OVK_EXPORT UiStateAreas : public TUiState<UiStateAreas, UiStateDockArea, UiStateDockArea>,
+                                public IDockingItems
 {
 public:
     UiStateAreas();

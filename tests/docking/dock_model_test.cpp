@@ -74,7 +74,8 @@ public:
         for (int side = 0; side < 4; ++side) {
             const QStringList order = DockFixture::Order(*m_fixture.Site(DockLayout::Side(side)));
             if (order != m_order[side])
-                return QStringLiteral("%1 instead of %2").arg(order.join(','), m_order[side].join(','));
+                return QStringLiteral("%1 instead of %2")
+                    .arg(order.join(','), m_order[side].join(','));
         }
         QStringList floating;
         for (const DockWidget* panel : m_fixture.manager->GetFloatedWidgets())
@@ -97,8 +98,8 @@ public:
             if (space.free < 0 && space.minimal >= 0)
                 return QStringLiteral("a site of %1 is too full").arg(site->geometry().height());
             for (const DockWidget* panel : site->_pp()->GetPanels()) {
-                if (panel->isVisible() && panel->IsCollapsed()
-                    && panel->height() != panel->_Impl()->GetCollapsedMin().height())
+                if (panel->isVisible() && panel->IsCollapsed() &&
+                    panel->height() != panel->_Impl()->GetCollapsedMin().height())
                     return QStringLiteral("a folded panel is not as low as its title");
             }
         }
@@ -308,7 +309,8 @@ void DockModelTest::dragsEndClean()
             if (random.bounded(2))
                 DockFixture::Settle();
             const QString error = fixture.Inconsistency();
-            QVERIFY2(error.isEmpty(), qPrintable(QStringLiteral("round %1: %2").arg(round).arg(error)));
+            QVERIFY2(error.isEmpty(),
+                     qPrintable(QStringLiteral("round %1: %2").arg(round).arg(error)));
         }
         switch (random.bounded(8)) {
         case 0:

@@ -95,8 +95,8 @@ void DockResizeTest::anEdgePullsItsSides_data()
                                  << QRect(40, 60, 210, 120) << true;
     QTest::newRow("bottom") << ResizeEdge::Bottom << QPoint(90, 99) << QPoint(300, 120)
                             << QRect(50, 60, 200, 120) << false;
-    QTest::newRow("bottom right") << ResizeEdge::BottomRight << QPoint(199, 99)
-                                  << QPoint(250, 80) << QRect(50, 60, 250, 80) << false;
+    QTest::newRow("bottom right") << ResizeEdge::BottomRight << QPoint(199, 99) << QPoint(250, 80)
+                                  << QRect(50, 60, 250, 80) << false;
     QTest::newRow("right") << ResizeEdge::Right << QPoint(199, 50) << QPoint(180, 90)
                            << QRect(50, 60, 180, 100) << false;
     QTest::newRow("top right") << ResizeEdge::TopRight << QPoint(199, 1) << QPoint(220, 11)

@@ -27,7 +27,7 @@ QJsonObject Page(const QString& id, const QString& title = {})
 
 QJsonObject Panel(const QString& id, const QJsonArray& pages, const QString& title = {})
 {
-    return {{"id", id},   {"width", 200}, {"height", 300}, {"top", 10},
+    return {{"id", id},   {"width", 200},   {"height", 300}, {"top", 10},
             {"left", 20}, {"title", title}, {"pages", pages}};
 }
 
@@ -140,8 +140,9 @@ void DockStateTest::missingKeysReadAsTheirDefaults()
 void DockStateTest::onlyWhatDiffersIsWritten()
 {
     UiStateDockWidget panel(QStringLiteral("p"));
-    QCOMPARE(Text(panel.ToJson()),
-             QByteArray(R"({"height":0,"id":"p","left":0,"pages":[],"title":"","top":0,"width":0})"));
+    QCOMPARE(
+        Text(panel.ToJson()),
+        QByteArray(R"({"height":0,"id":"p","left":0,"pages":[],"title":"","top":0,"width":0})"));
     const QJsonObject all = Parse("{'id':'p','width':30,'height':40,'top':5,'left':6,'title':'',"
                                   "'title_visible':false,'minimized':true,'minimizable':false,"
                                   "'closeable':false,'movable':false,'pages':[]}");
@@ -215,9 +216,8 @@ void DockStateTest::aSiteReadsItsKeys()
 void DockStateTest::storedToolbarsAreKept()
 {
     UiStateDockSite site(QStringLiteral("left"));
-    const QJsonObject json =
-        Parse("{'id':'left','subitems':[{'id':'toolbars.inner','subitems':"
-              "[{'id':'bar','spots':[]}]},{'id':'anything','subitems':[]}]}");
+    const QJsonObject json = Parse("{'id':'left','subitems':[{'id':'toolbars.inner','subitems':"
+                                   "[{'id':'bar','spots':[]}]},{'id':'anything','subitems':[]}]}");
     site.FromJson(json);
     QCOMPARE(site.GetChildCount(), 2);
     auto* const toolbars = dynamic_cast<UiStateDockToolbarSite*>(site.GetItem(0));
@@ -234,9 +234,9 @@ void DockStateTest::storedToolbarsAreKept()
 void DockStateTest::theItemsGoDockedThenFloating()
 {
     UiStateDocking root;
-    root.FromJson(Docking({Panel("a", {}), Parse("{'id':'vor.spacer','is_spacer':true}"),
-                           Panel("b", {})},
-                          {Panel("f", {})}));
+    root.FromJson(
+        Docking({Panel("a", {}), Parse("{'id':'vor.spacer','is_spacer':true}"), Panel("b", {})},
+                {Panel("f", {})}));
     QCOMPARE(Names(root), (QStringList{"a", "b", "f"}));
 }
 
@@ -315,7 +315,8 @@ void DockStateTest::writingAndReadingIsEqual()
                          {"title", QString::number(random.generate())}};
         for (const char* key : {"width", "height", "top", "left"})
             json.insert(QString::fromLatin1(key), random.bounded(4000) - 1000);
-        for (const char* key : {"title_visible", "minimizable", "closeable", "movable", "visible"}) {
+        for (const char* key :
+             {"title_visible", "minimizable", "closeable", "movable", "visible"}) {
             if (flip())
                 json.insert(QString::fromLatin1(key), false);
         }
