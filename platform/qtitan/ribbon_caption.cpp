@@ -122,8 +122,6 @@ void RibbonBarPrivate::setFrameThemed(bool themed)
         window->setWindowFlag(Qt::FramelessWindowHint, themed);
         if (visible)
             window->show();
-        QEvent change(QEvent::WindowStateChange);
-        QCoreApplication::sendEvent(q, &change);
     }
     watchWindow();
 }
