@@ -4,6 +4,9 @@
 #include <ovk/core.h>
 #include <ovk/units.h>
 
+#include <ovk/widgets/action_button.h>
+#include <ovk/widgets/check_box.h>
+#include <ovk/widgets/check_combo_box.h>
 #include <ovk/widgets/color_edit.h>
 #include <ovk/widgets/color_legend.h>
 #include <ovk/widgets/color_map.h>
@@ -12,4 +15,10 @@
 #include <ovk/widgets/color_map_labels.h>
 #include <ovk/widgets/color_range_selection.h>
 #include <ovk/widgets/dlg_select_color.h>
+#include <ovk/widgets/expander_button.h>
 #include <ovk/widgets/gallery_item_color.h>
+#include <ovk/widgets/group_box.h>
+#include <ovk/widgets/m_switcher.h>
+#include <ovk/widgets/m_table_view.h>
+#include <ovk/widgets/m_tree_view.h>
+#include <ovk/widgets/tooltip.h>
