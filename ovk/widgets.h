@@ -22,3 +22,13 @@
 #include <ovk/widgets/m_table_view.h>
 #include <ovk/widgets/m_tree_view.h>
 #include <ovk/widgets/tooltip.h>
+#include <ovk/widgets/tree_edit/check_box_delegate.h>
+#include <ovk/widgets/tree_edit/color_edit_delegate.h>
+#include <ovk/widgets/tree_edit/combo_box_delegate.h>
+#include <ovk/widgets/tree_edit/item_data_provider.h>
+#include <ovk/widgets/tree_edit/settings_items_model.h>
+#include <ovk/widgets/tree_edit/spin_box_delegate.h>
+#include <ovk/widgets/tree_edit/tree_edit.h>
+#include <ovk/widgets/tree_edit/tree_edit_item.h>
+#include <ovk/widgets/tree_edit/tree_item_delegate.h>
+#include <ovk/widgets/tree_edit/tree_item_delegate_base.h>

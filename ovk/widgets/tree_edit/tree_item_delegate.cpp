@@ -1,0 +1,138 @@
+#include "ovk/widgets/tree_edit/tree_item_delegate.h"
+
+#include "ovk/widgets/tree_edit/tree_edit.h"
+#include "ovk/widgets/tree_edit/tree_edit_item.h"
+
+#include <QPainter>
+
+namespace ovk {
+
+namespace {
+
+constexpr int g_value_column = 1;
+constexpr int g_cell_margin = 1;
+/// The margins of a cell above and below its editor, and as much again as air.
+constexpr int g_additional_height = 4;
+constexpr int g_current_lightness = 150;
+
+QRect WithoutMargin(const QRect& rect)
+{
+    return rect.adjusted(g_cell_margin, g_cell_margin, -g_cell_margin, -g_cell_margin);
+}
+
+} // namespace
+
+TreeItemDelegate::TreeItemDelegate(TreeEdit* parent) : QStyledItemDelegate(parent) {}
+
+TreeItemDelegate::~TreeItemDelegate() = default;
+
+QWidget* TreeItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                        const QModelIndex& index) const
+{
+    TreeEditItemBase* const item = TreeEdit::GetItem(index);
+    if (!item || item->IsSection() || index.column() == 0)
+        return nullptr;
+    QWidget* editor = nullptr;
+    if (const TreeItemDelegateBase* const delegate = item->_GetDelegate()) {
+        editor = delegate->createEditor(parent, option, index);
+        if (editor)
+            editor->setFocusPolicy(Qt::ClickFocus);
+    } else {
+        editor = QStyledItemDelegate::createEditor(parent, option, index);
+    }
+    item->SetEditor(editor);
+    return editor;
+}
+
+void TreeItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    if (const TreeItemDelegateBase* const delegate = TreeEdit::GetItem(index)->_GetDelegate())
+        delegate->setEditorData(editor, index);
+    else
+        QStyledItemDelegate::setEditorData(editor, index);
+}
+
+void TreeItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                    const QModelIndex& index) const
+{
+    if (const TreeItemDelegateBase* const delegate = TreeEdit::GetItem(index)->_GetDelegate())
+        delegate->setModelData(editor, model, index);
+    else
+        QStyledItemDelegate::setModelData(editor, model, index);
+}
+
+void TreeItemDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                            const QModelIndex& index) const
+{
+    QStyleOptionViewItem own = option;
+    own.rect = WithoutMargin(own.rect);
+    if (const TreeItemDelegateBase* const delegate = TreeEdit::GetItem(index)->_GetDelegate())
+        delegate->updateEditorGeometry(editor, own, index);
+    else
+        QStyledItemDelegate::updateEditorGeometry(editor, own, index);
+}
+
+QSize TreeItemDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, g_additional_height);
+}
+
+bool TreeItemDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
+                                   const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    // Public there, and protected in the class that this one derives from.
+    QAbstractItemDelegate* const delegate = TreeEdit::GetItem(index)->_GetDelegate();
+    if (delegate)
+        return delegate->editorEvent(event, model, option, index);
+    return QStyledItemDelegate::editorEvent(event, model, option, index);
+}
+
+bool TreeItemDelegate::_IsCurrentTitle(const QModelIndex& index) const
+{
+    const auto* const view = qobject_cast<const TreeEdit*>(parent());
+    if (!view || index.column() != 0)
+        return false;
+    const QModelIndex current = view->currentIndex();
+    return current.isValid() && current.sibling(current.row(), 0) == index;
+}
+
+void TreeItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const
+{
+    const TreeEditItemBase& item = *TreeEdit::GetItem(index);
+    QStyleOptionViewItem opt = option;
+
+    const QColor lines = option.palette.color(QPalette::AlternateBase);
+    if (item.IsSection()) {
+        painter->fillRect(option.rect, lines);
+    } else {
+        painter->save();
+        painter->setPen(lines);
+        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+        if (index.column() == g_value_column)
+            painter->drawLine(option.rect.topLeft(), option.rect.bottomLeft());
+        painter->restore();
+        if (option.state.testFlag(QStyle::State_Active) && _IsCurrentTitle(index)) {
+            painter->fillRect(option.rect, option.palette.color(QPalette::Highlight)
+                                               .lighter(g_current_lightness));
+        }
+    }
+
+    if (!item.IsEnabled()) {
+        opt.state &= ~QStyle::State_Enabled;
+        opt.palette.setColor(QPalette::Disabled, QPalette::Text, opt.palette.color(QPalette::Mid));
+    }
+
+    if (!item.IsSection() && index.column() == g_value_column) {
+        opt.rect = WithoutMargin(opt.rect);
+        if (const TreeItemDelegateBase* const delegate = item._GetDelegate()) {
+            delegate->paint(painter, opt, index);
+            return;
+        }
+    }
+    QStyledItemDelegate::paint(painter, opt, index);
+}
+
+} // namespace ovk
+
+#include "moc_tree_item_delegate.cpp"
