@@ -63,7 +63,8 @@ QStringList CommandsOf(const QString& product, const QString& layout)
 
 bool IsSwitch(const QString& id)
 {
-    return id.startsWith("Ui.Ribbon.") || id == "Edit.CustomizeUI.Style" || id.startsWith("DynamicCommands.");
+    return id.startsWith("Ui.Ribbon.") || id == "Edit.CustomizeUI.Style" ||
+           id.startsWith("DynamicCommands.");
 }
 
 QByteArray ContentOf(const QString& path)
@@ -98,9 +99,11 @@ private Q_SLOTS:
             if (IsSwitch(id))
                 continue;
             for (const char* key : {"title", "tooltip", "statustip"})
-                QVERIFY2(!command[QLatin1String(key)].toString().isEmpty(), qPrintable(id + " has no " + key));
+                QVERIFY2(!command[QLatin1String(key)].toString().isEmpty(),
+                         qPrintable(id + " has no " + key));
             QVERIFY2(command["visual"].toBool(), qPrintable(id));
-            QVERIFY2(!titles.contains(command["title"].toString()), qPrintable(command["title"].toString()));
+            QVERIFY2(!titles.contains(command["title"].toString()),
+                     qPrintable(command["title"].toString()));
             titles.insert(command["title"].toString());
             const QByteArray picture = ContentOf(":/tarnix/icons/" + id + ".svg");
             QVERIFY2(picture.startsWith("<svg"), qPrintable(id + " has no icon"));
@@ -229,7 +232,8 @@ private Q_SLOTS:
         m_host->Window().ActivateLayout("Prepare");
         m_host->GetWorkspace().GetScene().Reset({});
         ovk::UiController::GetInstance()->UpdateUi();
-        for (const char* id : {"Edit.Delete", "Move.Left", "Turn.By", "Repair.All", "Select.All", "File.Save", "Edit.Undo"})
+        for (const char* id : {"Edit.Delete", "Move.Left", "Turn.By", "Repair.All", "Select.All",
+                               "File.Save", "Edit.Undo"})
             QVERIFY2(!m_host->Command(id)->isEnabled(), id);
         for (const char* id : {"File.Import", "Add.Box", "View.Top", "Help.About"})
             QVERIFY2(m_host->Command(id)->isEnabled(), id);
@@ -238,9 +242,11 @@ private Q_SLOTS:
     void aStepAndItsUndoBringTheBuildBack_data()
     {
         QTest::addColumn<QString>("id");
-        for (const char* id : {"Move.Left", "Turn.XPlus", "Turn.LayFlat", "Turn.Over", "Scale.Double", "Scale.ToFit", "Mirror.Y", "Move.Arrange",
-                               "Align.Left", "Align.SpreadX", "Repair.All", "Repair.Split", "Repair.Merge", "Mesh.Subdivide", "Mesh.CutApart",
-                               "Edit.Delete", "Edit.Duplicate", "Move.Bake", "Move.Reset", "File.Gear"})
+        for (const char* id :
+             {"Move.Left",   "Turn.XPlus",     "Turn.LayFlat", "Turn.Over",      "Scale.Double",
+              "Scale.ToFit", "Mirror.Y",       "Move.Arrange", "Align.Left",     "Align.SpreadX",
+              "Repair.All",  "Repair.Split",   "Repair.Merge", "Mesh.Subdivide", "Mesh.CutApart",
+              "Edit.Delete", "Edit.Duplicate", "Move.Bake",    "Move.Reset",     "File.Gear"})
             QTest::newRow(id) << id;
     }
 
@@ -365,7 +371,8 @@ private:
         ovk::UiLayout* layout = ovk::UiController::GetInstance()->GetActiveLayout();
         QVERIFY(layout);
         QCOMPARE(layout->GetName(), layout_name);
-        auto* ribbon = dynamic_cast<ovk::UiStateRibbon*>(layout->GetState(ovk::UiStateRibbon::GetSuiteName()));
+        auto* ribbon =
+            dynamic_cast<ovk::UiStateRibbon*>(layout->GetState(ovk::UiStateRibbon::GetSuiteName()));
         QVERIFY(ribbon);
         QVERIFY(ribbon->GetCount() >= least_pages);
         for (int p = 0; p < ribbon->GetCount(); ++p) {
@@ -392,7 +399,9 @@ private:
                 return false;
             });
         };
-        static const QStringList k_one{"Edit.Rename", "Edit.Row", "Edit.Grid", "Move.CopyPlacement", "Repair.KeepLargest", "Repair.Split", "Repair.Join", "Select.Similar"};
+        static const QStringList k_one{"Edit.Rename",        "Edit.Row",           "Edit.Grid",
+                                       "Move.CopyPlacement", "Repair.KeepLargest", "Repair.Split",
+                                       "Repair.Join",        "Select.Similar"};
         if (k_one.contains(id))
             select({id == "Select.Similar" ? 2 : 1});
         if (id == "Measure.Gap")
@@ -458,12 +467,14 @@ private Q_SLOTS:
         for (const char* layout_name : {"Prepare", "Inspect", "Slice"}) {
             m_host->Window().ActivateLayout(layout_name);
             ovk::UiLayout* layout = ovk::UiController::GetInstance()->GetActiveLayout();
-            auto* ribbon = dynamic_cast<ovk::UiStateRibbon*>(layout->GetState(ovk::UiStateRibbon::GetSuiteName()));
+            auto* ribbon = dynamic_cast<ovk::UiStateRibbon*>(
+                layout->GetState(ovk::UiStateRibbon::GetSuiteName()));
             QVERIFY(ribbon->GetCount() >= 4);
             for (int p = 0; p < ribbon->GetCount(); ++p) {
                 QVERIFY(ribbon->GetPage(p)->IsAvailable());
                 for (int g = 0; g < ribbon->GetPage(p)->GetCount(); ++g) {
-                    auto* group = dynamic_cast<ovk::UiStateRibbonGroup*>(ribbon->GetPage(p)->GetItem(g));
+                    auto* group =
+                        dynamic_cast<ovk::UiStateRibbonGroup*>(ribbon->GetPage(p)->GetItem(g));
                     QCOMPARE(group->GetAvailableCount(), group->GetCount());
                 }
             }

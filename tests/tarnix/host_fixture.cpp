@@ -35,7 +35,10 @@ QString TextOf(const Transform& map)
             text += QString::number(map.At(row, column), 'g', 12) + ' ';
     }
     const Vec3 shift = map.Shift();
-    return text + QStringLiteral("%1 %2 %3").arg(shift.x, 0, 'g', 12).arg(shift.y, 0, 'g', 12).arg(shift.z, 0, 'g', 12);
+    return text + QStringLiteral("%1 %2 %3")
+                      .arg(shift.x, 0, 'g', 12)
+                      .arg(shift.y, 0, 'g', 12)
+                      .arg(shift.z, 0, 'g', 12);
 }
 
 } // namespace
@@ -101,17 +104,20 @@ void HostFixture::PrepareScene()
     Mesh faulty = MakeBox({10, 10, 10});
     std::vector<Triangle> triangles = faulty.Triangles();
     triangles.pop_back();
-    faulty = Merge({Mesh(faulty.Points(), triangles), MakeSphere(2, 8).Mapped(Transform::Translation({20, 0, 0}))});
+    faulty = Merge({Mesh(faulty.Points(), triangles),
+                    MakeSphere(2, 8).Mapped(Transform::Translation({20, 0, 0}))});
     scene.Reset({});
-    scene.Add(QStringLiteral("Add"), {MakePart(QStringLiteral("cone"), MakeCone(8, 3, 12), {3, 4, 5}),
-                                      MakePart(QStringLiteral("faulty"), faulty, {40, 20, 6}),
-                                      MakePart(QStringLiteral("third"), MakeBox({6, 5, 4}), {-50, -30, 8}),
-                                      MakePart(QStringLiteral("copy"), MakeBox({6, 5, 4}), {900, 0, 0}),
-                                      MakePart(QStringLiteral("hidden"), MakeBox({5, 5, 5}), {60, 60, 0}),
-                                      MakePart(QStringLiteral("locked"), MakeBox({5, 5, 5}), {-60, 60, 0})});
+    scene.Add(QStringLiteral("Add"),
+              {MakePart(QStringLiteral("cone"), MakeCone(8, 3, 12), {3, 4, 5}),
+               MakePart(QStringLiteral("faulty"), faulty, {40, 20, 6}),
+               MakePart(QStringLiteral("third"), MakeBox({6, 5, 4}), {-50, -30, 8}),
+               MakePart(QStringLiteral("copy"), MakeBox({6, 5, 4}), {900, 0, 0}),
+               MakePart(QStringLiteral("hidden"), MakeBox({5, 5, 5}), {60, 60, 0}),
+               MakePart(QStringLiteral("locked"), MakeBox({5, 5, 5}), {-60, 60, 0})});
     scene.Edit(QStringLiteral("Twist"), [](PartList& parts) {
         for (Part& part : parts) {
-            part.Apply(Transform::Rotation(2, 20.0) * Transform::Rotation(0, 10.0) * Transform::Scaling({1.5, 1.2, 1.0}));
+            part.Apply(Transform::Rotation(2, 20.0) * Transform::Rotation(0, 10.0) *
+                       Transform::Scaling({1.5, 1.2, 1.0}));
             part.file = QStringLiteral(TARNIX_SAMPLES "/gear.stl");
         }
         parts[3].SetMesh(parts[2].GetMesh());
@@ -124,7 +130,10 @@ void HostFixture::PrepareScene()
     scene.Undo();
     scene.SetVisible([](const Part& part) { return part.name != QLatin1String("hidden"); });
     scene.SetLocked([](const Part& part) { return part.name == QLatin1String("locked"); });
-    scene.Select([](const Part& part) { return part.name == QLatin1String("cone") || part.name == QLatin1String("faulty") || part.name == QLatin1String("third"); });
+    scene.Select([](const Part& part) {
+        return part.name == QLatin1String("cone") || part.name == QLatin1String("faulty") ||
+               part.name == QLatin1String("third");
+    });
     m_workspace.ClearMeasurements();
     m_workspace.AddMeasurement(*Measure(MeasureKind::Distance, {{0, 0, 0}, {1, 2, 3}}));
     m_workspace.StartMeasuring(MeasureKind::Radius);
@@ -157,34 +166,68 @@ QString HostFixture::Fingerprint() const
     QString text;
     const Scene& scene = m_workspace.GetScene();
     for (const Part& part : scene.Parts()) {
-        text += QStringLiteral("%1 %2 %3 %4 %5 %6 %7 %8 | ").arg(part.id).arg(part.name).arg(part.visible).arg(part.locked).arg(part.selected)
-                    .arg(part.color).arg(quintptr(part.GetMesh().get())).arg(TextOf(part.GetPlacement()));
+        text += QStringLiteral("%1 %2 %3 %4 %5 %6 %7 %8 | ")
+                    .arg(part.id)
+                    .arg(part.name)
+                    .arg(part.visible)
+                    .arg(part.locked)
+                    .arg(part.selected)
+                    .arg(part.color)
+                    .arg(quintptr(part.GetMesh().get()))
+                    .arg(TextOf(part.GetPlacement()));
     }
-    text += scene.UndoTitles().join(',') + '/' + scene.RedoTitles().join(',') + '/' + QString::number(scene.IsModified());
+    text += scene.UndoTitles().join(',') + '/' + scene.RedoTitles().join(',') + '/' +
+            QString::number(scene.IsModified());
     const ViewState& v = m_workspace.GetViewState();
     text += QStringLiteral("\nview %1").arg(int(v.mode));
-    for (const bool flag : {v.plate, v.grid, v.volume, v.axes, v.labels, v.bounds, v.view_cube, v.shadows, v.overhangs, v.open_edges,
-                            v.back_faces, v.center_of_mass, v.section.on, v.section.flipped, v.layers.shown, v.layers.filled,
+    for (const bool flag : {v.plate, v.grid, v.volume, v.axes, v.labels, v.bounds, v.view_cube,
+                            v.shadows, v.overhangs, v.open_edges, v.back_faces, v.center_of_mass,
+                            v.section.on, v.section.flipped, v.layers.shown, v.layers.filled,
                             v.layers.hatched, v.layers.crossed, v.layers.stack})
         text += flag ? '1' : '0';
-    text += QStringLiteral(" %1 %2 %3 %4 %5 %6 %7").arg(v.overhang_degrees).arg(v.section.axis).arg(v.section.at).arg(v.layers.thickness)
-                .arg(v.layers.current).arg(v.layers.hatch_spacing).arg(v.layers.hatch_degrees);
+    text += QStringLiteral(" %1 %2 %3 %4 %5 %6 %7")
+                .arg(v.overhang_degrees)
+                .arg(v.section.axis)
+                .arg(v.section.at)
+                .arg(v.layers.thickness)
+                .arg(v.layers.current)
+                .arg(v.layers.hatch_spacing)
+                .arg(v.layers.hatch_degrees);
     const Camera& c = m_host->view->GetCamera();
-    text += QStringLiteral("\ncamera %1 %2 %3 %4 %5 %6 %7").arg(c.azimuth).arg(c.elevation).arg(c.height).arg(c.perspective).arg(c.target.x).arg(c.target.y).arg(c.target.z);
-    text += QStringLiteral("\nmeasure %1 %2 %3").arg(m_workspace.Measurements().size()).arg(m_workspace.Measuring() ? int(*m_workspace.Measuring()) : -1).arg(int(m_workspace.Snap()));
-    text += QStringLiteral("\nplaying %1 unit %2 theme %3 recent %4").arg(m_host->IsPlaying()).arg(m_workspace.Format().Suffix())
-                .arg(m_host->settings.theme.GetData()).arg(m_host->RecentFiles().size());
-    text += QStringLiteral("\nwindow %1 %2 %3 %4").arg(int(m_window->windowState())).arg(m_window->statusBar()->isVisible())
-                .arg(m_window->LayoutName()).arg(m_window->ribbonBar()->isMinimized());
+    text += QStringLiteral("\ncamera %1 %2 %3 %4 %5 %6 %7")
+                .arg(c.azimuth)
+                .arg(c.elevation)
+                .arg(c.height)
+                .arg(c.perspective)
+                .arg(c.target.x)
+                .arg(c.target.y)
+                .arg(c.target.z);
+    text += QStringLiteral("\nmeasure %1 %2 %3")
+                .arg(m_workspace.Measurements().size())
+                .arg(m_workspace.Measuring() ? int(*m_workspace.Measuring()) : -1)
+                .arg(int(m_workspace.Snap()));
+    text += QStringLiteral("\nplaying %1 unit %2 theme %3 recent %4")
+                .arg(m_host->IsPlaying())
+                .arg(m_workspace.Format().Suffix())
+                .arg(m_host->settings.theme.GetData())
+                .arg(m_host->RecentFiles().size());
+    text += QStringLiteral("\nwindow %1 %2 %3 %4")
+                .arg(int(m_window->windowState()))
+                .arg(m_window->statusBar()->isVisible())
+                .arg(m_window->LayoutName())
+                .arg(m_window->ribbonBar()->isMinimized());
     for (const QString& page : m_pages->GetPageIds())
         text += m_window->IsPageShown(page) ? '1' : '0';
     text += QStringLiteral("\nstatus ") + m_window->statusBar()->currentMessage();
     const QMimeData* data = QApplication::clipboard()->mimeData();
     text += QStringLiteral("\nclipboard ") + (data ? data->formats().join(',') : QString());
-    text += QStringLiteral("\nbackstage %1").arg(m_window->GetBackstage() && m_window->GetBackstage()->isVisible());
-    if (m_window->GetBackstage() && m_window->GetBackstage()->activePage() && m_window->GetBackstage()->isVisible())
+    text += QStringLiteral("\nbackstage %1")
+                .arg(m_window->GetBackstage() && m_window->GetBackstage()->isVisible());
+    if (m_window->GetBackstage() && m_window->GetBackstage()->activePage() &&
+        m_window->GetBackstage()->isVisible())
         text += m_window->GetBackstage()->activePage()->windowTitle();
-    text += QStringLiteral("\nfocus ") + (m_window->focusWidget() ? m_window->focusWidget()->metaObject()->className() : "");
+    text += QStringLiteral("\nfocus ") +
+            (m_window->focusWidget() ? m_window->focusWidget()->metaObject()->className() : "");
     text += QStringLiteral("\nvisible %1").arg(m_window->isVisible());
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (widget->isVisible() && qobject_cast<QDialog*>(widget))

@@ -56,13 +56,15 @@ private Q_SLOTS:
         QFETCH(int, which);
         QFETCH(double, volume);
         QFETCH(double, tolerance);
-        const Mesh meshes[] = {MakeBox({2, 3, 4}), MakeCylinder(5, 8), MakeCone(5, 0, 9), MakeCone(5, 2, 9),
-                               MakeSphere(5), MakeTorus(10, 2), MakePrism(5, 4, 6)};
+        const Mesh meshes[] = {MakeBox({2, 3, 4}), MakeCylinder(5, 8), MakeCone(5, 0, 9),
+                               MakeCone(5, 2, 9),  MakeSphere(5),      MakeTorus(10, 2),
+                               MakePrism(5, 4, 6)};
         const Mesh& mesh = meshes[which];
         QVERIFY(mesh.GetTopology().IsSolid());
         QCOMPARE(mesh.GetTopology().shells, 1);
         QCOMPARE(mesh.GetTopology().degenerate, 0);
-        QVERIFY2(Near(mesh.Volume(), volume, tolerance), qPrintable(QString::number(mesh.Volume())));
+        QVERIFY2(Near(mesh.Volume(), volume, tolerance),
+                 qPrintable(QString::number(mesh.Volume())));
         QVERIFY(Near(mesh.Bounds().low.z, 0.0));
     }
 
@@ -161,7 +163,8 @@ private Q_SLOTS:
 
     void shellsComeApartAndGoTogether()
     {
-        const Mesh two = Merge({MakeSphere(2, 8), MakeBox({9, 9, 9}).Mapped(Transform::Translation({20, 0, 0}))});
+        const Mesh two = Merge(
+            {MakeSphere(2, 8), MakeBox({9, 9, 9}).Mapped(Transform::Translation({20, 0, 0}))});
         const std::vector<Mesh> shells = SplitShells(two);
         QCOMPARE(shells.size(), size_t(2));
         QVERIFY(Near(shells[0].Volume(), 729.0));
@@ -220,7 +223,8 @@ private Q_SLOTS:
         QFETCH(int, which);
         QFETCH(double, z);
         const auto sample = [](const char* name) {
-            return *StlReader::ReadFile(QStringLiteral(TARNIX_SAMPLES "/") + QLatin1String(name)).mesh;
+            return *StlReader::ReadFile(QStringLiteral(TARNIX_SAMPLES "/") + QLatin1String(name))
+                        .mesh;
         };
         const auto make = [&]() -> Mesh {
             switch (which) {
@@ -229,7 +233,9 @@ private Q_SLOTS:
             case 1:
                 return MakeTorus(10, 2);
             case 2:
-                return MakeTorus(10, 2).Mapped(Transform::Rotation(0, 90.0)).Mapped(Transform::Translation({0, 0, 8.5}));
+                return MakeTorus(10, 2)
+                    .Mapped(Transform::Rotation(0, 90.0))
+                    .Mapped(Transform::Translation({0, 0, 8.5}));
             case 3:
                 return MakeSphere(5, 16);
             case 4:
@@ -283,7 +289,7 @@ private Q_SLOTS:
 
     void overhangsAreFacesThatLookDownSteeply()
     {
-        const Mesh cone = MakeCone(2, 10, 5);   // leans out by more than 45 degrees
+        const Mesh cone = MakeCone(2, 10, 5); // leans out by more than 45 degrees
         QVERIFY(OverhangArea(cone, Transform(), 45.0) > 100.0);
         QCOMPARE(OverhangArea(MakeCylinder(5, 10), Transform(), 45.0), 0.0);
         QVERIFY(OverhangArea(MakeCylinder(5, 10), Transform::Translation({0, 0, 4}), 45.0) > 70.0);
@@ -306,16 +312,13 @@ private Q_SLOTS:
 
     void theInverseUndoes()
     {
-        const Transform map = Transform::Translation({1, 2, 3}) * Transform::Rotation(1, 33.0)
-            * Transform::Scaling({2, 0.5, 3}) * Transform::Mirror(2);
+        const Transform map = Transform::Translation({1, 2, 3}) * Transform::Rotation(1, 33.0) *
+                              Transform::Scaling({2, 0.5, 3}) * Transform::Mirror(2);
         QVERIFY(Near(map.Inverted().Map(map.Map({7, -8, 9})), {7, -8, 9}));
         QVERIFY(map.IsMirroring());
     }
 
-    void aFlatMapHasNoInverse()
-    {
-        QVERIFY(Transform::Scaling({1, 1, 0}).Inverted().IsIdentity());
-    }
+    void aFlatMapHasNoInverse() { QVERIFY(Transform::Scaling({1, 1, 0}).Inverted().IsIdentity()); }
 
     void oneDirectionIsTurnedIntoAnother_data()
     {
@@ -341,7 +344,8 @@ private Q_SLOTS:
 
     void oppositeDirectionsOfEveryAxisAreTurned()
     {
-        for (const Vec3& v : {Vec3{1, 0, 0}, Vec3{0, 1, 0}, Vec3{-0.6, 0.8, 0}, Vec3{0.5, 0.5, 0.7}}) {
+        for (const Vec3& v :
+             {Vec3{1, 0, 0}, Vec3{0, 1, 0}, Vec3{-0.6, 0.8, 0}, Vec3{0.5, 0.5, 0.7}}) {
             const Transform map = Transform::RotationBetween(v, -v);
             QVERIFY(Near(map.Map(v), -v));
             QVERIFY(Near(map.Determinant(), 1.0));
@@ -359,8 +363,8 @@ private Q_SLOTS:
 
     void anglesComeBackFromATurn()
     {
-        const Transform map = Transform::Rotation(2, 30.0) * Transform::Rotation(1, -20.0)
-            * Transform::Rotation(0, 10.0) * Transform::Scaling({2, 2, 2});
+        const Transform map = Transform::Rotation(2, 30.0) * Transform::Rotation(1, -20.0) *
+                              Transform::Rotation(0, 10.0) * Transform::Scaling({2, 2, 2});
         QVERIFY(Near(map.EulerAngles(), {10, -20, 30}));
         QVERIFY(Near(map.Scale(), {2, 2, 2}));
     }

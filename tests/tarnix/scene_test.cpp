@@ -321,7 +321,9 @@ private Q_SLOTS:
         QVERIFY(Finds(scene, "runs into"));
         std::vector<Triangle> triangles = MakeBox({1, 1, 1}).Triangles();
         triangles.pop_back();
-        scene.Add("Add", {Part("open", std::make_shared<const Mesh>(MakeBox({1, 1, 1}).Points(), triangles), 0)});
+        scene.Add("Add",
+                  {Part("open",
+                        std::make_shared<const Mesh>(MakeBox({1, 1, 1}).Points(), triangles), 0)});
         QVERIFY(Finds(scene, "open edges: 3"));
     }
 

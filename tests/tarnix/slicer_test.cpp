@@ -74,7 +74,8 @@ private Q_SLOTS:
     {
         std::vector<Triangle> triangles = MakeBox({2, 3, 4}).Triangles();
         triangles.pop_back();
-        const Slice slice = SliceMesh(Mesh(MakeBox({2, 3, 4}).Points(), triangles), Transform(), 1.0);
+        const Slice slice =
+            SliceMesh(Mesh(MakeBox({2, 3, 4}).Points(), triangles), Transform(), 1.0);
         QCOMPARE(slice.contours.size() + slice.gaps.size(), size_t(1));
         QCOMPARE(slice.gaps.size(), size_t(1));
     }
@@ -100,7 +101,8 @@ private Q_SLOTS:
             QVERIFY(!slice.contours.empty());
             volume += slice.Area() * stack.Thickness();
         }
-        QVERIFY2(Near(volume, mesh->Volume(), 0.01), qPrintable(QString::number(volume / mesh->Volume())));
+        QVERIFY2(Near(volume, mesh->Volume(), 0.01),
+                 qPrintable(QString::number(volume / mesh->Volume())));
     }
 
     void layersCoverTheHeight_data()
@@ -208,9 +210,12 @@ private Q_SLOTS:
         QTest::addColumn<double>("mm");
         QTest::addColumn<QString>("metric");
         QTest::addColumn<QString>("imperial");
-        QTest::newRow("an inch") << 25.4 << "25.40 mm" << "1.0000 inch";
-        QTest::newRow("nothing") << -0.00001 << "0.00 mm" << "0.0000 inch";
-        QTest::newRow("negative") << -1.234 << "-1.23 mm" << "-0.0486 inch";
+        QTest::newRow("an inch") << 25.4 << "25.40 mm"
+                                 << "1.0000 inch";
+        QTest::newRow("nothing") << -0.00001 << "0.00 mm"
+                                 << "0.0000 inch";
+        QTest::newRow("negative") << -1.234 << "-1.23 mm"
+                                  << "-0.0486 inch";
     }
 
     void lengthsAreShownInTheUnit()

@@ -12,8 +12,9 @@ using namespace tarnix;
 
 namespace {
 
-const char* const k_one_facet = "solid one\n facet normal 0 0 1\n  outer loop\n   vertex 0 0 0\n"
-                                "   vertex 1 0 0\n   vertex 0 1 0\n  endloop\n endfacet\nendsolid one\n";
+const char* const k_one_facet =
+    "solid one\n facet normal 0 0 1\n  outer loop\n   vertex 0 0 0\n"
+    "   vertex 1 0 0\n   vertex 0 1 0\n  endloop\n endfacet\nendsolid one\n";
 
 QByteArray WithCount(QByteArray bytes, quint32 count)
 {
@@ -73,7 +74,8 @@ private Q_SLOTS:
     {
         QFETCH(bool, ascii);
         const Mesh sphere = MakeSphere(12.5, 12);
-        const QByteArray bytes = ascii ? StlWriter::Ascii(sphere, "a ball") : StlWriter::Binary(sphere, "a ball");
+        const QByteArray bytes =
+            ascii ? StlWriter::Ascii(sphere, "a ball") : StlWriter::Binary(sphere, "a ball");
         QCOMPARE(StlReader::Sniff(bytes) == StlReader::Format::Ascii, ascii);
         const StlReader::Result result = StlReader::Read(bytes);
         QVERIFY2(result, qPrintable(result.error));
@@ -108,7 +110,8 @@ private Q_SLOTS:
         QTest::newRow("no name") << QByteArray(text).replace(" one", "");
         QTest::newRow("two solids") << text + text;
         QTest::newRow("exponents") << QByteArray(text).replace("1 0 0", "1.0e+0 0 -0.0");
-        QTest::newRow("normal not a number") << QByteArray(text).replace("normal 0 0 1", "normal nan nan nan");
+        QTest::newRow("normal not a number")
+            << QByteArray(text).replace("normal 0 0 1", "normal nan nan nan");
     }
 
     void asciiReadsWhateverSpacingAndCaseItComesIn()
@@ -121,7 +124,8 @@ private Q_SLOTS:
 
     void theNameOfAnAsciiSolidIsKept()
     {
-        QCOMPARE(StlReader::Read(QByteArray(k_one_facet).replace(" one", " left hinge")).name, QString("left hinge"));
+        QCOMPARE(StlReader::Read(QByteArray(k_one_facet).replace(" one", " left hinge")).name,
+                 QString("left hinge"));
     }
 
     void aBrokenFileIsToldWithItsPlace_data()
@@ -139,19 +143,28 @@ private Q_SLOTS:
         QTest::newRow("infinite corner")
             << WithFloat(box, 84 + 12, std::numeric_limits<float>::infinity()) << "Triangle 1 ";
         QTest::newRow("not a number")
-            << WithFloat(box, 84 + 50 + 16, std::numeric_limits<float>::quiet_NaN()) << "Triangle 2 ";
+            << WithFloat(box, 84 + 50 + 16, std::numeric_limits<float>::quiet_NaN())
+            << "Triangle 2 ";
         QTest::newRow("out in space") << WithFloat(box, 84 + 12, 2.0e6f) << "not a usable point";
         QTest::newRow("empty solid") << QByteArray("solid x\nendsolid x\n") << "no triangles";
         QTest::newRow("no end") << text.left(text.indexOf("endsolid")) << "no end";
         QTest::newRow("ends in a facet") << text.left(text.indexOf("endloop")) << "no end";
         QTest::newRow("ends in a vertex") << text.left(text.indexOf("0 1 0") + 3) << "no end";
-        QTest::newRow("word for a number") << QByteArray(text).replace("0 1 0", "0 up 0") << "Line 6: \"a number\" was expected, not \"up\"";
-        QTest::newRow("fourth vertex") << QByteArray(text).replace("  endloop", "  vertex 1 1 1\n  endloop") << "\"endloop\" was expected, not \"vertex\"";
-        QTest::newRow("two vertices") << QByteArray(text).replace("   vertex 0 1 0\n", "") << "\"vertex\" was expected";
-        QTest::newRow("stray word") << QByteArray(text).replace(" facet", " face") << "Line 2: \"facet\"";
-        QTest::newRow("infinite vertex") << QByteArray(text).replace("0 1 0", "inf 1 0") << "not a usable point";
-        QTest::newRow("text after the end") << text + "and more" << "\"solid\" was expected";
-        QTest::newRow("a picture") << QByteArray("\x89PNG\r\n\x1a\n").append(QByteArray(200, 'x')) << "cut off";
+        QTest::newRow("word for a number") << QByteArray(text).replace("0 1 0", "0 up 0")
+                                           << "Line 6: \"a number\" was expected, not \"up\"";
+        QTest::newRow("fourth vertex")
+            << QByteArray(text).replace("  endloop", "  vertex 1 1 1\n  endloop")
+            << "\"endloop\" was expected, not \"vertex\"";
+        QTest::newRow("two vertices")
+            << QByteArray(text).replace("   vertex 0 1 0\n", "") << "\"vertex\" was expected";
+        QTest::newRow("stray word")
+            << QByteArray(text).replace(" facet", " face") << "Line 2: \"facet\"";
+        QTest::newRow("infinite vertex")
+            << QByteArray(text).replace("0 1 0", "inf 1 0") << "not a usable point";
+        QTest::newRow("text after the end") << text + "and more"
+                                            << "\"solid\" was expected";
+        QTest::newRow("a picture")
+            << QByteArray("\x89PNG\r\n\x1a\n").append(QByteArray(200, 'x')) << "cut off";
     }
 
     void aBrokenFileIsToldWithItsPlace()

@@ -22,7 +22,8 @@ public:
     bool Start()
     {
         m_server.setStandardErrorFile(QProcess::nullDevice());
-        m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1600x1000x24", "-nolisten", "tcp"});
+        m_server.start("Xvfb",
+                       {"-displayfd", "1", "-screen", "0", "1600x1000x24", "-nolisten", "tcp"});
         if (!m_server.waitForStarted())
             return false;
         while (!m_server.canReadLine()) {
@@ -67,7 +68,8 @@ public:
     bool ClickAt(const QPoint& at) const
     {
         // Without --sync: that waits for ever where the pointer is there already.
-        return Tool({"mousemove", QString::number(at.x()), QString::number(at.y())}) && Tool({"click", "1"});
+        return Tool({"mousemove", QString::number(at.x()), QString::number(at.y())}) &&
+               Tool({"click", "1"});
     }
 
 private:
@@ -103,7 +105,8 @@ public:
         QFile::remove(DumpPath());
         m_process.setProcessEnvironment(m_screen.Environment());
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QStringLiteral(TARNIX_PROGRAM), QStringList{"--data-dir", m_folder, "--dump-ui", DumpPath()} + arguments);
+        m_process.start(QStringLiteral(TARNIX_PROGRAM),
+                        QStringList{"--data-dir", m_folder, "--dump-ui", DumpPath()} + arguments);
         return m_process.waitForStarted();
     }
 
@@ -141,19 +144,24 @@ public:
 
     bool Click(const QJsonObject& widget) const
     {
-        return !widget.isEmpty()
-            && m_screen.ClickAt({widget["x"].toInt() + widget["width"].toInt() / 2, widget["y"].toInt() + std::min(widget["height"].toInt() / 2, 20)});
+        return !widget.isEmpty() &&
+               m_screen.ClickAt({widget["x"].toInt() + widget["width"].toInt() / 2,
+                                 widget["y"].toInt() + std::min(widget["height"].toInt() / 2, 20)});
     }
 
     /// Brings the window to a place that is known, so that no click meets it on its way there.
     bool Settle() const
     {
         constexpr int k_place = 60;
-        if (!m_screen.Tool({"search", "--sync", "--onlyvisible", "--pid", QString::number(m_process.processId()), "--name", "Tarnix", "windowactivate", "windowmove", QString::number(k_place), QString::number(k_place)}))
+        if (!m_screen.Tool({"search", "--sync", "--onlyvisible", "--pid",
+                            QString::number(m_process.processId()), "--name", "Tarnix",
+                            "windowactivate", "windowmove", QString::number(k_place),
+                            QString::number(k_place)}))
             return false;
         const auto placed = [this] {
             const QJsonObject window = Named("tarnixWindow");
-            return std::abs(window["x"].toInt() - k_place) < 12 && std::abs(window["y"].toInt() - k_place) < 40 && !Button("Select.All").isEmpty();
+            return std::abs(window["x"].toInt() - k_place) < 12 &&
+                   std::abs(window["y"].toInt() - k_place) < 40 && !Button("Select.All").isEmpty();
         };
         return QTest::qWaitFor(placed, k_patience_ms);
     }
@@ -172,7 +180,10 @@ QJsonObject DefaultLayout(const QString& name)
 {
     QFile file(QStringLiteral(TARNIX_SOURCES "/catalogue/uiprofile.tarnix.json"));
     file.open(QIODevice::ReadOnly);
-    for (const QJsonValue& layout : QJsonDocument::fromJson(file.readAll()).object()["profile"].toObject()["layouts"].toArray()) {
+    for (const QJsonValue& layout : QJsonDocument::fromJson(file.readAll())
+                                        .object()["profile"]
+                                        .toObject()["layouts"]
+                                        .toArray()) {
         if (layout.toObject()["id"].toString() == name)
             return layout.toObject();
     }
@@ -199,15 +210,21 @@ private Q_SLOTS:
         QTemporaryDir folder;
         Program program(*m_screen, folder.path());
         QVERIFY(program.Start({"--layout", "Prepare", Sample("gear.stl")}));
-        const QJsonObject page = DefaultLayout("Prepare")["states"].toObject()["ribbon"].toObject()["pages"].toArray()[0].toObject();
+        const QJsonObject page = DefaultLayout("Prepare")["states"]
+                                     .toObject()["ribbon"]
+                                     .toObject()["pages"]
+                                     .toArray()[0]
+                                     .toObject();
         for (const QJsonValue& value : page["groups"].toArray()) {
             const QJsonObject group = value.toObject();
-            QTRY_VERIFY_WITH_TIMEOUT(!program.Named(group["id"].toString()).isEmpty(), k_patience_ms);
+            QTRY_VERIFY_WITH_TIMEOUT(!program.Named(group["id"].toString()).isEmpty(),
+                                     k_patience_ms);
             for (const QJsonValue& spot : group["spots"].toArray()) {
                 const QString id = spot.toObject()["id"].toString();
                 // A composite's button shows the action of its first command, or one of its own.
                 if (!id.startsWith("Combo."))
-                    QTRY_VERIFY2_WITH_TIMEOUT(!program.Button(id).isEmpty(), qPrintable(id), k_patience_ms);
+                    QTRY_VERIFY2_WITH_TIMEOUT(!program.Button(id).isEmpty(), qPrintable(id),
+                                              k_patience_ms);
             }
         }
         const QJsonObject panel = program.Named("partList");
@@ -220,7 +237,9 @@ private Q_SLOTS:
         Program program(*m_screen, folder.path());
         QVERIFY(program.Start({"--layout", "Prepare", Sample("gear.stl")}));
         QVERIFY(program.Settle());
-        const auto status = [&program] { return program.Named("statusSelection")["text"].toString(); };
+        const auto status = [&program] {
+            return program.Named("statusSelection")["text"].toString();
+        };
         QTRY_COMPARE_WITH_TIMEOUT(status(), QString("Selected: 1 of 1"), k_patience_ms);
         QTRY_VERIFY_WITH_TIMEOUT(program.Button("Select.None")["enabled"].toBool(), k_patience_ms);
         QVERIFY(program.Click(program.Button("Select.None")));
@@ -239,7 +258,8 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(program.Button("Layout.Slice")["enabled"].toBool(), k_patience_ms);
         QVERIFY(program.Click(program.Button("Layout.Slice")));
         QTRY_VERIFY_WITH_TIMEOUT(!program.Named("layerSlider").isEmpty(), k_patience_ms);
-        QTRY_VERIFY_WITH_TIMEOUT(program.Named("statusLayer")["text"].toString().startsWith("Layer "), k_patience_ms);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            program.Named("statusLayer")["text"].toString().startsWith("Layer "), k_patience_ms);
         QVERIFY(program.Named("historyList").isEmpty());
     }
 
@@ -277,7 +297,8 @@ private Q_SLOTS:
 
     void anUnknownProductOrLayoutIsRefused()
     {
-        for (const QStringList& arguments : {QStringList{"--product", "Nothing"}, QStringList{"--layout", "Nowhere"}}) {
+        for (const QStringList& arguments :
+             {QStringList{"--product", "Nothing"}, QStringList{"--layout", "Nowhere"}}) {
             QProcess process;
             process.setProcessEnvironment(m_screen->Environment());
             process.start(QStringLiteral(TARNIX_PROGRAM), arguments);
@@ -292,11 +313,14 @@ private Q_SLOTS:
         QTemporaryDir folder;
         QProcess process;
         process.setProcessEnvironment(m_screen->Environment());
-        process.start(QStringLiteral(TARNIX_PROGRAM), {"--data-dir", folder.filePath("data"), "--tour", folder.filePath("pictures")});
+        process.start(QStringLiteral(TARNIX_PROGRAM), {"--data-dir", folder.filePath("data"),
+                                                       "--tour", folder.filePath("pictures")});
         QVERIFY(process.waitForFinished(12 * k_patience_ms));
         QCOMPARE(process.exitCode(), 0);
-        const QStringList told = QString::fromLocal8Bit(process.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
-        const QStringList there = QDir(folder.filePath("pictures")).entryList({"*.png"}, QDir::Files, QDir::Name);
+        const QStringList told =
+            QString::fromLocal8Bit(process.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+        const QStringList there =
+            QDir(folder.filePath("pictures")).entryList({"*.png"}, QDir::Files, QDir::Name);
         QCOMPARE(told.size(), there.size());
         QVERIFY(there.size() >= 30);
         for (const QString& name : there) {
@@ -306,7 +330,10 @@ private Q_SLOTS:
     }
 
 private:
-    static QString Sample(const QString& name) { return QStringLiteral(TARNIX_SOURCES "/samples/") + name; }
+    static QString Sample(const QString& name)
+    {
+        return QStringLiteral(TARNIX_SOURCES "/samples/") + name;
+    }
 
     static bool HasFile(const QString& folder, const QString& name)
     {

@@ -11,7 +11,8 @@
 
 namespace tarnix {
 
-HostBackstagePage::HostBackstagePage(Host& host, QWidget* parent, const QString& title) : BackstagePageBase(parent), m_host(host)
+HostBackstagePage::HostBackstagePage(Host& host, QWidget* parent, const QString& title)
+    : BackstagePageBase(parent), m_host(host)
 {
     setWindowTitle(title);
     auto* layout = new QVBoxLayout(this);
@@ -67,9 +68,12 @@ void HostBackstagePage::showEvent(QShowEvent* event)
 
 Backstage::Backstage(Host& host, Qtitan::RibbonBackstageView* view) : QObject(view), mp_view(view)
 {
-    m_pages = {MakeInfoPage(host, view), MakeOpenPage(host, view), MakeExportPage(host, view), MakeOptionsPage(host, view), MakeAboutPage(host, view)};
+    m_pages = {MakeInfoPage(host, view), MakeOpenPage(host, view), MakeExportPage(host, view),
+               MakeOptionsPage(host, view), MakeAboutPage(host, view)};
     const auto add_command = [view](const char* id) {
-        if (ovk::UiCommand* command = ovk::UiFeaturesController::GetInstance()->GetCommandFromActiveProduct(QLatin1String(id), 0))
+        if (ovk::UiCommand* command =
+                ovk::UiFeaturesController::GetInstance()->GetCommandFromActiveProduct(
+                    QLatin1String(id), 0))
             view->addAction(command);
     };
     view->addPage(m_pages[Info]);

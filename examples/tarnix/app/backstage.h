@@ -18,7 +18,14 @@ class Backstage : public QObject
     Q_OBJECT
 
 public:
-    enum Page { Info, Open, Export, Options, About };
+    enum Page
+    {
+        Info,
+        Open,
+        Export,
+        Options,
+        About
+    };
 
     Backstage(Host& host, Qtitan::RibbonBackstageView* view);
 

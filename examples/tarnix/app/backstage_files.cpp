@@ -37,7 +37,8 @@ QLabel* MakePreview(QWidget* parent, const QSize& size)
 void FillPreview(Host& host, QLabel* label)
 {
     const qreal ratio = label->devicePixelRatioF();
-    QPixmap picture = QPixmap::fromImage(host.view->Picture((QSizeF(label->size() - QSize(2, 2)) * ratio).toSize()));
+    QPixmap picture = QPixmap::fromImage(
+        host.view->Picture((QSizeF(label->size() - QSize(2, 2)) * ratio).toSize()));
     picture.setDevicePixelRatio(ratio);
     label->setPixmap(picture);
 }
@@ -69,7 +70,8 @@ public:
         right->addStretch(1);
         row->addLayout(right, 1);
         Body()->addLayout(row);
-        AddButtons({QStringLiteral("File.Save"), QStringLiteral("File.SaveAs"), QStringLiteral("Check.Run"), QStringLiteral("File.PrintReport")});
+        AddButtons({QStringLiteral("File.Save"), QStringLiteral("File.SaveAs"),
+                    QStringLiteral("Check.Run"), QStringLiteral("File.PrintReport")});
         Body()->addStretch(1);
     }
 
@@ -79,7 +81,9 @@ protected:
         const Scene& scene = m_host.GetScene();
         const Formatter& format = m_host.workspace.Format();
         mp_name->setText(m_host.workspace.BuildName());
-        mp_path->setText(m_host.workspace.BuildPath().isEmpty() ? Tr("Not saved yet") : QDir::toNativeSeparators(m_host.workspace.BuildPath()));
+        mp_path->setText(m_host.workspace.BuildPath().isEmpty()
+                             ? Tr("Not saved yet")
+                             : QDir::toNativeSeparators(m_host.workspace.BuildPath()));
         FillPreview(m_host, mp_preview);
         double volume = 0.0;
         qlonglong triangles = 0;
@@ -98,17 +102,27 @@ protected:
             {Tr("Build volume"), format.Size({plate.width, plate.depth, plate.height})}};
         QString html = QStringLiteral("<table cellspacing=\"0\" cellpadding=\"3\">");
         for (const auto& [title, value] : rows)
-            html += QStringLiteral("<tr><td style=\"padding-right:18px\">%1</td><td><b>%2</b></td></tr>").arg(title, value.toHtmlEscaped());
+            html += QStringLiteral(
+                        "<tr><td style=\"padding-right:18px\">%1</td><td><b>%2</b></td></tr>")
+                        .arg(title, value.toHtmlEscaped());
         mp_figures->setText(html + QStringLiteral("</table>"));
         constexpr size_t k_most = 6;
         QString text;
-        const std::vector<Finding> findings = CheckBuild(scene, m_host.workspace.GetViewState().overhang_degrees, format);
+        const std::vector<Finding> findings =
+            CheckBuild(scene, m_host.workspace.GetViewState().overhang_degrees, format);
         for (size_t i = 0; i < std::min(findings.size(), k_most); ++i) {
-            const QString subject = findings[i].subject.isEmpty() ? QString() : QStringLiteral("<b>%1:</b> ").arg(findings[i].subject.toHtmlEscaped());
-            text += QStringLiteral("<p style=\"margin:3px 0\">%1%2</p>").arg(subject, findings[i].text.toHtmlEscaped());
+            const QString subject =
+                findings[i].subject.isEmpty()
+                    ? QString()
+                    : QStringLiteral("<b>%1:</b> ").arg(findings[i].subject.toHtmlEscaped());
+            text += QStringLiteral("<p style=\"margin:3px 0\">%1%2</p>")
+                        .arg(subject, findings[i].text.toHtmlEscaped());
         }
         if (findings.size() > k_most)
-            text += QStringLiteral("<p>") + QCoreApplication::translate("tarnix::Backstage", "More findings: %n", nullptr, static_cast<int>(findings.size() - k_most)) + QStringLiteral("</p>");
+            text += QStringLiteral("<p>") +
+                    QCoreApplication::translate("tarnix::Backstage", "More findings: %n", nullptr,
+                                                static_cast<int>(findings.size() - k_most)) +
+                    QStringLiteral("</p>");
         mp_findings->setText(text);
     }
 
@@ -127,7 +141,9 @@ public:
     OpenPage(Host& host, QWidget* parent) : HostBackstagePage(host, parent, Tr("Open"))
     {
         setWindowIcon(ovk::IconsController::Load(QStringLiteral("File.Open")));
-        AddButtons({QStringLiteral("File.Open"), QStringLiteral("File.Import"), QStringLiteral("File.Bracket"), QStringLiteral("File.Gear"), QStringLiteral("File.Vase")});
+        AddButtons({QStringLiteral("File.Open"), QStringLiteral("File.Import"),
+                    QStringLiteral("File.Bracket"), QStringLiteral("File.Gear"),
+                    QStringLiteral("File.Vase")});
         AddHeading(Tr("Recent files"));
         mp_list = new QListWidget(this);
         mp_list->setObjectName(QStringLiteral("recentList"));
@@ -155,8 +171,11 @@ protected:
         for (const QString& path : m_host.RecentFiles()) {
             const QFileInfo info(path);
             const bool build = info.suffix() == QLatin1String("tarnix");
-            auto* item = new QListWidgetItem(ovk::IconsController::Load(build ? QStringLiteral("Layout.Prepare") : QStringLiteral("Add.Box")),
-                                             info.fileName() + QLatin1Char('\n') + QDir::toNativeSeparators(info.absolutePath()), mp_list);
+            auto* item = new QListWidgetItem(
+                ovk::IconsController::Load(build ? QStringLiteral("Layout.Prepare")
+                                                 : QStringLiteral("Add.Box")),
+                info.fileName() + QLatin1Char('\n') + QDir::toNativeSeparators(info.absolutePath()),
+                mp_list);
             item->setData(Qt::UserRole, path);
             if (!info.exists()) {
                 item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
@@ -179,8 +198,9 @@ public:
     ExportPage(Host& host, QWidget* parent) : HostBackstagePage(host, parent, Tr("Export"))
     {
         setWindowIcon(ovk::IconsController::Load(QStringLiteral("Group.Export")));
-        AddButtons({QStringLiteral("File.ExportStl"), QStringLiteral("File.ExportAscii"), QStringLiteral("File.ExportEach"),
-                    QStringLiteral("File.ExportPicture"), QStringLiteral("File.CopyPicture"), QStringLiteral("File.PrintReport")});
+        AddButtons({QStringLiteral("File.ExportStl"), QStringLiteral("File.ExportAscii"),
+                    QStringLiteral("File.ExportEach"), QStringLiteral("File.ExportPicture"),
+                    QStringLiteral("File.CopyPicture"), QStringLiteral("File.PrintReport")});
         AddHeading(Tr("The picture as it will be saved"));
         mp_preview = MakePreview(this, {600, 400});
         Body()->addWidget(mp_preview);
@@ -205,13 +225,16 @@ public:
         auto* picture = new QLabel(this);
         picture->setPixmap(ovk::IconsController::Load(QStringLiteral("App")).pixmap(96, 96));
         row->addWidget(picture, 0, Qt::AlignTop);
-        auto* text = new QLabel(VersionText() + QStringLiteral("\n\n")
-                                    + Tr("A small program that prepares parts for 3D printing, and shows what the frame it stands on can do."), this);
+        auto* text = new QLabel(VersionText() + QStringLiteral("\n\n") +
+                                    Tr("A small program that prepares parts for 3D printing, and "
+                                       "shows what the frame it stands on can do."),
+                                this);
         text->setWordWrap(true);
         text->setTextInteractionFlags(Qt::TextSelectableByMouse);
         row->addWidget(text, 1);
         Body()->addLayout(row);
-        AddButtons({QStringLiteral("Help.Service"), QStringLiteral("Help.Keys"), QStringLiteral("Help.CopyInfo")});
+        AddButtons({QStringLiteral("Help.Service"), QStringLiteral("Help.Keys"),
+                    QStringLiteral("Help.CopyInfo")});
         Body()->addStretch(1);
     }
 };

@@ -25,14 +25,16 @@ QString Tr(const char* text)
     return QCoreApplication::translate("tarnix::Options", text);
 }
 
-constexpr const char* k_themes[] = {"Office 2007 Blue", "Office 2007 Black", "Office 2007 Silver", "Office 2007 Aqua",
-                                    "Windows 7 Scenic", "Office 2010 Silver", "Office 2010 Blue", "Office 2010 Black",
-                                    "Office 2013 White", "Office 2013 Gray", "Office 2013 Dark"};
-constexpr const char* k_accents[] = {QT_TRANSLATE_NOOP("tarnix::Options", "Blue"),    QT_TRANSLATE_NOOP("tarnix::Options", "Brown"),
-                                     QT_TRANSLATE_NOOP("tarnix::Options", "Green"),   QT_TRANSLATE_NOOP("tarnix::Options", "Lime"),
-                                     QT_TRANSLATE_NOOP("tarnix::Options", "Magenta"), QT_TRANSLATE_NOOP("tarnix::Options", "Orange"),
-                                     QT_TRANSLATE_NOOP("tarnix::Options", "Pink"),    QT_TRANSLATE_NOOP("tarnix::Options", "Purple"),
-                                     QT_TRANSLATE_NOOP("tarnix::Options", "Red"),     QT_TRANSLATE_NOOP("tarnix::Options", "Teal")};
+constexpr const char* k_themes[] = {"Office 2007 Blue", "Office 2007 Black", "Office 2007 Silver",
+                                    "Office 2007 Aqua", "Windows 7 Scenic",  "Office 2010 Silver",
+                                    "Office 2010 Blue", "Office 2010 Black", "Office 2013 White",
+                                    "Office 2013 Gray", "Office 2013 Dark"};
+constexpr const char* k_accents[] = {
+    QT_TRANSLATE_NOOP("tarnix::Options", "Blue"),    QT_TRANSLATE_NOOP("tarnix::Options", "Brown"),
+    QT_TRANSLATE_NOOP("tarnix::Options", "Green"),   QT_TRANSLATE_NOOP("tarnix::Options", "Lime"),
+    QT_TRANSLATE_NOOP("tarnix::Options", "Magenta"), QT_TRANSLATE_NOOP("tarnix::Options", "Orange"),
+    QT_TRANSLATE_NOOP("tarnix::Options", "Pink"),    QT_TRANSLATE_NOOP("tarnix::Options", "Purple"),
+    QT_TRANSLATE_NOOP("tarnix::Options", "Red"),     QT_TRANSLATE_NOOP("tarnix::Options", "Teal")};
 
 QIcon Swatch(const QColor& color)
 {
@@ -77,7 +79,9 @@ public:
         AddChoice(look, Tr("Accent"), s.accent, [] {
             QList<QPair<QIcon, QString>> items;
             for (int i = 0; i < int(std::size(k_accents)); ++i)
-                items.append({Swatch(Qtitan::OfficeStyle::accentColor(static_cast<Qtitan::OfficeStyle::AccentColor>(i))), Tr(k_accents[i])});
+                items.append({Swatch(Qtitan::OfficeStyle::accentColor(
+                                  static_cast<Qtitan::OfficeStyle::AccentColor>(i))),
+                              Tr(k_accents[i])});
             return items;
         }());
         AddSwitch(look, Tr("Show the titles of groups"), s.group_titles);
@@ -138,17 +142,19 @@ private:
             m_host.ApplySettings();
     }
 
-    void AddChoice(QFormLayout* form, const QString& title, IntPreference& preference, const QList<QPair<QIcon, QString>>& items)
+    void AddChoice(QFormLayout* form, const QString& title, IntPreference& preference,
+                   const QList<QPair<QIcon, QString>>& items)
     {
         auto* box = new QComboBox(this);
         for (const auto& item : items)
             box->addItem(item.first, item.second);
         form->addRow(title, box);
         m_follow.push_back([box, &preference] { box->setCurrentIndex(preference); });
-        connect(box, QOverload<int>::of(&QComboBox::activated), this, [this, &preference](int index) {
-            preference.SetData(index);
-            Changed();
-        });
+        connect(box, QOverload<int>::of(&QComboBox::activated), this,
+                [this, &preference](int index) {
+                    preference.SetData(index);
+                    Changed();
+                });
     }
 
     void AddSwitch(QFormLayout* form, const QString& title, SwitchPreference& preference)
@@ -166,19 +172,28 @@ private:
         });
     }
 
-    void AddNumber(QFormLayout* form, const QString& title, DoublePreference& preference, NumberField::Kind kind)
+    void AddNumber(QFormLayout* form, const QString& title, DoublePreference& preference,
+                   NumberField::Kind kind)
     {
-        QDoubleSpinBox* editor = MakeNumberEditor(this, {title, preference, preference.Low(), preference.High(), kind}, m_host.workspace.Format());
+        QDoubleSpinBox* editor =
+            MakeNumberEditor(this, {title, preference, preference.Low(), preference.High(), kind},
+                             m_host.workspace.Format());
         editor->setMinimumWidth(130);
         form->addRow(title, editor);
-        const auto to_unit = [this, kind](double value) { return kind == NumberField::Length ? m_host.workspace.Format().ToUnit(value) : value; };
-        m_follow.push_back([editor, to_unit, &preference] { editor->setValue(to_unit(preference)); });
-        connect(editor, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this, kind, &preference](double value) {
-            if (m_following)
-                return;
-            preference.SetData(kind == NumberField::Length ? m_host.workspace.Format().FromUnit(value) : value);
-            Changed();
-        });
+        const auto to_unit = [this, kind](double value) {
+            return kind == NumberField::Length ? m_host.workspace.Format().ToUnit(value) : value;
+        };
+        m_follow.push_back(
+            [editor, to_unit, &preference] { editor->setValue(to_unit(preference)); });
+        connect(editor, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+                [this, kind, &preference](double value) {
+                    if (m_following)
+                        return;
+                    preference.SetData(kind == NumberField::Length
+                                           ? m_host.workspace.Format().FromUnit(value)
+                                           : value);
+                    Changed();
+                });
     }
 
     std::vector<std::function<void()>> m_follow;

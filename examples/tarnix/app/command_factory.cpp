@@ -13,8 +13,9 @@ const QString k_recent_family = QStringLiteral("DynamicCommands.RecentFiles");
 
 std::vector<CommandTable> Tables()
 {
-    return {FileCommands(),  EditCommands(),    SelectCommands(), AddCommands(),   PlaceCommands(), TurnScaleCommands(),
-            RepairCommands(), InspectCommands(), ViewCommands(),   SliceCommands(), WindowCommands()};
+    return {FileCommands(),  EditCommands(),      SelectCommands(), AddCommands(),
+            PlaceCommands(), TurnScaleCommands(), RepairCommands(), InspectCommands(),
+            ViewCommands(),  SliceCommands(),     WindowCommands()};
 }
 
 } // namespace
@@ -41,11 +42,13 @@ ovk::UiCommand* CommandFactory::GetCommand(const QString& id, int)
 
 void CommandFactory::CreateCommands(const QSet<QString>& ids)
 {
-    const ovk::UiFeatureCommands* definitions = ovk::UiFeaturesController::GetInstance()->GetCommandsDef();
+    const ovk::UiFeatureCommands* definitions =
+        ovk::UiFeaturesController::GetInstance()->GetCommandsDef();
     for (const QString& id : ids) {
         if (id == k_recent_family) {
             for (int i = 0; i < k_recent_commands; ++i) {
-                auto command = std::make_unique<RecentFileCommand>(QStringLiteral("Recent.%1").arg(i + 1), i, m_host);
+                auto command = std::make_unique<RecentFileCommand>(
+                    QStringLiteral("Recent.%1").arg(i + 1), i, m_host);
                 m_recent.push_back(command.get());
                 m_by_id.insert(command->GetId(), command.get());
                 m_commands.push_back(std::move(command));
@@ -57,7 +60,8 @@ void CommandFactory::CreateCommands(const QSet<QString>& ids)
         if (!spec || !definition)
             continue;
         auto command = std::make_unique<HostCommand>(*spec, m_host);
-        command->SetTexts(definition->GetTitle(), definition->GetTooltip(), definition->GetStatusTip());
+        command->SetTexts(definition->GetTitle(), definition->GetTooltip(),
+                          definition->GetStatusTip());
         command->SetIsVisual(definition->IsVisual());
         m_by_id.insert(id, command.get());
         m_commands.push_back(std::move(command));

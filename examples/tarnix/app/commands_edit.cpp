@@ -35,13 +35,15 @@ void Copy(Host& host)
 {
     const PartList parts = SelectedParts(host);
     auto* data = new QMimeData;
-    data->setData(QLatin1String(BuildFile::MimeType()), BuildFile::Write(parts, host.GetScene().GetPlate()));
+    data->setData(QLatin1String(BuildFile::MimeType()),
+                  BuildFile::Write(parts, host.GetScene().GetPlate()));
     QStringList names;
     for (const Part& part : parts)
         names.append(part.name);
     data->setText(names.join(QLatin1Char('\n')));
     QApplication::clipboard()->setMimeData(data);
-    host.Tell(QCoreApplication::translate("tarnix::EditCommands", "Parts copied: %n", nullptr, static_cast<int>(parts.size())));
+    host.Tell(QCoreApplication::translate("tarnix::EditCommands", "Parts copied: %n", nullptr,
+                                          static_cast<int>(parts.size())));
 }
 
 void Paste(Host& host)
@@ -57,7 +59,8 @@ void Paste(Host& host)
     // Beside where they were, so that the copy is seen.
     for (Part& part : result.parts) {
         part.locked = false;
-        part.Apply(Transform::Translation({host.workspace.move_step, -host.workspace.move_step, 0.0}));
+        part.Apply(
+            Transform::Translation({host.workspace.move_step, -host.workspace.move_step, 0.0}));
     }
     host.GetScene().Add(Tr("Paste"), std::move(result.parts));
 }
@@ -85,17 +88,20 @@ void Rename(Host& host)
     dialog->setWindowTitle(Tr("Rename"));
     dialog->setLabelText(Tr("Name of the part:"));
     dialog->setTextValue(part->name);
-    QObject::connect(dialog, &QInputDialog::textValueSelected, &host, [&host, id](const QString& name) { host.GetScene().Rename(id, name); });
+    QObject::connect(dialog, &QInputDialog::textValueSelected, &host,
+                     [&host, id](const QString& name) { host.GetScene().Rename(id, name); });
     dialog->open();
 }
 
 void Recolor(Host& host)
 {
-    auto* dialog = new QColorDialog(QColor::fromRgb(host.GetScene().Selected().front()->color), host.window);
+    auto* dialog =
+        new QColorDialog(QColor::fromRgb(host.GetScene().Selected().front()->color), host.window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setOption(QColorDialog::DontUseNativeDialog);
     QObject::connect(dialog, &QColorDialog::colorSelected, &host, [&host](const QColor& color) {
-        host.GetScene().EditSelected(Tr("Part Colour"), [&color](Part& part) { part.color = color.rgb(); });
+        host.GetScene().EditSelected(Tr("Part Colour"),
+                                     [&color](Part& part) { part.color = color.rgb(); });
     });
     dialog->open();
 }
@@ -117,9 +123,11 @@ void AddCopies(Host& host, const QString& title, const std::vector<Vec3>& shifts
 void Row(Host& host)
 {
     const Vec3 size = host.GetScene().Selected().front()->Bounds().Size();
-    NumberDialog::Ask(host.window, Tr("Row of Copies"), Tr("Copies of the selected part, one after another at these steps."),
+    NumberDialog::Ask(host.window, Tr("Row of Copies"),
+                      Tr("Copies of the selected part, one after another at these steps."),
                       {{Tr("Number of copies:"), 3, 1, 200, NumberField::Count},
-                       {Tr("Step along X:"), size.x + host.workspace.arrange_gap, -2000, 2000, NumberField::Length},
+                       {Tr("Step along X:"), size.x + host.workspace.arrange_gap, -2000, 2000,
+                        NumberField::Length},
                        {Tr("Step along Y:"), 0, -2000, 2000, NumberField::Length},
                        {Tr("Step along Z:"), 0, -2000, 2000, NumberField::Length}},
                       host.workspace.Format(), [&host](const std::vector<double>& v) {
@@ -134,7 +142,8 @@ void Grid(Host& host)
 {
     const Vec3 size = host.GetScene().Selected().front()->Bounds().Size();
     const double gap = host.workspace.arrange_gap;
-    NumberDialog::Ask(host.window, Tr("Grid of Copies"), Tr("Columns and rows count the selected part itself."),
+    NumberDialog::Ask(host.window, Tr("Grid of Copies"),
+                      Tr("Columns and rows count the selected part itself."),
                       {{Tr("Columns:"), 3, 1, 50, NumberField::Count},
                        {Tr("Rows:"), 2, 1, 50, NumberField::Count},
                        {Tr("Column step:"), size.x + gap, -2000, 2000, NumberField::Length},
@@ -162,7 +171,8 @@ const CommandSpec k_edit_rows[] = {
     {"Edit.Copy", Need::Selection, Copy},
     {"Edit.Paste", Need::ClipboardParts, Paste},
     {"Edit.Duplicate", Need::Selection, Duplicate},
-    {"Edit.Delete", Need::Editable, [](Host& host) { host.GetScene().DeleteSelected(Tr("Delete")); }},
+    {"Edit.Delete", Need::Editable,
+     [](Host& host) { host.GetScene().DeleteSelected(Tr("Delete")); }},
     {"Edit.Rename", Need::OneEditable, Rename},
     {"Edit.Recolor", Need::Editable, Recolor},
     {"Edit.Row", Need::OneSelected, Row},
@@ -175,22 +185,32 @@ const CommandSpec k_edit_rows[] = {
 // ---- selection
 
 const CommandSpec k_select_rows[] = {
-    {"Select.All", Need::VisibleParts, [](Host& host) { host.GetScene().Select([](const Part& part) { return part.visible; }); }},
-    {"Select.None", Need::Selection, [](Host& host) { host.GetScene().Select([](const Part&) { return false; }); }},
+    {"Select.All", Need::VisibleParts,
+     [](Host& host) { host.GetScene().Select([](const Part& part) { return part.visible; }); }},
+    {"Select.None", Need::Selection,
+     [](Host& host) { host.GetScene().Select([](const Part&) { return false; }); }},
     {"Select.Invert", Need::VisibleParts,
-     [](Host& host) { host.GetScene().Select([](const Part& part) { return part.visible && !part.selected; }); }},
+     [](Host& host) {
+         host.GetScene().Select([](const Part& part) { return part.visible && !part.selected; });
+     }},
     {"Select.Next", Need::VisibleParts, [](Host& host) { host.GetScene().SelectNext(+1); }},
     {"Select.Previous", Need::VisibleParts, [](Host& host) { host.GetScene().SelectNext(-1); }},
     {"Select.Faulty", Need::VisibleParts,
      [](Host& host) {
-         host.GetScene().Select([](const Part& part) { return part.visible && !part.GetMesh()->GetTopology().IsSolid(); });
-         host.Tell(QCoreApplication::translate("tarnix::EditCommands", "Faulty parts: %n", nullptr, host.GetScene().SelectedCount()));
+         host.GetScene().Select([](const Part& part) {
+             return part.visible && !part.GetMesh()->GetTopology().IsSolid();
+         });
+         host.Tell(QCoreApplication::translate("tarnix::EditCommands", "Faulty parts: %n", nullptr,
+                                               host.GetScene().SelectedCount()));
      }},
     {"Select.Outside", Need::VisibleParts,
      [](Host& host) {
          const Plate plate = host.GetScene().GetPlate();
-         host.GetScene().Select([&plate](const Part& part) { return part.visible && !IsInside(part.Bounds(), plate); });
-         host.Tell(QCoreApplication::translate("tarnix::EditCommands", "Parts outside: %n", nullptr, host.GetScene().SelectedCount()));
+         host.GetScene().Select([&plate](const Part& part) {
+             return part.visible && !IsInside(part.Bounds(), plate);
+         });
+         host.Tell(QCoreApplication::translate("tarnix::EditCommands", "Parts outside: %n", nullptr,
+                                               host.GetScene().SelectedCount()));
      }},
     {"Select.Similar", Need::Selection,
      [](Host& host) {
@@ -198,15 +218,27 @@ const CommandSpec k_select_rows[] = {
          for (const Part* part : host.GetScene().Selected())
              meshes.push_back(part->GetMesh());
          host.GetScene().Select([&meshes](const Part& part) {
-             return part.visible && std::find(meshes.begin(), meshes.end(), part.GetMesh()) != meshes.end();
+             return part.visible &&
+                    std::find(meshes.begin(), meshes.end(), part.GetMesh()) != meshes.end();
          });
      }},
     {"Select.Hide", Need::Selection,
-     [](Host& host) { host.GetScene().SetVisible([](const Part& part) { return part.visible && !part.selected; }); }},
-    {"Select.Isolate", Need::Selection, [](Host& host) { host.GetScene().SetVisible([](const Part& part) { return part.selected; }); }},
-    {"Select.ShowAll", Need::Hidden, [](Host& host) { host.GetScene().SetVisible([](const Part&) { return true; }); }},
-    {"Select.Lock", Need::Editable, [](Host& host) { host.GetScene().SetLocked([](const Part& part) { return part.locked || part.selected; }); }},
-    {"Select.Unlock", Need::Locked, [](Host& host) { host.GetScene().SetLocked([](const Part&) { return false; }); }},
+     [](Host& host) {
+         host.GetScene().SetVisible(
+             [](const Part& part) { return part.visible && !part.selected; });
+     }},
+    {"Select.Isolate", Need::Selection,
+     [](Host& host) {
+         host.GetScene().SetVisible([](const Part& part) { return part.selected; });
+     }},
+    {"Select.ShowAll", Need::Hidden,
+     [](Host& host) { host.GetScene().SetVisible([](const Part&) { return true; }); }},
+    {"Select.Lock", Need::Editable,
+     [](Host& host) {
+         host.GetScene().SetLocked([](const Part& part) { return part.locked || part.selected; });
+     }},
+    {"Select.Unlock", Need::Locked,
+     [](Host& host) { host.GetScene().SetLocked([](const Part&) { return false; }); }},
 };
 
 // ---- new solids
@@ -214,11 +246,14 @@ const CommandSpec k_select_rows[] = {
 /// Adds a solid where nothing stands yet, to the right of what is there.
 void AddSolid(Host& host, const QString& name, Mesh mesh)
 {
-    Part part(name, std::make_shared<const Mesh>(std::move(mesh)), PartColor(host.GetScene().Count()));
+    Part part(name, std::make_shared<const Mesh>(std::move(mesh)),
+              PartColor(host.GetScene().Count()));
     const Box present = host.GetScene().Bounds();
     if (!present.IsEmpty() && present.Intersects(part.Bounds()))
-        part.Apply(Transform::Translation({present.high.x + host.workspace.arrange_gap - part.Bounds().low.x, 0.0, 0.0}));
-    host.GetScene().Add(QCoreApplication::translate("tarnix::EditCommands", "Add %1").arg(name), {part});
+        part.Apply(Transform::Translation(
+            {present.high.x + host.workspace.arrange_gap - part.Bounds().low.x, 0.0, 0.0}));
+    host.GetScene().Add(QCoreApplication::translate("tarnix::EditCommands", "Add %1").arg(name),
+                        {part});
 }
 
 NumberField Field(const char* label, double value)
@@ -226,18 +261,22 @@ NumberField Field(const char* label, double value)
     return {Tr(label), value, 0.1, 2000.0, NumberField::Length};
 }
 
-void AskSolid(Host& host, const QString& title, const std::vector<NumberField>& fields, Mesh (*make)(const std::vector<double>&))
+void AskSolid(Host& host, const QString& title, const std::vector<NumberField>& fields,
+              Mesh (*make)(const std::vector<double>&))
 {
-    NumberDialog::Ask(host.window, title, QString(), fields, host.workspace.Format(), [&host, title, make](const std::vector<double>& values) {
-        AddSolid(host, title, make(values));
-    });
+    NumberDialog::Ask(host.window, title, QString(), fields, host.workspace.Format(),
+                      [&host, title, make](const std::vector<double>& values) {
+                          AddSolid(host, title, make(values));
+                      });
 }
 
 const CommandSpec k_add_rows[] = {
     {"Add.Box", Need::Nothing,
      [](Host& host) {
          AskSolid(host, Tr("Box"), {Field("Width:", 30), Field("Depth:", 20), Field("Height:", 15)},
-                  [](const std::vector<double>& v) { return MakeBox({v[0], v[1], v[2]}); });
+                  [](const std::vector<double>& v) {
+                      return MakeBox({v[0], v[1], v[2]});
+                  });
      }},
     {"Add.Cylinder", Need::Nothing,
      [](Host& host) {
@@ -246,24 +285,34 @@ const CommandSpec k_add_rows[] = {
      }},
     {"Add.Cone", Need::Nothing,
      [](Host& host) {
-         AskSolid(host, Tr("Cone"), {Field("Lower diameter:", 30), {Tr("Upper diameter:"), 0, 0, 2000, NumberField::Length}, Field("Height:", 30)},
-                  [](const std::vector<double>& v) { return MakeCone(v[0] / 2, v[1] / 2, v[2], 96); });
+         AskSolid(
+             host, Tr("Cone"),
+             {Field("Lower diameter:", 30),
+              {Tr("Upper diameter:"), 0, 0, 2000, NumberField::Length},
+              Field("Height:", 30)},
+             [](const std::vector<double>& v) { return MakeCone(v[0] / 2, v[1] / 2, v[2], 96); });
      }},
     {"Add.Sphere", Need::Nothing,
      [](Host& host) {
-         AskSolid(host, Tr("Sphere"), {Field("Diameter:", 30)}, [](const std::vector<double>& v) { return MakeSphere(v[0] / 2, 48); });
+         AskSolid(host, Tr("Sphere"), {Field("Diameter:", 30)},
+                  [](const std::vector<double>& v) { return MakeSphere(v[0] / 2, 48); });
      }},
     {"Add.Torus", Need::Nothing,
      [](Host& host) {
-         AskSolid(host, Tr("Ring"), {Field("Outer diameter:", 40), Field("Thickness:", 8)}, [](const std::vector<double>& v) {
-             const double tube = std::min(v[1] / 2, v[0] / 4 * 0.98);
-             return MakeTorus(v[0] / 2 - tube, tube, 96);
-         });
+         AskSolid(host, Tr("Ring"), {Field("Outer diameter:", 40), Field("Thickness:", 8)},
+                  [](const std::vector<double>& v) {
+                      const double tube = std::min(v[1] / 2, v[0] / 4 * 0.98);
+                      return MakeTorus(v[0] / 2 - tube, tube, 96);
+                  });
      }},
     {"Add.Prism", Need::Nothing,
      [](Host& host) {
-         AskSolid(host, Tr("Prism"), {Field("Diameter over corners:", 30), Field("Height:", 20), {Tr("Corners:"), 6, 3, 64, NumberField::Count}},
-                  [](const std::vector<double>& v) { return MakePrism(v[0] / 2, v[1], int(v[2])); });
+         AskSolid(
+             host, Tr("Prism"),
+             {Field("Diameter over corners:", 30),
+              Field("Height:", 20),
+              {Tr("Corners:"), 6, 3, 64, NumberField::Count}},
+             [](const std::vector<double>& v) { return MakePrism(v[0] / 2, v[1], int(v[2])); });
      }},
 };
 

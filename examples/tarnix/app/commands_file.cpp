@@ -42,7 +42,8 @@ QString FileNameOf(const QString& title)
 QString SelectionName(const Host& host)
 {
     const auto selected = host.GetScene().Selected();
-    return selected.size() == 1 ? FileNameOf(selected.front()->name) : FileNameOf(host.workspace.BuildName());
+    return selected.size() == 1 ? FileNameOf(selected.front()->name)
+                                : FileNameOf(host.workspace.BuildName());
 }
 
 void NewBuild(Host& host)
@@ -57,7 +58,8 @@ void NewBuild(Host& host)
 
 void SaveAs(Host& host)
 {
-    AskSavePath(host, Tr("Save Build As"), BuildFilter(), FileNameOf(host.workspace.BuildName()) + QStringLiteral(".tarnix"),
+    AskSavePath(host, Tr("Save Build As"), BuildFilter(),
+                FileNameOf(host.workspace.BuildName()) + QStringLiteral(".tarnix"),
                 [&host](const QString& path) { SaveBuild(host, path); });
 }
 
@@ -87,20 +89,23 @@ void Reload(Host& host)
         }
         return count > 0;
     });
-    host.Tell(QCoreApplication::translate("tarnix::FileCommands", "Parts read again: %n", nullptr, count));
+    host.Tell(QCoreApplication::translate("tarnix::FileCommands", "Parts read again: %n", nullptr,
+                                          count));
     if (!errors.isEmpty())
         host.Warn(Tr("Some parts could not be read again; they stay as they were."), errors);
 }
 
 void ExportSelection(Host& host, bool ascii)
 {
-    AskSavePath(host, ascii ? Tr("Export as Text") : Tr("Export STL"), StlFilter(), SelectionName(host) + QStringLiteral(".stl"),
-                [&host, ascii](const QString& path) {
-                    const Mesh mesh = MergedSelection(host);
-                    const QString name = QFileInfo(path).completeBaseName();
-                    if (WriteFile(host, path, ascii ? StlWriter::Ascii(mesh, name) : StlWriter::Binary(mesh, name)))
-                        host.Tell(Tr("Exported to %1.").arg(QFileInfo(path).fileName()));
-                });
+    AskSavePath(
+        host, ascii ? Tr("Export as Text") : Tr("Export STL"), StlFilter(),
+        SelectionName(host) + QStringLiteral(".stl"), [&host, ascii](const QString& path) {
+            const Mesh mesh = MergedSelection(host);
+            const QString name = QFileInfo(path).completeBaseName();
+            if (WriteFile(host, path,
+                          ascii ? StlWriter::Ascii(mesh, name) : StlWriter::Binary(mesh, name)))
+                host.Tell(Tr("Exported to %1.").arg(QFileInfo(path).fileName()));
+        });
 }
 
 void ExportEach(Host& host)
@@ -112,16 +117,19 @@ void ExportEach(Host& host)
             for (int number = 2; used.contains(name, Qt::CaseInsensitive); ++number)
                 name = FileNameOf(part.name) + QStringLiteral(" (%1)").arg(number);
             used.append(name);
-            if (!WriteFile(host, QDir(folder).filePath(name + QStringLiteral(".stl")), StlWriter::Binary(part.PlacedMesh(), part.name)))
+            if (!WriteFile(host, QDir(folder).filePath(name + QStringLiteral(".stl")),
+                           StlWriter::Binary(part.PlacedMesh(), part.name)))
                 return;
         }
-        host.Tell(QCoreApplication::translate("tarnix::FileCommands", "Parts exported: %n", nullptr, used.size()));
+        host.Tell(QCoreApplication::translate("tarnix::FileCommands", "Parts exported: %n", nullptr,
+                                              used.size()));
     });
 }
 
 void ExportPicture(Host& host)
 {
-    AskSavePath(host, Tr("Save Picture"), Tr("Pictures (*.png)"), FileNameOf(host.workspace.BuildName()) + QStringLiteral(".png"),
+    AskSavePath(host, Tr("Save Picture"), Tr("Pictures (*.png)"),
+                FileNameOf(host.workspace.BuildName()) + QStringLiteral(".png"),
                 [&host](const QString& path) {
                     QByteArray bytes;
                     QBuffer buffer(&bytes);
@@ -140,7 +148,8 @@ void CopyPicture(Host& host)
 
 void PrintReport(Host& host)
 {
-    AskSavePath(host, Tr("Print Report"), Tr("PDF documents (*.pdf)"), FileNameOf(host.workspace.BuildName()) + QStringLiteral(".pdf"),
+    AskSavePath(host, Tr("Print Report"), Tr("PDF documents (*.pdf)"),
+                FileNameOf(host.workspace.BuildName()) + QStringLiteral(".pdf"),
                 [&host](const QString& path) {
                     if (WriteFile(host, path, ReportPdf(host)))
                         host.Tell(Tr("Report written to %1.").arg(QFileInfo(path).fileName()));
@@ -151,11 +160,13 @@ const CommandSpec k_rows[] = {
     {"File.New", Need::Nothing, NewBuild},
     {"File.Open", Need::Nothing,
      [](Host& host) {
-         AskOpenPaths(host, Tr("Open Build"), Tr("Builds and parts (*.tarnix *.stl)"), [&host](const QStringList& paths) { OpenFiles(host, paths); });
+         AskOpenPaths(host, Tr("Open Build"), Tr("Builds and parts (*.tarnix *.stl)"),
+                      [&host](const QStringList& paths) { OpenFiles(host, paths); });
      }},
     {"File.Import", Need::Nothing,
      [](Host& host) {
-         AskOpenPaths(host, Tr("Add Parts"), StlFilter(), [&host](const QStringList& paths) { ImportFiles(host, paths); });
+         AskOpenPaths(host, Tr("Add Parts"), StlFilter(),
+                      [&host](const QStringList& paths) { ImportFiles(host, paths); });
      }},
     {"File.Save", Need::Parts, Save},
     {"File.SaveAs", Need::Parts, SaveAs},
@@ -166,9 +177,12 @@ const CommandSpec k_rows[] = {
     {"File.ExportPicture", Need::Nothing, ExportPicture},
     {"File.CopyPicture", Need::Nothing, CopyPicture},
     {"File.PrintReport", Need::Parts, PrintReport},
-    {"File.Bracket", Need::Nothing, [](Host& host) { AddSample(host, QStringLiteral("bracket.stl"), Tr("Bracket")); }},
-    {"File.Gear", Need::Nothing, [](Host& host) { AddSample(host, QStringLiteral("gear.stl"), Tr("Gear wheel")); }},
-    {"File.Vase", Need::Nothing, [](Host& host) { AddSample(host, QStringLiteral("vase.stl"), Tr("Vase")); }},
+    {"File.Bracket", Need::Nothing,
+     [](Host& host) { AddSample(host, QStringLiteral("bracket.stl"), Tr("Bracket")); }},
+    {"File.Gear", Need::Nothing,
+     [](Host& host) { AddSample(host, QStringLiteral("gear.stl"), Tr("Gear wheel")); }},
+    {"File.Vase", Need::Nothing,
+     [](Host& host) { AddSample(host, QStringLiteral("vase.stl"), Tr("Vase")); }},
     {"File.ClearRecent", Need::Recent, [](Host& host) { host.ClearRecent(); }},
     {"File.Exit", Need::Nothing, [](Host& host) { host.window->close(); }},
 };

@@ -52,20 +52,23 @@ void MeasureSize(Host& host)
 void MeasureGapOfTwo(Host& host)
 {
     const std::vector<const Part*> selected = host.GetScene().Selected();
-    host.workspace.AddMeasurement(MeasureGap(selected[0]->Bounds(), selected[1]->Bounds(),
-                                             selected[0]->name + QStringLiteral(", ") + selected[1]->name));
+    host.workspace.AddMeasurement(
+        MeasureGap(selected[0]->Bounds(), selected[1]->Bounds(),
+                   selected[0]->name + QStringLiteral(", ") + selected[1]->name));
 }
 
 void CopyMeasurements(Host& host)
 {
     QStringList lines;
     for (const Measurement& entry : host.workspace.Measurements()) {
-        QStringList fields{entry.Title(), entry.Text(host.workspace.Format()), entry.Details(host.workspace.Format()), entry.subject};
+        QStringList fields{entry.Title(), entry.Text(host.workspace.Format()),
+                           entry.Details(host.workspace.Format()), entry.subject};
         fields.removeAll(QString());
         lines.append(fields.join(QLatin1Char('\t')));
     }
     QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
-    host.Tell(QCoreApplication::translate("tarnix::InspectCommands", "Measurements copied: %n", nullptr, lines.size()));
+    host.Tell(QCoreApplication::translate("tarnix::InspectCommands", "Measurements copied: %n",
+                                          nullptr, lines.size()));
 }
 
 void RunChecks(Host& host)
@@ -75,7 +78,8 @@ void RunChecks(Host& host)
     host.Refresh();
     const int count = host.GetFacts().findings;
     host.Tell(count == 0 ? Tr("The build is ready: nothing to report.")
-                         : QCoreApplication::translate("tarnix::InspectCommands", "Findings: %n", nullptr, count));
+                         : QCoreApplication::translate("tarnix::InspectCommands", "Findings: %n",
+                                                       nullptr, count));
 }
 
 void ShowNextFinding(Host& host)
@@ -90,8 +94,9 @@ void ShowNextFinding(Host& host)
 
 void CopyReport(Host& host)
 {
-    QApplication::clipboard()->setText(BuildReport(host.GetScene(), host.workspace.GetViewState().overhang_degrees,
-                                                   host.workspace.density, host.workspace.Format()));
+    QApplication::clipboard()->setText(
+        BuildReport(host.GetScene(), host.workspace.GetViewState().overhang_degrees,
+                    host.workspace.density, host.workspace.Format()));
     host.Tell(Tr("The report is on the clipboard."));
 }
 
@@ -111,12 +116,15 @@ void ChangeOverhang(Host& host, double step)
         state.overhang_degrees = std::clamp(state.overhang_degrees + step, 5.0, 85.0);
         state.overhangs = true;
     });
-    host.Tell(Tr("Overhang limit: %1").arg(host.workspace.Format().Angle(host.workspace.GetViewState().overhang_degrees)));
+    host.Tell(
+        Tr("Overhang limit: %1")
+            .arg(host.workspace.Format().Angle(host.workspace.GetViewState().overhang_degrees)));
 }
 
 double SectionMiddle(const Host& host, int axis)
 {
-    const Box box = host.GetScene().SelectedCount() > 0 ? host.GetScene().Bounds(true) : host.GetScene().Bounds();
+    const Box box = host.GetScene().SelectedCount() > 0 ? host.GetScene().Bounds(true)
+                                                        : host.GetScene().Bounds();
     return box.Center()[axis];
 }
 
@@ -127,7 +135,8 @@ void SwitchSection(Host& host)
         // Switched on beside all parts it would show nothing: it starts in the middle.
         const Box box = host.GetScene().Bounds();
         const int axis = state.section.axis;
-        if (state.section.on && (state.section.at <= box.low[axis] || state.section.at >= box.high[axis]))
+        if (state.section.on &&
+            (state.section.at <= box.low[axis] || state.section.at >= box.high[axis]))
             state.section.at = SectionMiddle(host, axis);
     });
 }
@@ -159,17 +168,25 @@ template <int Sign> void MoveSection(Host& host)
 }
 
 const CommandSpec k_rows[] = {
-    {"Measure.Point", Need::VisibleParts, StartMeasuring<MeasureKind::Point>, IsMeasuring<MeasureKind::Point>},
-    {"Measure.Distance", Need::VisibleParts, StartMeasuring<MeasureKind::Distance>, IsMeasuring<MeasureKind::Distance>},
-    {"Measure.Angle", Need::VisibleParts, StartMeasuring<MeasureKind::Angle>, IsMeasuring<MeasureKind::Angle>},
-    {"Measure.Radius", Need::VisibleParts, StartMeasuring<MeasureKind::Radius>, IsMeasuring<MeasureKind::Radius>},
+    {"Measure.Point", Need::VisibleParts, StartMeasuring<MeasureKind::Point>,
+     IsMeasuring<MeasureKind::Point>},
+    {"Measure.Distance", Need::VisibleParts, StartMeasuring<MeasureKind::Distance>,
+     IsMeasuring<MeasureKind::Distance>},
+    {"Measure.Angle", Need::VisibleParts, StartMeasuring<MeasureKind::Angle>,
+     IsMeasuring<MeasureKind::Angle>},
+    {"Measure.Radius", Need::VisibleParts, StartMeasuring<MeasureKind::Radius>,
+     IsMeasuring<MeasureKind::Radius>},
     {"Measure.Size", Need::Selection, MeasureSize},
     {"Measure.Gap", Need::ExactlyTwo, MeasureGapOfTwo},
     {"Measure.Stop", Need::Measuring, [](Host& host) { host.workspace.StopMeasuring(); }},
-    {"Measure.SnapPoint", Need::Nothing, ToggleSnap<SnapMode::Points>, IsSnapping<SnapMode::Points>},
+    {"Measure.SnapPoint", Need::Nothing, ToggleSnap<SnapMode::Points>,
+     IsSnapping<SnapMode::Points>},
     {"Measure.SnapEdge", Need::Nothing, ToggleSnap<SnapMode::Edges>, IsSnapping<SnapMode::Edges>},
     {"Measure.RemoveLast", Need::Measurements,
-     [](Host& host) { host.workspace.RemoveMeasurement(static_cast<int>(host.workspace.Measurements().size()) - 1); }},
+     [](Host& host) {
+         host.workspace.RemoveMeasurement(static_cast<int>(host.workspace.Measurements().size()) -
+                                          1);
+     }},
     {"Measure.Clear", Need::Measurements, [](Host& host) { host.workspace.ClearMeasurements(); }},
     {"Measure.Copy", Need::Measurements, CopyMeasurements},
     {"Check.Run", Need::VisibleParts, RunChecks},
@@ -178,19 +195,31 @@ const CommandSpec k_rows[] = {
     {"Check.Overhang", Need::Nothing, Toggle<&ViewState::overhangs>, IsOn<&ViewState::overhangs>},
     {"Check.OverhangMore", Need::Nothing, [](Host& host) { ChangeOverhang(host, 5.0); }},
     {"Check.OverhangLess", Need::Nothing, [](Host& host) { ChangeOverhang(host, -5.0); }},
-    {"Check.OpenEdges", Need::Nothing, Toggle<&ViewState::open_edges>, IsOn<&ViewState::open_edges>},
-    {"Check.BackFaces", Need::Nothing, Toggle<&ViewState::back_faces>, IsOn<&ViewState::back_faces>},
-    {"Check.CenterOfMass", Need::Nothing, Toggle<&ViewState::center_of_mass>, IsOn<&ViewState::center_of_mass>},
-    {"Section.On", Need::VisibleParts, SwitchSection, [](const Host& host) { return host.workspace.GetViewState().section.on; }},
+    {"Check.OpenEdges", Need::Nothing, Toggle<&ViewState::open_edges>,
+     IsOn<&ViewState::open_edges>},
+    {"Check.BackFaces", Need::Nothing, Toggle<&ViewState::back_faces>,
+     IsOn<&ViewState::back_faces>},
+    {"Check.CenterOfMass", Need::Nothing, Toggle<&ViewState::center_of_mass>,
+     IsOn<&ViewState::center_of_mass>},
+    {"Section.On", Need::VisibleParts, SwitchSection,
+     [](const Host& host) { return host.workspace.GetViewState().section.on; }},
     {"Section.X", Need::VisibleParts, SetSectionAxis<0>, IsSectionAxis<0>},
     {"Section.Y", Need::VisibleParts, SetSectionAxis<1>, IsSectionAxis<1>},
     {"Section.Z", Need::VisibleParts, SetSectionAxis<2>, IsSectionAxis<2>},
-    {"Section.Flip", Need::Section, [](Host& host) { host.workspace.ChangeView([](ViewState& state) { state.section.flipped = !state.section.flipped; }); },
+    {"Section.Flip", Need::Section,
+     [](Host& host) {
+         host.workspace.ChangeView(
+             [](ViewState& state) { state.section.flipped = !state.section.flipped; });
+     },
      [](const Host& host) { return host.workspace.GetViewState().section.flipped; }},
     {"Section.Forward", Need::Section, MoveSection<1>},
     {"Section.Backward", Need::Section, MoveSection<-1>},
     {"Section.Center", Need::Section,
-     [](Host& host) { host.workspace.ChangeView([&host](ViewState& state) { state.section.at = SectionMiddle(host, state.section.axis); }); }},
+     [](Host& host) {
+         host.workspace.ChangeView([&host](ViewState& state) {
+             state.section.at = SectionMiddle(host, state.section.axis);
+         });
+     }},
 };
 
 } // namespace

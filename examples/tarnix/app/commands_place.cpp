@@ -16,7 +16,12 @@ QString Tr(const char* text)
 }
 
 /// Steps of one key are one undo step as long as nothing else comes between.
-enum MergeKey { MergeMove = 1, MergeTurn, MergeScale };
+enum MergeKey
+{
+    MergeMove = 1,
+    MergeTurn,
+    MergeScale
+};
 
 Vec3 SelectionCenter(const Host& host)
 {
@@ -61,7 +66,8 @@ template <int Axis, int Sign> void QuarterTurn(Host& host)
 
 template <int Sign> void TurnStep(Host& host)
 {
-    ApplyAboutCenter(host, Tr("Turn"), Transform::Rotation(2, host.workspace.turn_step * Sign), MergeTurn);
+    ApplyAboutCenter(host, Tr("Turn"), Transform::Rotation(2, host.workspace.turn_step * Sign),
+                     MergeTurn);
 }
 
 void ScaleAll(Host& host, const QString& title, double factor, int merge = 0)
@@ -76,7 +82,9 @@ template <int Axis> void MirrorAlong(Host& host)
 
 void Drop(Host& host)
 {
-    host.GetScene().EditSelected(Tr("Drop to Plate"), [](Part& part) { part.Apply(Transform::Translation(DropShift(part.Bounds()))); });
+    host.GetScene().EditSelected(Tr("Drop to Plate"), [](Part& part) {
+        part.Apply(Transform::Translation(DropShift(part.Bounds())));
+    });
 }
 
 void Center(Host& host)
@@ -96,7 +104,8 @@ void Arrange(Host& host)
                 boxes.push_back(part.Bounds());
             }
         }
-        const std::vector<Vec3> shifts = ArrangeOnPlate(boxes, host.GetScene().GetPlate(), host.workspace.arrange_gap);
+        const std::vector<Vec3> shifts =
+            ArrangeOnPlate(boxes, host.GetScene().GetPlate(), host.workspace.arrange_gap);
         for (size_t i = 0; i < movable.size(); ++i)
             movable[i]->Apply(Transform::Translation(shifts[i]));
         return !movable.empty();
@@ -109,28 +118,37 @@ void AskMove(Host& host)
                       {{Tr("Along X:"), 0, -5000, 5000, NumberField::Length},
                        {Tr("Along Y:"), 0, -5000, 5000, NumberField::Length},
                        {Tr("Along Z:"), 0, -5000, 5000, NumberField::Length}},
-                      host.workspace.Format(), [&host](const std::vector<double>& v) { MoveBy(host, Tr("Move"), {v[0], v[1], v[2]}); });
+                      host.workspace.Format(), [&host](const std::vector<double>& v) {
+                          MoveBy(host, Tr("Move"), {v[0], v[1], v[2]});
+                      });
 }
 
 void AskTurn(Host& host)
 {
-    NumberDialog::Ask(host.window, Tr("Turn By"), Tr("Turns about the middle of the selection: first about X, then Y, then Z."),
+    NumberDialog::Ask(host.window, Tr("Turn By"),
+                      Tr("Turns about the middle of the selection: first about X, then Y, then Z."),
                       {{Tr("About X:"), 0, -360, 360, NumberField::Degrees},
                        {Tr("About Y:"), 0, -360, 360, NumberField::Degrees},
                        {Tr("About Z:"), 0, -360, 360, NumberField::Degrees}},
                       host.workspace.Format(), [&host](const std::vector<double>& v) {
-                          ApplyAboutCenter(host, Tr("Turn"), Transform::Rotation(2, v[2]) * Transform::Rotation(1, v[1]) * Transform::Rotation(0, v[0]));
+                          ApplyAboutCenter(host, Tr("Turn"),
+                                           Transform::Rotation(2, v[2]) *
+                                               Transform::Rotation(1, v[1]) *
+                                               Transform::Rotation(0, v[0]));
                       });
 }
 
 void AskScale(Host& host)
 {
-    NumberDialog::Ask(host.window, Tr("Scale By"), Tr("Factors about the middle of the selection; 100 % is the present size."),
+    NumberDialog::Ask(host.window, Tr("Scale By"),
+                      Tr("Factors about the middle of the selection; 100 % is the present size."),
                       {{Tr("Along X:"), 100, 0.1, 10000, NumberField::Percent},
                        {Tr("Along Y:"), 100, 0.1, 10000, NumberField::Percent},
                        {Tr("Along Z:"), 100, 0.1, 10000, NumberField::Percent}},
                       host.workspace.Format(), [&host](const std::vector<double>& v) {
-                          ApplyAboutCenter(host, Tr("Scale"), Transform::Scaling({v[0] / 100, v[1] / 100, v[2] / 100}));
+                          ApplyAboutCenter(
+                              host, Tr("Scale"),
+                              Transform::Scaling({v[0] / 100, v[1] / 100, v[2] / 100}));
                       });
 }
 
@@ -141,7 +159,8 @@ void LayFlat(Host& host)
         if (bottom == Vec3{})
             return;
         const Vec3 normal = part.GetPlacement().MapNormal(bottom);
-        part.Apply(Transform::About(part.Bounds().Center(), Transform::RotationBetween(normal, {0, 0, -1})));
+        part.Apply(Transform::About(part.Bounds().Center(),
+                                    Transform::RotationBetween(normal, {0, 0, -1})));
         part.Apply(Transform::Translation(DropShift(part.Bounds())));
     });
 }
@@ -154,7 +173,9 @@ void Rebuild(Host& host, const QString& title, Transform (*keep)(const Transform
         const Box before = part.Bounds();
         part.SetPlacement(keep(part.GetPlacement()));
         const Box after = part.Bounds();
-        part.Apply(Transform::Translation({before.Center().x - after.Center().x, before.Center().y - after.Center().y, before.low.z - after.low.z}));
+        part.Apply(Transform::Translation({before.Center().x - after.Center().x,
+                                           before.Center().y - after.Center().y,
+                                           before.low.z - after.low.z}));
     });
 }
 
@@ -180,10 +201,14 @@ void FillPlate(Host& host)
     }
     const Vec3 size = box.Size();
     const Plate& plate = host.GetScene().GetPlate();
-    const auto ratio = [](double room, double length) { return length > 0.0 ? room / length : 1e9; };
-    const double factor = std::min({ratio(plate.width, size.x), ratio(plate.depth, size.y), ratio(plate.height, size.z), 1e4});
-    const Transform map = Transform::Translation({0, 0, size.z * factor / 2.0}) * Transform::Scaling({factor, factor, factor})
-        * Transform::Translation(-box.Center());
+    const auto ratio = [](double room, double length) {
+        return length > 0.0 ? room / length : 1e9;
+    };
+    const double factor = std::min(
+        {ratio(plate.width, size.x), ratio(plate.depth, size.y), ratio(plate.height, size.z), 1e4});
+    const Transform map = Transform::Translation({0, 0, size.z * factor / 2.0}) *
+                          Transform::Scaling({factor, factor, factor}) *
+                          Transform::Translation(-box.Center());
     host.GetScene().EditSelected(Tr("Fill the Plate"), [&map](Part& part) { part.Apply(map); });
 }
 
@@ -238,10 +263,14 @@ const CommandSpec k_place_rows[] = {
     {"Move.PastePlacement", Need::Placement,
      [](Host& host) {
          const Transform placement = *host.workspace.copied_placement;
-         host.GetScene().EditSelected(Tr("Paste Placement"), [&placement](Part& part) { part.SetPlacement(placement); });
+         host.GetScene().EditSelected(Tr("Paste Placement"),
+                                      [&placement](Part& part) { part.SetPlacement(placement); });
      }},
     {"Move.Reset", Need::Editable,
-     [](Host& host) { host.GetScene().EditSelected(Tr("Reset Placement"), [](Part& part) { part.SetPlacement(Transform()); }); }},
+     [](Host& host) {
+         host.GetScene().EditSelected(Tr("Reset Placement"),
+                                      [](Part& part) { part.SetPlacement(Transform()); });
+     }},
     {"Move.Bake", Need::Editable,
      [](Host& host) {
          host.GetScene().EditSelected(Tr("Work In"), [](Part& part) {
@@ -270,17 +299,23 @@ const CommandSpec k_turn_scale_rows[] = {
     {"Turn.ZMinus", Need::Editable, TurnStep<-1>},
     {"Turn.By", Need::Editable, AskTurn},
     {"Turn.LayFlat", Need::Editable, LayFlat},
-    {"Turn.Over", Need::Editable, [](Host& host) { ApplyAboutCenter(host, Tr("Turn Over"), Transform::Rotation(0, 180.0)); }},
-    {"Turn.Reset", Need::Editable, [](Host& host) { Rebuild(host, Tr("Reset Turn"), WithoutTurn); }},
+    {"Turn.Over", Need::Editable,
+     [](Host& host) { ApplyAboutCenter(host, Tr("Turn Over"), Transform::Rotation(0, 180.0)); }},
+    {"Turn.Reset", Need::Editable,
+     [](Host& host) { Rebuild(host, Tr("Reset Turn"), WithoutTurn); }},
     {"Scale.By", Need::Editable, AskScale},
     {"Scale.Up", Need::Editable, [](Host& host) { ScaleAll(host, Tr("Larger"), 1.1, MergeScale); }},
-    {"Scale.Down", Need::Editable, [](Host& host) { ScaleAll(host, Tr("Smaller"), 0.9, MergeScale); }},
+    {"Scale.Down", Need::Editable,
+     [](Host& host) { ScaleAll(host, Tr("Smaller"), 0.9, MergeScale); }},
     {"Scale.Double", Need::Editable, [](Host& host) { ScaleAll(host, Tr("Double"), 2.0); }},
     {"Scale.Half", Need::Editable, [](Host& host) { ScaleAll(host, Tr("Halve"), 0.5); }},
     {"Scale.ToFit", Need::Editable, FillPlate},
-    {"Scale.InchToMm", Need::Editable, [](Host& host) { ScaleAll(host, Tr("Inch to mm"), k_mm_per_inch); }},
-    {"Scale.MmToInch", Need::Editable, [](Host& host) { ScaleAll(host, Tr("mm to Inch"), 1.0 / k_mm_per_inch); }},
-    {"Scale.Reset", Need::Editable, [](Host& host) { Rebuild(host, Tr("Reset Scale"), WithoutScale); }},
+    {"Scale.InchToMm", Need::Editable,
+     [](Host& host) { ScaleAll(host, Tr("Inch to mm"), k_mm_per_inch); }},
+    {"Scale.MmToInch", Need::Editable,
+     [](Host& host) { ScaleAll(host, Tr("mm to Inch"), 1.0 / k_mm_per_inch); }},
+    {"Scale.Reset", Need::Editable,
+     [](Host& host) { Rebuild(host, Tr("Reset Scale"), WithoutScale); }},
     {"Mirror.X", Need::Editable, MirrorAlong<0>},
     {"Mirror.Y", Need::Editable, MirrorAlong<1>},
     {"Mirror.Z", Need::Editable, MirrorAlong<2>},

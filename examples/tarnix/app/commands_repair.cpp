@@ -32,7 +32,8 @@ QString TextOf(const RepairReport& report)
     QStringList parts;
     const auto add = [&parts](int count, const char* text) {
         if (count > 0)
-            parts.append(QCoreApplication::translate("tarnix::RepairCommands", text, nullptr, count));
+            parts.append(
+                QCoreApplication::translate("tarnix::RepairCommands", text, nullptr, count));
     };
     add(report.joined, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "points joined: %n"));
     add(report.removed, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "triangles removed: %n"));
@@ -74,7 +75,8 @@ void ChangeMeshes(Host& host, const QString& title, const std::function<Mesh(con
     size_t triangles = 0;
     for (const Part* part : host.GetScene().Selected())
         triangles += part->GetMesh()->Triangles().size();
-    host.Tell(QCoreApplication::translate("tarnix::RepairCommands", "Triangles now: %n", nullptr, static_cast<int>(triangles)));
+    host.Tell(QCoreApplication::translate("tarnix::RepairCommands", "Triangles now: %n", nullptr,
+                                          static_cast<int>(triangles)));
 }
 
 void Subdivide(Host& host)
@@ -86,21 +88,26 @@ void Subdivide(Host& host)
             return;
         }
     }
-    ChangeMeshes(host, Tr("Refine"), [](const Part& part) { return tarnix::Subdivide(*part.GetMesh()); });
+    ChangeMeshes(host, Tr("Refine"),
+                 [](const Part& part) { return tarnix::Subdivide(*part.GetMesh()); });
 }
 
 void AskSimplify(Host& host)
 {
     const Vec3 size = host.GetScene().Selected().front()->GetMesh()->Bounds().Size();
     NumberDialog::Ask(host.window, Tr("Simplify"), Tr("Details smaller than this are lost."),
-                      {{Tr("Fineness:"), std::max({size.x, size.y, size.z}) / 60.0, 0.01, 100.0, NumberField::Length}},
+                      {{Tr("Fineness:"), std::max({size.x, size.y, size.z}) / 60.0, 0.01, 100.0,
+                        NumberField::Length}},
                       host.workspace.Format(), [&host](const std::vector<double>& v) {
-                          ChangeMeshes(host, Tr("Simplify"), [&v](const Part& part) { return Simplify(*part.GetMesh(), v[0]); });
+                          ChangeMeshes(host, Tr("Simplify"), [&v](const Part& part) {
+                              return Simplify(*part.GetMesh(), v[0]);
+                          });
                       });
 }
 
 /// Replaces each selected part by several, made from its mesh; one piece changes nothing.
-void Replace(Host& host, const QString& title, const std::function<PartList(const Part&)>& pieces_of)
+void Replace(Host& host, const QString& title,
+             const std::function<PartList(const Part&)>& pieces_of)
 {
     const Busy busy;
     bool changed = false;
@@ -134,7 +141,8 @@ void Split(Host& host)
             return pieces;
         int number = 0;
         for (Mesh& mesh : SplitShells(*part.GetMesh())) {
-            Part piece(part.name + QStringLiteral(" %1").arg(number + 1), std::make_shared<const Mesh>(std::move(mesh)), PartColor(number));
+            Part piece(part.name + QStringLiteral(" %1").arg(number + 1),
+                       std::make_shared<const Mesh>(std::move(mesh)), PartColor(number));
             piece.SetPlacement(part.GetPlacement());
             piece.selected = true;
             pieces.push_back(std::move(piece));
@@ -203,32 +211,52 @@ PartList Halves(const Part& part, const Section& section, bool keep_below, bool 
 void Cut(Host& host, const QString& title, bool keep_below, bool keep_above)
 {
     const Section section = host.workspace.GetViewState().section;
-    Replace(host, title, [&](const Part& part) { return Halves(part, section, keep_below, keep_above); });
+    Replace(host, title,
+            [&](const Part& part) { return Halves(part, section, keep_below, keep_above); });
 }
 
 const CommandSpec k_rows[] = {
     {"Repair.All", Need::Editable, [](Host& host) { Repair(host, Tr("Repair"), RepairAll); }},
     {"Repair.Join", Need::Editable,
-     [](Host& host) { Repair(host, Tr("Join Points"), [](const Mesh& mesh, RepairReport& report) { return JoinPoints(mesh, 0.001, report); }); }},
+     [](Host& host) {
+         Repair(host, Tr("Join Points"), [](const Mesh& mesh, RepairReport& report) {
+             return JoinPoints(mesh, 0.001, report);
+         });
+     }},
     {"Repair.Clean", Need::Editable,
      [](Host& host) {
-         Repair(host, Tr("Clean"), [](const Mesh& mesh, RepairReport& report) { return RemoveDuplicates(RemoveDegenerate(mesh, report), report); });
+         Repair(host, Tr("Clean"), [](const Mesh& mesh, RepairReport& report) {
+             return RemoveDuplicates(RemoveDegenerate(mesh, report), report);
+         });
      }},
-    {"Repair.Orient", Need::Editable, [](Host& host) { Repair(host, Tr("Orient"), OrientNormals); }},
+    {"Repair.Orient", Need::Editable,
+     [](Host& host) { Repair(host, Tr("Orient"), OrientNormals); }},
     {"Repair.Flip", Need::Editable,
-     [](Host& host) { ChangeMeshes(host, Tr("Turn Inside Out"), [](const Part& part) { return FlipNormals(*part.GetMesh()); }); }},
-    {"Repair.CloseHoles", Need::Editable, [](Host& host) { Repair(host, Tr("Close Holes"), CloseHoles); }},
+     [](Host& host) {
+         ChangeMeshes(host, Tr("Turn Inside Out"),
+                      [](const Part& part) { return FlipNormals(*part.GetMesh()); });
+     }},
+    {"Repair.CloseHoles", Need::Editable,
+     [](Host& host) { Repair(host, Tr("Close Holes"), CloseHoles); }},
     {"Repair.Split", Need::Editable, Split},
     {"Repair.KeepLargest", Need::Editable,
-     [](Host& host) { ChangeMeshes(host, Tr("Keep Largest"), [](const Part& part) { return SplitShells(*part.GetMesh()).front(); }); }},
+     [](Host& host) {
+         ChangeMeshes(host, Tr("Keep Largest"),
+                      [](const Part& part) { return SplitShells(*part.GetMesh()).front(); });
+     }},
     {"Repair.Merge", Need::TwoEditable, MergeSelected},
     {"Mesh.Subdivide", Need::Editable, Subdivide},
     {"Mesh.Smooth", Need::Editable,
-     [](Host& host) { ChangeMeshes(host, Tr("Smooth"), [](const Part& part) { return Smooth(*part.GetMesh()); }); }},
+     [](Host& host) {
+         ChangeMeshes(host, Tr("Smooth"), [](const Part& part) { return Smooth(*part.GetMesh()); });
+     }},
     {"Mesh.Simplify", Need::Editable, AskSimplify},
-    {"Mesh.CutBelow", Need::SectionThroughPart, [](Host& host) { Cut(host, Tr("Keep Below"), true, false); }},
-    {"Mesh.CutAbove", Need::SectionThroughPart, [](Host& host) { Cut(host, Tr("Keep Above"), false, true); }},
-    {"Mesh.CutApart", Need::SectionThroughPart, [](Host& host) { Cut(host, Tr("Cut Apart"), true, true); }},
+    {"Mesh.CutBelow", Need::SectionThroughPart,
+     [](Host& host) { Cut(host, Tr("Keep Below"), true, false); }},
+    {"Mesh.CutAbove", Need::SectionThroughPart,
+     [](Host& host) { Cut(host, Tr("Keep Above"), false, true); }},
+    {"Mesh.CutApart", Need::SectionThroughPart,
+     [](Host& host) { Cut(host, Tr("Cut Apart"), true, true); }},
 };
 
 } // namespace

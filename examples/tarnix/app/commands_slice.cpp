@@ -67,16 +67,21 @@ void SetThickness(Host& host, double thickness)
 void AskThickness(Host& host)
 {
     NumberDialog::Ask(host.window, Tr("Layer Thickness"), QString(),
-                      {{Tr("Thickness:"), host.workspace.GetViewState().layers.thickness, 0.02, 5.0, NumberField::Length}},
-                      host.workspace.Format(), [&host](const std::vector<double>& v) { SetThickness(host, v[0]); });
+                      {{Tr("Thickness:"), host.workspace.GetViewState().layers.thickness, 0.02, 5.0,
+                        NumberField::Length}},
+                      host.workspace.Format(),
+                      [&host](const std::vector<double>& v) { SetThickness(host, v[0]); });
 }
 
 void AskLayer(Host& host)
 {
     const int count = host.workspace.Layers().Count();
-    NumberDialog::Ask(host.window, Tr("Go to Layer"), Tr("Layers are numbered from the plate, from 1 to %1.").arg(count),
-                      {{Tr("Layer:"), CurrentLayer(host) + 1.0, 1, double(count), NumberField::Count}}, host.workspace.Format(),
-                      [&host](const std::vector<double>& v) { host.workspace.GoToLayer(int(v[0]) - 1); });
+    NumberDialog::Ask(
+        host.window, Tr("Go to Layer"),
+        Tr("Layers are numbered from the plate, from 1 to %1.").arg(count),
+        {{Tr("Layer:"), CurrentLayer(host) + 1.0, 1, double(count), NumberField::Count}},
+        host.workspace.Format(),
+        [&host](const std::vector<double>& v) { host.workspace.GoToLayer(int(v[0]) - 1); });
 }
 
 void ChangeHatch(Host& host, double factor)
@@ -84,7 +89,9 @@ void ChangeHatch(Host& host, double factor)
     host.workspace.ChangeView([factor](ViewState& state) {
         state.layers.hatch_spacing = std::clamp(state.layers.hatch_spacing * factor, 0.2, 20.0);
     });
-    host.Tell(Tr("Hatch lines every %1").arg(host.workspace.Format().Length(host.workspace.GetViewState().layers.hatch_spacing)));
+    host.Tell(Tr("Hatch lines every %1")
+                  .arg(host.workspace.Format().Length(
+                      host.workspace.GetViewState().layers.hatch_spacing)));
 }
 
 void GoToFault(Host& host)
@@ -95,7 +102,8 @@ void GoToFault(Host& host)
     int found = -1;
     for (int step = 1; step <= layers.Count() && found < 0; ++step) {
         const int layer = (start + step) % layers.Count();
-        for (const auto& [part, slice] : SliceScene(host.GetScene().Parts(), layers.HeightOf(layer))) {
+        for (const auto& [part, slice] :
+             SliceScene(host.GetScene().Parts(), layers.HeightOf(layer))) {
             if (!slice.gaps.empty())
                 found = layer;
         }
@@ -112,8 +120,9 @@ void GoToFault(Host& host)
 QByteArray LayerDrawing(const Host& host, int layer)
 {
     const LayerOptions& options = host.workspace.GetViewState().layers;
-    return SliceSvg(SliceScene(host.GetScene().Parts(), host.workspace.Layers().HeightOf(layer)), host.GetScene().GetPlate(),
-                    options.hatched ? options.hatch_spacing : 0.0, options.DegreesOf(layer));
+    return SliceSvg(SliceScene(host.GetScene().Parts(), host.workspace.Layers().HeightOf(layer)),
+                    host.GetScene().GetPlate(), options.hatched ? options.hatch_spacing : 0.0,
+                    options.DegreesOf(layer));
 }
 
 QString LayerName(int layer)
@@ -124,10 +133,13 @@ QString LayerName(int layer)
 void ExportLayer(Host& host)
 {
     const int layer = CurrentLayer(host);
-    AskSavePath(host, Tr("Export Layer"), Tr("Drawings (*.svg)"), LayerName(layer), [&host, layer](const QString& path) {
-        if (WriteFile(host, path, LayerDrawing(host, layer)))
-            host.Tell(Tr("Layer %1 exported to %2.").arg(layer + 1).arg(QFileInfo(path).fileName()));
-    });
+    AskSavePath(
+        host, Tr("Export Layer"), Tr("Drawings (*.svg)"), LayerName(layer),
+        [&host, layer](const QString& path) {
+            if (WriteFile(host, path, LayerDrawing(host, layer)))
+                host.Tell(
+                    Tr("Layer %1 exported to %2.").arg(layer + 1).arg(QFileInfo(path).fileName()));
+        });
 }
 
 void ExportAll(Host& host)
@@ -136,10 +148,12 @@ void ExportAll(Host& host)
         const int count = host.workspace.Layers().Count();
         QApplication::setOverrideCursor(Qt::WaitCursor);
         int written = 0;
-        while (written < count && WriteFile(host, QDir(folder).filePath(LayerName(written)), LayerDrawing(host, written)))
+        while (written < count && WriteFile(host, QDir(folder).filePath(LayerName(written)),
+                                            LayerDrawing(host, written)))
             ++written;
         QApplication::restoreOverrideCursor();
-        host.Tell(QCoreApplication::translate("tarnix::SliceCommands", "Layers exported: %n", nullptr, written));
+        host.Tell(QCoreApplication::translate("tarnix::SliceCommands", "Layers exported: %n",
+                                              nullptr, written));
     });
 }
 
@@ -160,7 +174,8 @@ const CommandSpec k_rows[] = {
     {"Slice.Up10", Need::LayerAbove, Go<10>},
     {"Slice.Down10", Need::LayerBelow, Go<-10>},
     {"Slice.First", Need::LayerBelow, [](Host& host) { host.workspace.GoToLayer(0); }},
-    {"Slice.Last", Need::LayerAbove, [](Host& host) { host.workspace.GoToLayer(host.workspace.Layers().Count() - 1); }},
+    {"Slice.Last", Need::LayerAbove,
+     [](Host& host) { host.workspace.GoToLayer(host.workspace.Layers().Count() - 1); }},
     {"Slice.GoTo", Need::LayersShown, AskLayer},
     {"Slice.Play", Need::LayersShown,
      [](Host& host) {
@@ -170,18 +185,24 @@ const CommandSpec k_rows[] = {
          host.SetPlaying(!host.IsPlaying());
      },
      [](const Host& host) { return host.IsPlaying(); }},
-    {"Slice.Thicker", Need::Nothing, [](Host& host) { SetThickness(host, host.workspace.GetViewState().layers.thickness + 0.05); }},
-    {"Slice.Thinner", Need::Nothing, [](Host& host) { SetThickness(host, host.workspace.GetViewState().layers.thickness - 0.05); }},
+    {"Slice.Thicker", Need::Nothing,
+     [](Host& host) { SetThickness(host, host.workspace.GetViewState().layers.thickness + 0.05); }},
+    {"Slice.Thinner", Need::Nothing,
+     [](Host& host) { SetThickness(host, host.workspace.GetViewState().layers.thickness - 0.05); }},
     {"Slice.Thickness", Need::Nothing, AskThickness},
     {"Slice.Fill", Need::LayersShown, Toggle<&LayerOptions::filled>, IsOn<&LayerOptions::filled>},
-    {"Slice.Hatch", Need::LayersShown, Toggle<&LayerOptions::hatched>, IsOn<&LayerOptions::hatched>},
+    {"Slice.Hatch", Need::LayersShown, Toggle<&LayerOptions::hatched>,
+     IsOn<&LayerOptions::hatched>},
     {"Slice.HatchDenser", Need::Hatched, [](Host& host) { ChangeHatch(host, 0.8); }},
     {"Slice.HatchSparser", Need::Hatched, [](Host& host) { ChangeHatch(host, 1.25); }},
     {"Slice.HatchTurn", Need::Hatched,
      [](Host& host) {
-         host.workspace.ChangeView([](ViewState& state) { state.layers.hatch_degrees = std::fmod(state.layers.hatch_degrees + 15.0, 180.0); });
+         host.workspace.ChangeView([](ViewState& state) {
+             state.layers.hatch_degrees = std::fmod(state.layers.hatch_degrees + 15.0, 180.0);
+         });
      }},
-    {"Slice.HatchCross", Need::Hatched, Toggle<&LayerOptions::crossed>, IsOn<&LayerOptions::crossed>},
+    {"Slice.HatchCross", Need::Hatched, Toggle<&LayerOptions::crossed>,
+     IsOn<&LayerOptions::crossed>},
     {"Slice.Stack", Need::LayersShown, Toggle<&LayerOptions::stack>, IsOn<&LayerOptions::stack>},
     {"Slice.Fault", Need::LayersShown, GoToFault},
     {"Slice.ExportLayer", Need::LayersShown, ExportLayer},

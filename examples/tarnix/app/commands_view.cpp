@@ -30,7 +30,8 @@ template <DisplayMode Mode> void SetMode(Host& host)
 
 template <DisplayMode Mode> bool IsMode(const Host& host)
 {
-    return host.workspace.GetViewState().mode == Mode && !host.workspace.GetViewState().layers.shown;
+    return host.workspace.GetViewState().mode == Mode &&
+           !host.workspace.GetViewState().layers.shown;
 }
 
 template <bool ViewState::*Flag> void Toggle(Host& host)
@@ -74,8 +75,10 @@ const CommandSpec k_rows[] = {
     {"View.Previous", Need::FormerView, [](Host& host) { host.view->GoBack(); }},
     {"View.ZoomIn", Need::Nothing, [](Host& host) { host.view->Zoom(k_zoom); }},
     {"View.ZoomOut", Need::Nothing, [](Host& host) { host.view->Zoom(1.0 / k_zoom); }},
-    {"View.ZoomAll", Need::VisibleParts, [](Host& host) { host.view->ZoomTo(host.GetScene().Bounds()); }},
-    {"View.ZoomSelection", Need::Selection, [](Host& host) { host.view->ZoomTo(host.GetScene().Bounds(true)); }},
+    {"View.ZoomAll", Need::VisibleParts,
+     [](Host& host) { host.view->ZoomTo(host.GetScene().Bounds()); }},
+    {"View.ZoomSelection", Need::Selection,
+     [](Host& host) { host.view->ZoomTo(host.GetScene().Bounds(true)); }},
     {"View.ZoomPlate", Need::Nothing, [](Host& host) { host.view->ZoomTo(Box()); }},
     {"View.Perspective", Need::Nothing,
      [](Host& host) {
@@ -85,9 +88,12 @@ const CommandSpec k_rows[] = {
      [](const Host& host) { return host.view && host.view->GetCamera().perspective; }},
     {"Display.Shaded", Need::Nothing, SetMode<DisplayMode::Shaded>, IsMode<DisplayMode::Shaded>},
     {"Display.Edges", Need::Nothing, SetMode<DisplayMode::Edges>, IsMode<DisplayMode::Edges>},
-    {"Display.Triangles", Need::Nothing, SetMode<DisplayMode::Triangles>, IsMode<DisplayMode::Triangles>},
-    {"Display.Wireframe", Need::Nothing, SetMode<DisplayMode::Wireframe>, IsMode<DisplayMode::Wireframe>},
-    {"Display.Transparent", Need::Nothing, SetMode<DisplayMode::Transparent>, IsMode<DisplayMode::Transparent>},
+    {"Display.Triangles", Need::Nothing, SetMode<DisplayMode::Triangles>,
+     IsMode<DisplayMode::Triangles>},
+    {"Display.Wireframe", Need::Nothing, SetMode<DisplayMode::Wireframe>,
+     IsMode<DisplayMode::Wireframe>},
+    {"Display.Transparent", Need::Nothing, SetMode<DisplayMode::Transparent>,
+     IsMode<DisplayMode::Transparent>},
     {"Display.Boxes", Need::Nothing, SetMode<DisplayMode::Boxes>, IsMode<DisplayMode::Boxes>},
     {"Show.Plate", Need::Nothing, Toggle<&ViewState::plate>, IsOn<&ViewState::plate>},
     {"Show.Grid", Need::Nothing, Toggle<&ViewState::grid>, IsOn<&ViewState::grid>},
@@ -97,8 +103,10 @@ const CommandSpec k_rows[] = {
     {"Show.Bounds", Need::Nothing, Toggle<&ViewState::bounds>, IsOn<&ViewState::bounds>},
     {"Show.ViewCube", Need::Nothing, Toggle<&ViewState::view_cube>, IsOn<&ViewState::view_cube>},
     {"Show.Shadows", Need::Nothing, Toggle<&ViewState::shadows>, IsOn<&ViewState::shadows>},
-    {"Units.Mm", Need::Nothing, [](Host& host) { SetUnits(host, false); }, [](const Host& host) { return !host.settings.inches.GetData(); }},
-    {"Units.Inch", Need::Nothing, [](Host& host) { SetUnits(host, true); }, [](const Host& host) { return host.settings.inches.GetData(); }},
+    {"Units.Mm", Need::Nothing, [](Host& host) { SetUnits(host, false); },
+     [](const Host& host) { return !host.settings.inches.GetData(); }},
+    {"Units.Inch", Need::Nothing, [](Host& host) { SetUnits(host, true); },
+     [](const Host& host) { return host.settings.inches.GetData(); }},
 };
 
 } // namespace

@@ -65,8 +65,12 @@ const CommandSpec k_rows[] = {
     {"Window.Findings", Need::Nothing, TogglePage<k_findings>, IsPageShown<k_findings>},
     {"Window.Layers", Need::Nothing, TogglePage<k_layers>, IsPageShown<k_layers>},
     {"Window.History", Need::Nothing, TogglePage<k_history>, IsPageShown<k_history>},
-    {"Window.Dark", Need::Nothing, [](Host& host) { host.SetDark(!host.IsDark()); }, [](const Host& host) { return host.IsDark(); }},
-    {"Window.FullScreen", Need::Nothing, [](Host& host) { host.window->setWindowState(host.window->windowState() ^ Qt::WindowFullScreen); },
+    {"Window.Dark", Need::Nothing, [](Host& host) { host.SetDark(!host.IsDark()); },
+     [](const Host& host) { return host.IsDark(); }},
+    {"Window.FullScreen", Need::Nothing,
+     [](Host& host) {
+         host.window->setWindowState(host.window->windowState() ^ Qt::WindowFullScreen);
+     },
      [](const Host& host) { return host.window && host.window->isFullScreen(); }},
     {"Window.StatusBar", Need::Nothing,
      [](Host& host) {
@@ -80,12 +84,16 @@ const CommandSpec k_rows[] = {
     {"Help.CopyInfo", Need::Nothing,
      [](Host& host) {
          QApplication::clipboard()->setText(VersionText());
-         host.Tell(QCoreApplication::translate("tarnix::WindowCommands", "The version is on the clipboard."));
+         host.Tell(QCoreApplication::translate("tarnix::WindowCommands",
+                                               "The version is on the clipboard."));
      }},
     {"Help.About", Need::Nothing, [](Host& host) { host.window->ShowAbout(); }},
     {"Ui.Ribbon.Minimize.Button", Need::Nothing,
-     [](Host& host) { host.window->ribbonBar()->setMinimized(!host.window->ribbonBar()->isMinimized()); }},
-    {"Ui.Ribbon.System.Button", Need::Nothing, [](Host& host) { host.window->GetBackstage()->setVisible(true); }},
+     [](Host& host) {
+         host.window->ribbonBar()->setMinimized(!host.window->ribbonBar()->isMinimized());
+     }},
+    {"Ui.Ribbon.System.Button", Need::Nothing,
+     [](Host& host) { host.window->GetBackstage()->setVisible(true); }},
 };
 
 } // namespace

@@ -35,7 +35,8 @@ void PlaceNewParts(const Host& host, PartList& parts)
     std::vector<Box> boxes;
     for (const Part& part : parts)
         boxes.push_back(part.Bounds());
-    const std::vector<Vec3> shifts = ArrangeOnPlate(boxes, host.GetScene().GetPlate(), host.workspace.arrange_gap);
+    const std::vector<Vec3> shifts =
+        ArrangeOnPlate(boxes, host.GetScene().GetPlate(), host.workspace.arrange_gap);
     Box placed;
     for (size_t i = 0; i < parts.size(); ++i) {
         parts[i].Apply(Transform::Translation(shifts[i]));
@@ -109,16 +110,20 @@ bool ImportFiles(Host& host, const QStringList& paths)
     const int count = static_cast<int>(loaded.parts.size());
     if (count > 0) {
         PlaceNewParts(host, loaded.parts);
-        const QString title = count == 1 ? Tr("Add %1").arg(loaded.parts.front().name) : Tr("Add parts");
+        const QString title =
+            count == 1 ? Tr("Add %1").arg(loaded.parts.front().name) : Tr("Add parts");
         for (const Part& part : loaded.parts)
             host.AddRecent(part.file);
         host.GetScene().Add(title, std::move(loaded.parts));
         if (host.view)
             host.view->ZoomTo(host.GetScene().Bounds());
-        host.Tell(QCoreApplication::translate("tarnix::FileActions", "Parts added: %n", nullptr, count));
+        host.Tell(
+            QCoreApplication::translate("tarnix::FileActions", "Parts added: %n", nullptr, count));
     }
     if (!loaded.errors.isEmpty())
-        host.Warn(count > 0 ? Tr("Some files could not be read.") : Tr("The file could not be read; nothing was changed."), loaded.errors);
+        host.Warn(count > 0 ? Tr("Some files could not be read.")
+                            : Tr("The file could not be read; nothing was changed."),
+                  loaded.errors);
     return count > 0;
 }
 
@@ -128,7 +133,8 @@ bool OpenFilesNow(Host& host, const QStringList& paths)
         BuildFile::Result result = BuildFile::Load(paths.front());
         if (!result) {
             host.Warn(Tr("The build could not be opened; nothing was changed."),
-                      QStringList(QFileInfo(paths.front()).fileName() + QStringLiteral(": ") + result.error));
+                      QStringList(QFileInfo(paths.front()).fileName() + QStringLiteral(": ") +
+                                  result.error));
             return false;
         }
         host.GetScene().SetPlate(result.plate);
@@ -143,7 +149,9 @@ bool OpenFilesNow(Host& host, const QStringList& paths)
     // Read first: when no file is good, the present build stays.
     Loaded loaded = ReadParts(host, paths);
     if (!loaded.errors.isEmpty())
-        host.Warn(loaded.parts.empty() ? Tr("The file could not be read; nothing was changed.") : Tr("Some files could not be read."), loaded.errors);
+        host.Warn(loaded.parts.empty() ? Tr("The file could not be read; nothing was changed.")
+                                       : Tr("Some files could not be read."),
+                  loaded.errors);
     if (loaded.parts.empty())
         return false;
     host.GetScene().Reset({});
@@ -170,7 +178,8 @@ void OpenFiles(Host& host, const QStringList& paths)
 
 bool SaveBuild(Host& host, const QString& path)
 {
-    const QString error = BuildFile::Save(path, host.GetScene().Parts(), host.GetScene().GetPlate());
+    const QString error =
+        BuildFile::Save(path, host.GetScene().Parts(), host.GetScene().GetPlate());
     if (!error.isEmpty()) {
         host.Warn(Tr("The build could not be saved."), QStringList(error));
         return false;
@@ -189,12 +198,14 @@ void UnlessUnsaved(Host& host, const QString& yes_text, const std::function<void
         next();
         return;
     }
-    host.Ask(Tr("The build \"%1\" has not been saved.").arg(host.workspace.BuildName()), yes_text, next);
+    host.Ask(Tr("The build \"%1\" has not been saved.").arg(host.workspace.BuildName()), yes_text,
+             next);
 }
 
 void AddSample(Host& host, const QString& file_name, const QString& title)
 {
-    const StlReader::Result result = StlReader::ReadFile(QStringLiteral(":/tarnix/samples/") + file_name);
+    const StlReader::Result result =
+        StlReader::ReadFile(QStringLiteral(":/tarnix/samples/") + file_name);
     if (!result) {
         host.Warn(Tr("The sample part could not be read."), QStringList(result.error));
         return;
@@ -206,7 +217,8 @@ void AddSample(Host& host, const QString& file_name, const QString& title)
         host.view->ZoomTo(host.GetScene().Bounds());
 }
 
-void AskOpenPaths(Host& host, const QString& title, const QString& filter, const std::function<void(const QStringList&)>& paths)
+void AskOpenPaths(Host& host, const QString& title, const QString& filter,
+                  const std::function<void(const QStringList&)>& paths)
 {
     auto* dialog = new QFileDialog(host.window, title, host.settings.folder.GetData(), filter);
     dialog->setFileMode(QFileDialog::ExistingFiles);
@@ -222,10 +234,11 @@ void AskSavePath(Host& host, const QString& title, const QString& filter, const 
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setDefaultSuffix(QFileInfo(suggestion).suffix());
     dialog->selectFile(suggestion);
-    QObject::connect(dialog, &QFileDialog::fileSelected, &host, [&host, path](const QString& chosen) {
-        Remember(host, chosen);
-        path(chosen);
-    });
+    QObject::connect(dialog, &QFileDialog::fileSelected, &host,
+                     [&host, path](const QString& chosen) {
+                         Remember(host, chosen);
+                         path(chosen);
+                     });
     Show(dialog);
 }
 
@@ -246,7 +259,9 @@ bool WriteFile(Host& host, const QString& path, const QByteArray& bytes)
         if (file.commit())
             return true;
     }
-    host.Warn(Tr("The file could not be written."), QStringList(QDir::toNativeSeparators(path) + QStringLiteral(": ") + file.errorString()));
+    host.Warn(
+        Tr("The file could not be written."),
+        QStringList(QDir::toNativeSeparators(path) + QStringLiteral(": ") + file.errorString()));
     return false;
 }
 

@@ -25,7 +25,8 @@ void UnlessUnsaved(Host& host, const QString& yes_text, const std::function<void
 void AddSample(Host& host, const QString& file_name, const QString& title);
 
 /// A file dialog that does not block. `path` is called with the choice.
-void AskOpenPaths(Host& host, const QString& title, const QString& filter, const std::function<void(const QStringList&)>& paths);
+void AskOpenPaths(Host& host, const QString& title, const QString& filter,
+                  const std::function<void(const QStringList&)>& paths);
 void AskSavePath(Host& host, const QString& title, const QString& filter, const QString& suggestion,
                  const std::function<void(const QString&)>& path);
 void AskFolder(Host& host, const QString& title, const std::function<void(const QString&)>& path);

@@ -56,22 +56,30 @@ void ShowPage(Host& host, const QString& name, const QString& title, const QStri
 void ShowHelp(Host& host)
 {
     QFile page(QStringLiteral(":/tarnix/help.html"));
-    const QString html = page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
+    const QString html =
+        page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
     ShowPage(host, QStringLiteral("helpWindow"), Tr("Help"), html);
 }
 
 void ShowKeys(Host& host)
 {
-    QString html = QStringLiteral("<h2>%1</h2><table cellspacing=\"0\" cellpadding=\"4\">").arg(Tr("Keys"));
+    QString html =
+        QStringLiteral("<h2>%1</h2><table cellspacing=\"0\" cellpadding=\"4\">").arg(Tr("Keys"));
     ovk::UiLayout* layout = ovk::UiController::GetInstance()->GetActiveLayout();
-    const auto* suite = layout ? dynamic_cast<ovk::UiStateShortcuts*>(layout->GetState(ovk::UiStateShortcuts::GetSuiteName())) : nullptr;
+    const auto* suite = layout ? dynamic_cast<ovk::UiStateShortcuts*>(
+                                     layout->GetState(ovk::UiStateShortcuts::GetSuiteName()))
+                               : nullptr;
     for (int i = 0; suite && i < suite->GetCount(); ++i) {
         const auto* binding = dynamic_cast<const ovk::UiShortcutBinding*>(suite->GetItem(i));
-        ovk::UiCommand* command = !binding ? nullptr : ovk::UiFeaturesController::GetInstance()->GetLayoutCommandFromActiveLayout(binding->GetName(), 0);
+        ovk::UiCommand* command =
+            !binding ? nullptr
+                     : ovk::UiFeaturesController::GetInstance()->GetLayoutCommandFromActiveLayout(
+                           binding->GetName(), 0);
         if (!command || binding->GetShortcut().isEmpty())
             continue;
         html += QStringLiteral("<tr><td width=\"170\"><b>%1</b></td><td>%2</td></tr>")
-                    .arg(binding->GetShortcut().toString(QKeySequence::NativeText).toHtmlEscaped(), command->GetTitle().toHtmlEscaped());
+                    .arg(binding->GetShortcut().toString(QKeySequence::NativeText).toHtmlEscaped(),
+                         command->GetTitle().toHtmlEscaped());
     }
     ShowPage(host, QStringLiteral("keysWindow"), Tr("Keys"), html + QStringLiteral("</table>"));
 }
@@ -79,7 +87,8 @@ void ShowKeys(Host& host)
 QString VersionText()
 {
     return QStringLiteral("%1 %2\nQt %3\n%4")
-        .arg(QApplication::applicationDisplayName(), ovk::Application::GetInstance().GetVersionInfo().ToString(),
+        .arg(QApplication::applicationDisplayName(),
+             ovk::Application::GetInstance().GetVersionInfo().ToString(),
              QString::fromLatin1(qVersion()), QSysInfo::prettyProductName());
 }
 

@@ -25,7 +25,8 @@ constexpr int k_dark_theme = Qtitan::OfficeStyle::Office2013Dark;
 
 } // namespace
 
-Host::Host(Workspace& the_workspace, Settings& the_settings) : workspace(the_workspace), settings(the_settings)
+Host::Host(Workspace& the_workspace, Settings& the_settings)
+    : workspace(the_workspace), settings(the_settings)
 {
     m_update.setSingleShot(true);
     m_update.setInterval(0);
@@ -35,7 +36,8 @@ Host::Host(Workspace& the_workspace, Settings& the_settings) : workspace(the_wor
     });
     m_play.setInterval(60);
     connect(&m_play, &QTimer::timeout, this, [this] {
-        const int next = workspace.GetViewState().layers.current + std::max(1, workspace.Layers().Count() / 120);
+        const int next =
+            workspace.GetViewState().layers.current + std::max(1, workspace.Layers().Count() / 120);
         if (next >= workspace.Layers().Count())
             SetPlaying(false);
         workspace.GoToLayer(next);
@@ -73,7 +75,8 @@ void Host::Refresh()
         ++facts.editable;
         facts.with_file += !part.file.isEmpty();
         const Box& box = part.Bounds();
-        if (state.section.at > box.low[state.section.axis] && state.section.at < box.high[state.section.axis])
+        if (state.section.at > box.low[state.section.axis] &&
+            state.section.at < box.high[state.section.axis])
             facts.section_cuts = state.section.on;
     }
     facts.layers = workspace.Layers().Count();
@@ -115,7 +118,8 @@ void Host::Warn(const QString& text, const QStringList& details)
             std::fprintf(stderr, "  %s\n", qPrintable(line));
         return;
     }
-    auto* box = new QMessageBox(QMessageBox::Warning, QApplication::applicationDisplayName(), text, QMessageBox::Ok, window);
+    auto* box = new QMessageBox(QMessageBox::Warning, QApplication::applicationDisplayName(), text,
+                                QMessageBox::Ok, window);
     box->setObjectName(QStringLiteral("warning"));
     box->setInformativeText(details.join(QLatin1Char('\n')));
     box->setAttribute(Qt::WA_DeleteOnClose);
@@ -128,7 +132,8 @@ void Host::Ask(const QString& question, const QString& yes_text, const std::func
         yes();
         return;
     }
-    auto* box = new QMessageBox(QMessageBox::Question, QApplication::applicationDisplayName(), question, QMessageBox::Cancel, window);
+    auto* box = new QMessageBox(QMessageBox::Question, QApplication::applicationDisplayName(),
+                                question, QMessageBox::Cancel, window);
     box->setObjectName(QStringLiteral("question"));
     box->setAttribute(Qt::WA_DeleteOnClose);
     QPushButton* button = box->addButton(yes_text, QMessageBox::AcceptRole);
@@ -169,8 +174,9 @@ void Host::ApplySettings()
     workspace.density = settings.density;
     workspace.snap_to_grid = settings.snap_to_grid;
     GetScene().SetPlate({settings.plate_width, settings.plate_depth, settings.plate_height});
-    ovk::UnitsController::SetCurrentUnits(settings.inches ? static_cast<const ovk::IUnits&>(ovk::UnitsInch::GetInstance())
-                                                          : ovk::UnitsMM::GetInstance());
+    ovk::UnitsController::SetCurrentUnits(
+        settings.inches ? static_cast<const ovk::IUnits&>(ovk::UnitsInch::GetInstance())
+                        : ovk::UnitsMM::GetInstance());
     workspace.SetFormat(Formatter(settings.inches ? LengthUnit::Inch : LengthUnit::Millimetre));
     workspace.ChangeView([this](ViewState& state) {
         state.mode = static_cast<DisplayMode>(settings.display.GetData());
@@ -186,8 +192,10 @@ void Host::ApplySettings()
     });
     using Qtitan::OfficeStyle;
     ovk::RibbonWindowSettings::GroupTitleVisible().SetData(settings.group_titles);
-    ovk::RibbonWindowSettings::OfficeTheme().SetData(static_cast<OfficeStyle::Theme>(settings.theme.GetData()));
-    ovk::RibbonWindowSettings::AccentColor().SetData(static_cast<OfficeStyle::AccentColor>(settings.accent.GetData()));
+    ovk::RibbonWindowSettings::OfficeTheme().SetData(
+        static_cast<OfficeStyle::Theme>(settings.theme.GetData()));
+    ovk::RibbonWindowSettings::AccentColor().SetData(
+        static_cast<OfficeStyle::AccentColor>(settings.accent.GetData()));
     if (window)
         window->ApplySettings();
     RequestUpdate();

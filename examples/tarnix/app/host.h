@@ -23,10 +23,10 @@ struct Facts
     int parts = 0;
     int visible = 0;
     int selected = 0;
-    int editable = 0;         ///< selected and not locked
+    int editable = 0; ///< selected and not locked
     int hidden = 0;
     int locked = 0;
-    int with_file = 0;        ///< editable ones that came from a file
+    int with_file = 0; ///< editable ones that came from a file
     int layers = 0;
     int layer = 0;
     int measurements = 0;
@@ -40,9 +40,9 @@ struct Facts
     bool undo = false;
     bool redo = false;
     bool recent = false;
-    bool back = false;        ///< a former view is remembered
+    bool back = false; ///< a former view is remembered
     bool playing = false;
-    int findings = 0;         ///< findings that name a part
+    int findings = 0; ///< findings that name a part
 };
 
 /// Binds the parts of the program together for its commands: what is worked on, where it is seen,

@@ -21,35 +21,66 @@ struct NeedRow
 
 constexpr NeedRow k_needs[] = {
     {Need::Nothing, [](const Facts&) { return true; }, ""},
-    {Need::Parts, [](const Facts& f) { return f.parts > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "There is no part on the plate.")},
-    {Need::VisibleParts, [](const Facts& f) { return f.visible > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "There is no visible part on the plate.")},
-    {Need::Selection, [](const Facts& f) { return f.selected > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "Select a part first.")},
-    {Need::Editable, [](const Facts& f) { return f.editable > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "Select a part that is not locked.")},
-    {Need::OneSelected, [](const Facts& f) { return f.selected == 1; }, QT_TRANSLATE_NOOP("tarnix::Need", "Select exactly one part.")},
-    {Need::OneEditable, [](const Facts& f) { return f.selected == 1 && f.editable == 1; }, QT_TRANSLATE_NOOP("tarnix::Need", "Select exactly one part that is not locked.")},
-    {Need::TwoSelected, [](const Facts& f) { return f.selected >= 2; }, QT_TRANSLATE_NOOP("tarnix::Need", "Select at least two parts.")},
-    {Need::ExactlyTwo, [](const Facts& f) { return f.selected == 2; }, QT_TRANSLATE_NOOP("tarnix::Need", "Select exactly two parts.")},
-    {Need::TwoEditable, [](const Facts& f) { return f.editable >= 2; }, QT_TRANSLATE_NOOP("tarnix::Need", "Select at least two parts that are not locked.")},
-    {Need::ThreeEditable, [](const Facts& f) { return f.editable >= 3; }, QT_TRANSLATE_NOOP("tarnix::Need", "Select at least three parts that are not locked.")},
-    {Need::EditableWithFile, [](const Facts& f) { return f.with_file > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "Select a part that came from a file and is not locked.")},
-    {Need::Hidden, [](const Facts& f) { return f.hidden > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "No part is hidden.")},
-    {Need::Locked, [](const Facts& f) { return f.locked > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "No part is locked.")},
-    {Need::Undo, [](const Facts& f) { return f.undo; }, QT_TRANSLATE_NOOP("tarnix::Need", "There is no step to take back.")},
-    {Need::Redo, [](const Facts& f) { return f.redo; }, QT_TRANSLATE_NOOP("tarnix::Need", "No step was taken back.")},
-    {Need::ClipboardParts, [](const Facts& f) { return f.clipboard; }, QT_TRANSLATE_NOOP("tarnix::Need", "There are no parts on the clipboard.")},
-    {Need::Placement, [](const Facts& f) { return f.placement && f.editable > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "Copy a placement first, then select a part that is not locked.")},
-    {Need::Section, [](const Facts& f) { return f.section; }, QT_TRANSLATE_NOOP("tarnix::Need", "Switch the section on first.")},
-    {Need::SectionThroughPart, [](const Facts& f) { return f.section_cuts; }, QT_TRANSLATE_NOOP("tarnix::Need", "Let the section run through a selected part that is not locked.")},
-    {Need::Layers, [](const Facts& f) { return f.layers > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "There is no visible part to slice.")},
-    {Need::LayersShown, [](const Facts& f) { return f.layers_shown && f.layers > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "Show the layers first.")},
-    {Need::LayerAbove, [](const Facts& f) { return f.layers_shown && f.layer + 1 < f.layers; }, QT_TRANSLATE_NOOP("tarnix::Need", "Show the layers first; there must be one above.")},
-    {Need::LayerBelow, [](const Facts& f) { return f.layers_shown && f.layer > 0 && f.layers > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "Show the layers first; there must be one below.")},
-    {Need::Hatched, [](const Facts& f) { return f.layers_shown && f.hatched && f.layers > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "Show the layers and hatch them first.")},
-    {Need::Measurements, [](const Facts& f) { return f.measurements > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "Nothing has been measured yet.")},
-    {Need::Measuring, [](const Facts& f) { return f.measuring; }, QT_TRANSLATE_NOOP("tarnix::Need", "No measuring is under way.")},
-    {Need::Findings, [](const Facts& f) { return f.findings > 0; }, QT_TRANSLATE_NOOP("tarnix::Need", "Check the build first; nothing was found so far.")},
-    {Need::Recent, [](const Facts& f) { return f.recent; }, QT_TRANSLATE_NOOP("tarnix::Need", "There are no recent files.")},
-    {Need::FormerView, [](const Facts& f) { return f.back; }, QT_TRANSLATE_NOOP("tarnix::Need", "The view has not been changed yet.")},
+    {Need::Parts, [](const Facts& f) { return f.parts > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "There is no part on the plate.")},
+    {Need::VisibleParts, [](const Facts& f) { return f.visible > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "There is no visible part on the plate.")},
+    {Need::Selection, [](const Facts& f) { return f.selected > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Select a part first.")},
+    {Need::Editable, [](const Facts& f) { return f.editable > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Select a part that is not locked.")},
+    {Need::OneSelected, [](const Facts& f) { return f.selected == 1; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Select exactly one part.")},
+    {Need::OneEditable, [](const Facts& f) { return f.selected == 1 && f.editable == 1; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Select exactly one part that is not locked.")},
+    {Need::TwoSelected, [](const Facts& f) { return f.selected >= 2; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Select at least two parts.")},
+    {Need::ExactlyTwo, [](const Facts& f) { return f.selected == 2; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Select exactly two parts.")},
+    {Need::TwoEditable, [](const Facts& f) { return f.editable >= 2; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Select at least two parts that are not locked.")},
+    {Need::ThreeEditable, [](const Facts& f) { return f.editable >= 3; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Select at least three parts that are not locked.")},
+    {Need::EditableWithFile, [](const Facts& f) { return f.with_file > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Select a part that came from a file and is not locked.")},
+    {Need::Hidden, [](const Facts& f) { return f.hidden > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "No part is hidden.")},
+    {Need::Locked, [](const Facts& f) { return f.locked > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "No part is locked.")},
+    {Need::Undo, [](const Facts& f) { return f.undo; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "There is no step to take back.")},
+    {Need::Redo, [](const Facts& f) { return f.redo; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "No step was taken back.")},
+    {Need::ClipboardParts, [](const Facts& f) { return f.clipboard; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "There are no parts on the clipboard.")},
+    {Need::Placement, [](const Facts& f) { return f.placement && f.editable > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need",
+                       "Copy a placement first, then select a part that is not locked.")},
+    {Need::Section, [](const Facts& f) { return f.section; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Switch the section on first.")},
+    {Need::SectionThroughPart, [](const Facts& f) { return f.section_cuts; },
+     QT_TRANSLATE_NOOP("tarnix::Need",
+                       "Let the section run through a selected part that is not locked.")},
+    {Need::Layers, [](const Facts& f) { return f.layers > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "There is no visible part to slice.")},
+    {Need::LayersShown, [](const Facts& f) { return f.layers_shown && f.layers > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Show the layers first.")},
+    {Need::LayerAbove, [](const Facts& f) { return f.layers_shown && f.layer + 1 < f.layers; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Show the layers first; there must be one above.")},
+    {Need::LayerBelow, [](const Facts& f) { return f.layers_shown && f.layer > 0 && f.layers > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Show the layers first; there must be one below.")},
+    {Need::Hatched, [](const Facts& f) { return f.layers_shown && f.hatched && f.layers > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Show the layers and hatch them first.")},
+    {Need::Measurements, [](const Facts& f) { return f.measurements > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Nothing has been measured yet.")},
+    {Need::Measuring, [](const Facts& f) { return f.measuring; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "No measuring is under way.")},
+    {Need::Findings, [](const Facts& f) { return f.findings > 0; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "Check the build first; nothing was found so far.")},
+    {Need::Recent, [](const Facts& f) { return f.recent; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "There are no recent files.")},
+    {Need::FormerView, [](const Facts& f) { return f.back; },
+     QT_TRANSLATE_NOOP("tarnix::Need", "The view has not been changed yet.")},
 };
 
 const NeedRow& RowOf(Need need)
@@ -67,7 +98,8 @@ bool IsMet(Need need, const Facts& facts)
 
 QString ReasonOf(Need need)
 {
-    return need == Need::Nothing ? QString() : QCoreApplication::translate("tarnix::Need", RowOf(need).reason);
+    return need == Need::Nothing ? QString()
+                                 : QCoreApplication::translate("tarnix::Need", RowOf(need).reason);
 }
 
 HostCommand::HostCommand(const CommandSpec& spec, Host& host)
@@ -91,7 +123,8 @@ void HostCommand::_DoUpdateUi(const ovk::UpdatableContext& context)
 {
     const bool enabled = IsMet(m_spec.need, static_cast<const HostContext&>(context).GetFacts());
     const QByteArray translation_context = "commands." + GetId().toUtf8();
-    QString tooltip = QCoreApplication::translate(translation_context.constData(), m_tooltip.toUtf8().constData(), "tooltip");
+    QString tooltip = QCoreApplication::translate(translation_context.constData(),
+                                                  m_tooltip.toUtf8().constData(), "tooltip");
     if (!enabled)
         tooltip += QStringLiteral("\n\n") + ReasonOf(m_spec.need);
     if (tooltip != toolTip())
@@ -114,7 +147,9 @@ void RecentFileCommand::Follow()
     const QString path = m_host.RecentFiles().value(m_index);
     SetIsVisual(!path.isEmpty());
     SetStrings(QFileInfo(path).fileName(), QDir::toNativeSeparators(path),
-               QCoreApplication::translate("tarnix::RecentFileCommand", "Open %1").arg(QDir::toNativeSeparators(path)), false, false, false);
+               QCoreApplication::translate("tarnix::RecentFileCommand", "Open %1")
+                   .arg(QDir::toNativeSeparators(path)),
+               false, false, false);
 }
 
 void RecentFileCommand::_DoExecute()

@@ -19,11 +19,23 @@ public:
     quint64 GetPartsOnActiveDataSet() const override { return Count(GetFacts().parts); }
     quint64 GetSlicesOnActiveDataSet() const override { return Count(GetFacts().layers); }
     quint64 GetSelectedPartsOnActiveDataSet() const override { return Count(GetFacts().selected); }
-    quint64 GetSelectedSlicesOnActiveDataSet() const override { return GetFacts().layers_shown && GetFacts().layers > 0 ? 1 : 0; }
-    quint64 GetPartsOnModelerSet() const override { return Count(GetFacts().parts - GetFacts().locked); }
-    quint64 GetSlicesOnModelerSet() const override { return GetFacts().layers_shown ? Count(GetFacts().layers) : 0; }
+    quint64 GetSelectedSlicesOnActiveDataSet() const override
+    {
+        return GetFacts().layers_shown && GetFacts().layers > 0 ? 1 : 0;
+    }
+    quint64 GetPartsOnModelerSet() const override
+    {
+        return Count(GetFacts().parts - GetFacts().locked);
+    }
+    quint64 GetSlicesOnModelerSet() const override
+    {
+        return GetFacts().layers_shown ? Count(GetFacts().layers) : 0;
+    }
     quint64 GetSelectedPartsOnModelerSet() const override { return Count(GetFacts().editable); }
-    quint64 GetSelectedSlicesOnModelerSet() const override { return GetSelectedSlicesOnActiveDataSet(); }
+    quint64 GetSelectedSlicesOnModelerSet() const override
+    {
+        return GetSelectedSlicesOnActiveDataSet();
+    }
 
 private:
     static quint64 Count(int value) { return static_cast<quint64>(value > 0 ? value : 0); }

@@ -31,7 +31,8 @@
 namespace {
 
 const QStringList k_products{QStringLiteral("Tarnix"), QStringLiteral("Tarnix Lite")};
-const QStringList k_layouts{QStringLiteral("Prepare"), QStringLiteral("Inspect"), QStringLiteral("Slice")};
+const QStringList k_layouts{QStringLiteral("Prepare"), QStringLiteral("Inspect"),
+                            QStringLiteral("Slice")};
 
 struct Options
 {
@@ -95,14 +96,31 @@ Options ReadOptions(const QApplication& application)
     parser.setApplicationDescription(QStringLiteral("Prepares parts for 3D printing."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption product(QStringLiteral("product"), QStringLiteral("The product: \"Tarnix\" or \"Tarnix Lite\"."), QStringLiteral("name"), k_products.front());
-    const QCommandLineOption layout(QStringLiteral("layout"), QStringLiteral("The layout to start with: Prepare, Inspect or Slice."), QStringLiteral("name"));
-    const QCommandLineOption data(QStringLiteral("data-dir"), QStringLiteral("Keeps preferences and profiles below this folder."), QStringLiteral("folder"));
-    const QCommandLineOption tour(QStringLiteral("tour"), QStringLiteral("Goes through the program by itself and leaves pictures in this folder."), QStringLiteral("folder"));
-    const QCommandLineOption dump(QStringLiteral("dump-ui"), QStringLiteral("Keeps a description of the window in this file, for tests."), QStringLiteral("file"));
-    const QCommandLineOption paint(QStringLiteral("exit-after-paint"), QStringLiteral("Ends after the first painted window, to measure a start."));
+    const QCommandLineOption product(QStringLiteral("product"),
+                                     QStringLiteral("The product: \"Tarnix\" or \"Tarnix Lite\"."),
+                                     QStringLiteral("name"), k_products.front());
+    const QCommandLineOption layout(
+        QStringLiteral("layout"),
+        QStringLiteral("The layout to start with: Prepare, Inspect or Slice."),
+        QStringLiteral("name"));
+    const QCommandLineOption data(
+        QStringLiteral("data-dir"),
+        QStringLiteral("Keeps preferences and profiles below this folder."),
+        QStringLiteral("folder"));
+    const QCommandLineOption tour(
+        QStringLiteral("tour"),
+        QStringLiteral("Goes through the program by itself and leaves pictures in this folder."),
+        QStringLiteral("folder"));
+    const QCommandLineOption dump(
+        QStringLiteral("dump-ui"),
+        QStringLiteral("Keeps a description of the window in this file, for tests."),
+        QStringLiteral("file"));
+    const QCommandLineOption paint(
+        QStringLiteral("exit-after-paint"),
+        QStringLiteral("Ends after the first painted window, to measure a start."));
     parser.addOptions({product, layout, data, tour, dump, paint});
-    parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("STL files or a build."), QStringLiteral("[files...]"));
+    parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("STL files or a build."),
+                                 QStringLiteral("[files...]"));
     parser.process(application);
     Options options;
     options.product = parser.value(product);
@@ -112,15 +130,18 @@ Options ReadOptions(const QApplication& application)
     options.exit_after_paint = parser.isSet(paint);
     options.files = parser.positionalArguments();
     if (!k_products.contains(options.product))
-        Refuse(QStringLiteral("there is no product \"%1\"; there are: %2").arg(options.product, k_products.join(QStringLiteral(", "))));
+        Refuse(QStringLiteral("there is no product \"%1\"; there are: %2")
+                   .arg(options.product, k_products.join(QStringLiteral(", "))));
     if (!options.layout.isEmpty() && !k_layouts.contains(options.layout))
-        Refuse(QStringLiteral("there is no layout \"%1\"; there are: %2").arg(options.layout, k_layouts.join(QStringLiteral(", "))));
+        Refuse(QStringLiteral("there is no layout \"%1\"; there are: %2")
+                   .arg(options.layout, k_layouts.join(QStringLiteral(", "))));
     return options;
 }
 
 bool AskToCarryOver(const QString& what)
 {
-    return QMessageBox::question(nullptr, QApplication::applicationDisplayName(), what) == QMessageBox::Yes;
+    return QMessageBox::question(nullptr, QApplication::applicationDisplayName(), what) ==
+           QMessageBox::Yes;
 }
 
 void SetUpControllers(const Options& options)
@@ -130,13 +151,17 @@ void SetUpControllers(const Options& options)
     preferences->SetLogger(log);
     preferences->SetUserQuery([] {
         constexpr int k_take_over = 4;
-        return AskToCarryOver(QApplication::translate("tarnix::Start", "Take over the options of the version before?")) ? k_take_over : 0;
+        return AskToCarryOver(QApplication::translate(
+                   "tarnix::Start", "Take over the options of the version before?"))
+                   ? k_take_over
+                   : 0;
     });
     ovk::UiProfileController* profiles = ovk::UiProfileController::GetInstance();
     profiles->SetProductName(options.product);
     profiles->SetLogger(log);
     profiles->SetUserQuery([] {
-        return AskToCarryOver(QApplication::translate("tarnix::Start", "Take over the customized interface of the version before?"));
+        return AskToCarryOver(QApplication::translate(
+            "tarnix::Start", "Take over the customized interface of the version before?"));
     });
 }
 
@@ -204,7 +229,7 @@ int main(int argc, char** argv)
     ovk::IconsController::AddResourcesPath(QStringLiteral(":/tarnix/icons/"));
 
     Settings& settings = Settings::GetInstance();
-    new ovk::UiController;         // both belong to the RootController
+    new ovk::UiController; // both belong to the RootController
     new ovk::UiProfileController;
     int result = 0;
     {

@@ -63,7 +63,9 @@ MainWindow::MainWindow(Host& host, PageFactory& pages) : m_host(host), m_pages(p
     GetWorkArea()->SetClipboardManager(this);
     mp_view->installEventFilter(this);
     connect(mp_view, &SceneView::ContextMenuAsked, this, &MainWindow::ShowPartMenu);
-    connect(mp_view, &SceneView::PointerAt, this, [this](const Vec3& point) { mp_pointer->setText(m_host.workspace.Format().Point(point)); });
+    connect(mp_view, &SceneView::PointerAt, this, [this](const Vec3& point) {
+        mp_pointer->setText(m_host.workspace.Format().Point(point));
+    });
     connect(mp_view, &SceneView::PointerLeft, this, [this] { mp_pointer->clear(); });
     connect(mp_view, &SceneView::CameraChanged, &host, &Host::RequestUpdate);
     host.view = mp_view;
@@ -107,7 +109,8 @@ void MainWindow::GoToLayout(const QString& name)
 void MainWindow::ActivateLayout(const QString& name)
 {
     ovk::UiController* controller = ovk::UiController::GetInstance();
-    ovk::UiLayout* layout = controller->GetProfile() ? controller->GetProfile()->GetLayout(name) : nullptr;
+    ovk::UiLayout* layout =
+        controller->GetProfile() ? controller->GetProfile()->GetLayout(name) : nullptr;
     if (!layout)
         return;
     controller->SetActiveLayout(layout);
@@ -136,7 +139,9 @@ void MainWindow::PrepareComposites()
 {
     // A menu of commands has a picture of its own only when the program gives it one.
     ovk::UiLayout* layout = ovk::UiController::GetInstance()->GetActiveLayout();
-    auto* suite = layout ? dynamic_cast<ovk::UiStateComposites*>(layout->GetState(ovk::UiStateComposites::GetSuiteName())) : nullptr;
+    auto* suite = layout ? dynamic_cast<ovk::UiStateComposites*>(
+                               layout->GetState(ovk::UiStateComposites::GetSuiteName()))
+                         : nullptr;
     for (int i = 0; suite && i < suite->GetCount(); ++i) {
         const QString icon = suite->GetItem(i)->ToJson().value(QStringLiteral("icon")).toString();
         if (icon.isEmpty())
@@ -220,7 +225,8 @@ void MainWindow::UpdateColors()
 {
     const Qtitan::RibbonStyle* style = GetStyle();
     const QColor accent = style ? style->accentColor() : QColor(0x2b, 0x7c, 0xd3);
-    mp_view->SetColors(m_host.IsDark() ? ViewColors::Dark(accent.lighter(125)) : ViewColors::Light(accent));
+    mp_view->SetColors(m_host.IsDark() ? ViewColors::Dark(accent.lighter(125))
+                                       : ViewColors::Light(accent));
 }
 
 void MainWindow::CloseForGood()
@@ -259,7 +265,8 @@ void MainWindow::UpdateStatusBar()
     const Scene& scene = m_host.GetScene();
     const Formatter& format = m_host.workspace.Format();
     const int selected = scene.SelectedCount();
-    mp_selection->setText(selected > 0 ? tr("Selected: %1 of %2").arg(selected).arg(scene.Count()) : tr("Parts: %1").arg(scene.Count()));
+    mp_selection->setText(selected > 0 ? tr("Selected: %1 of %2").arg(selected).arg(scene.Count())
+                                       : tr("Parts: %1").arg(scene.Count()));
     const Box box = scene.Bounds(selected > 0);
     mp_size->setVisible(!box.IsEmpty());
     mp_size->setText(format.Size(box.Size()));
@@ -267,19 +274,24 @@ void MainWindow::UpdateStatusBar()
     const LayerOptions& layers = m_host.workspace.GetViewState().layers;
     const LayerStack stack = m_host.workspace.Layers();
     mp_layer->setVisible(layers.shown && stack.Count() > 0);
-    mp_layer->setText(tr("Layer %1 of %2").arg(layers.current + 1).arg(stack.Count()) + QStringLiteral("   z ") + format.Length(stack.HeightOf(layers.current)));
+    mp_layer->setText(tr("Layer %1 of %2").arg(layers.current + 1).arg(stack.Count()) +
+                      QStringLiteral("   z ") + format.Length(stack.HeightOf(layers.current)));
 }
 
 void MainWindow::UpdateCaption()
 {
-    setWindowTitle(QStringLiteral("%1[*] \u2013 %2").arg(m_host.workspace.BuildName(), QApplication::applicationDisplayName()));
+    setWindowTitle(QStringLiteral("%1[*] \u2013 %2")
+                       .arg(m_host.workspace.BuildName(), QApplication::applicationDisplayName()));
     setWindowModified(m_host.GetScene().IsModified() && m_host.GetScene().Count() > 0);
 }
 
 void MainWindow::ShowPartMenu(const QPoint& at)
 {
     ovk::UiLayout* layout = ovk::UiController::GetInstance()->GetActiveLayout();
-    auto* suite = layout ? dynamic_cast<ovk::UiStateMenus*>(layout->GetState(ovk::UiStateMenus::GetSuiteName())) : nullptr;
+    auto* suite =
+        layout
+            ? dynamic_cast<ovk::UiStateMenus*>(layout->GetState(ovk::UiStateMenus::GetSuiteName()))
+            : nullptr;
     for (int i = 0; suite && i < suite->GetCount(); ++i) {
         auto* state = dynamic_cast<ovk::UiStateMenu*>(suite->GetItem(i));
         if (!state || (state->GetKey() & k_key_mask) != m_held_key || !state->IsVisible())
@@ -306,8 +318,11 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == mp_view) {
         if (event->type() == QEvent::KeyPress && !static_cast<QKeyEvent*>(event)->isAutoRepeat())
-            m_held_key = static_cast<int>(ovk::NativeVirtualKey(*static_cast<QKeyEvent*>(event))) & k_key_mask;
-        else if ((event->type() == QEvent::KeyRelease && !static_cast<QKeyEvent*>(event)->isAutoRepeat()) || event->type() == QEvent::FocusOut)
+            m_held_key = static_cast<int>(ovk::NativeVirtualKey(*static_cast<QKeyEvent*>(event))) &
+                         k_key_mask;
+        else if ((event->type() == QEvent::KeyRelease &&
+                  !static_cast<QKeyEvent*>(event)->isAutoRepeat()) ||
+                 event->type() == QEvent::FocusOut)
             m_held_key = 0;
     }
     return RibbonWindow::eventFilter(watched, event);
@@ -318,10 +333,12 @@ void MainWindow::DropData(const QMimeData* data)
     const QStringList files = DroppedFiles(data);
     // The drag is still going on: reading and messages come after it.
     QTimer::singleShot(0, this, [this, files] {
-        if (files.size() == 1 && files.front().endsWith(QLatin1String(".tarnix"), Qt::CaseInsensitive))
+        if (files.size() == 1 &&
+            files.front().endsWith(QLatin1String(".tarnix"), Qt::CaseInsensitive))
             OpenFiles(m_host, files);
         else
-            ImportFiles(m_host, files.filter(QRegExp(QStringLiteral("\\.stl$"), Qt::CaseInsensitive)));
+            ImportFiles(m_host,
+                        files.filter(QRegExp(QStringLiteral("\\.stl$"), Qt::CaseInsensitive)));
     });
 }
 
@@ -332,7 +349,8 @@ bool MainWindow::CanDropData(const QMimeData* data)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!m_close_for_good && m_host.GetScene().IsModified() && m_host.GetScene().Count() > 0 && !m_host.IsQuiet()) {
+    if (!m_close_for_good && m_host.GetScene().IsModified() && m_host.GetScene().Count() > 0 &&
+        !m_host.IsQuiet()) {
         event->ignore();
         UnlessUnsaved(m_host, tr("Leave without saving"), [this] { CloseForGood(); });
         return;

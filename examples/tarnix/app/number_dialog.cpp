@@ -29,7 +29,8 @@ QDoubleSpinBox* MakeNumberEditor(QWidget* parent, const NumberField& field, cons
         static const char* const k_suffixes[] = {"", "\u00b0", "%", "", "g/cm\u00b3"};
         editor->setSuffix(QString::fromUtf8(k_suffixes[field.kind]));
     }
-    editor->setSuffixFormat(field.kind == NumberField::Degrees ? QStringLiteral("%") : QStringLiteral(" %"));
+    editor->setSuffixFormat(field.kind == NumberField::Degrees ? QStringLiteral("%")
+                                                               : QStringLiteral(" %"));
     editor->setSuffixVisible(ovk::EditDblSuffix::spVisible);
     editor->setValue(field.kind == NumberField::Length ? format.ToUnit(field.value) : field.value);
     editor->setAlignment(Qt::AlignRight);
@@ -74,13 +75,15 @@ std::vector<double> NumberDialog::Values() const
     std::vector<double> values;
     for (size_t i = 0; i < m_fields.size(); ++i) {
         const double value = m_editors[i]->value();
-        values.push_back(m_fields[i].kind == NumberField::Length ? m_format.FromUnit(value) : value);
+        values.push_back(m_fields[i].kind == NumberField::Length ? m_format.FromUnit(value)
+                                                                 : value);
     }
     return values;
 }
 
-void NumberDialog::Ask(QWidget* parent, const QString& title, const QString& note, const std::vector<NumberField>& fields,
-                       const Formatter& format, const Accepted& accepted)
+void NumberDialog::Ask(QWidget* parent, const QString& title, const QString& note,
+                       const std::vector<NumberField>& fields, const Formatter& format,
+                       const Accepted& accepted)
 {
     auto* dialog = new NumberDialog(parent, title, note, fields, format);
     connect(dialog, &QDialog::accepted, dialog, [dialog, accepted] { accepted(dialog->Values()); });

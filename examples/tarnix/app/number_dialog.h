@@ -15,7 +15,14 @@ namespace tarnix {
 /// a density has grams a cubic centimetre.
 struct NumberField
 {
-    enum Kind { Length, Degrees, Percent, Count, Density };
+    enum Kind
+    {
+        Length,
+        Degrees,
+        Percent,
+        Count,
+        Density
+    };
 
     QString label;
     double value = 0.0;
@@ -33,12 +40,13 @@ public:
     using Accepted = std::function<void(const std::vector<double>&)>;
 
     /// Shows a dialog that deletes itself. `note` stands above the fields.
-    static void Ask(QWidget* parent, const QString& title, const QString& note, const std::vector<NumberField>& fields,
-                    const Formatter& format, const Accepted& accepted);
+    static void Ask(QWidget* parent, const QString& title, const QString& note,
+                    const std::vector<NumberField>& fields, const Formatter& format,
+                    const Accepted& accepted);
 
 private:
-    NumberDialog(QWidget* parent, const QString& title, const QString& note, const std::vector<NumberField>& fields,
-                 const Formatter& format);
+    NumberDialog(QWidget* parent, const QString& title, const QString& note,
+                 const std::vector<NumberField>& fields, const Formatter& format);
     std::vector<double> Values() const;
 
     std::vector<NumberField> m_fields;
@@ -47,6 +55,7 @@ private:
 };
 
 /// A spin box for one number of a kind, in the unit of `format`.
-QDoubleSpinBox* MakeNumberEditor(QWidget* parent, const NumberField& field, const Formatter& format);
+QDoubleSpinBox* MakeNumberEditor(QWidget* parent, const NumberField& field,
+                                 const Formatter& format);
 
 } // namespace tarnix

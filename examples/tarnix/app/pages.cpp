@@ -14,8 +14,12 @@ struct PageRow
 };
 
 constexpr PageRow k_pages[] = {
-    {"Page.Parts", MakePartsPage},       {"Page.Properties", MakePropertiesPage}, {"Page.Measurements", MakeMeasurementsPage},
-    {"Page.Findings", MakeFindingsPage}, {"Page.Layers", MakeLayersPage},         {"Page.History", MakeHistoryPage},
+    {"Page.Parts", MakePartsPage},
+    {"Page.Properties", MakePropertiesPage},
+    {"Page.Measurements", MakeMeasurementsPage},
+    {"Page.Findings", MakeFindingsPage},
+    {"Page.Layers", MakeLayersPage},
+    {"Page.History", MakeHistoryPage},
 };
 
 } // namespace

@@ -26,7 +26,10 @@ public:
     bool IsToggleable() const override { return true; }
     void OnVisibilityToggled(bool visible) override;
     QString GetSizeGroupId() const override { return QString(); }
-    QSizePolicy GetSizePolicy() const override { return {QSizePolicy::Preferred, QSizePolicy::Expanding}; }
+    QSizePolicy GetSizePolicy() const override
+    {
+        return {QSizePolicy::Preferred, QSizePolicy::Expanding};
+    }
 
     QSize minimumSizeHint() const override { return {180, 90}; }
 };

@@ -31,18 +31,22 @@ QVBoxLayout* FullLayout(QWidget* page)
 class PartsPage : public HostPage
 {
 public:
-    explicit PartsPage(Host& host) : HostPage(QStringLiteral("Page.Parts"), QCoreApplication::translate("toolpages", "Parts")), m_host(host)
+    explicit PartsPage(Host& host)
+        : HostPage(QStringLiteral("Page.Parts"), QCoreApplication::translate("toolpages", "Parts")),
+          m_host(host)
     {
         mp_list = new QListView(this);
         mp_list->setObjectName(QStringLiteral("partList"));
         mp_list->setAccessibleName(windowTitle());
         mp_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
-        mp_list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+        mp_list->setEditTriggers(QAbstractItemView::DoubleClicked |
+                                 QAbstractItemView::EditKeyPressed);
         mp_list->setUniformItemSizes(true);
         mp_list->setFrameShape(QFrame::NoFrame);
         mp_list->setModel(new PartListModel(host.GetScene(), this));
         FullLayout(this)->addWidget(mp_list);
-        connect(mp_list->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { ToScene(); });
+        connect(mp_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                [this] { ToScene(); });
         connect(&host.GetScene(), &Scene::SelectionChanged, this, [this] { FromScene(); });
         connect(mp_list->model(), &QAbstractItemModel::modelReset, this, [this] { FromScene(); });
         FromScene();
@@ -57,7 +61,8 @@ private:
         QSet<int> ids;
         for (const QModelIndex& index : mp_list->selectionModel()->selectedIndexes())
             ids.insert(index.data(PartListModel::IdRole).toInt());
-        m_host.GetScene().Select([&ids](const Part& part) { return part.visible && ids.contains(part.id); });
+        m_host.GetScene().Select(
+            [&ids](const Part& part) { return part.visible && ids.contains(part.id); });
         m_following = false;
     }
 
@@ -86,7 +91,9 @@ class PropertiesPage : public HostPage
 {
 public:
     explicit PropertiesPage(Host& host)
-        : HostPage(QStringLiteral("Page.Properties"), QCoreApplication::translate("toolpages", "Properties")), m_host(host)
+        : HostPage(QStringLiteral("Page.Properties"),
+                   QCoreApplication::translate("toolpages", "Properties")),
+          m_host(host)
     {
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(6, 6, 6, 0);
@@ -101,14 +108,19 @@ public:
         for (int axis = 0; axis < 3; ++axis) {
             grid->addWidget(new QLabel(QLatin1String(k_axes[axis]), mp_editors), axis + 1, 0);
             for (const bool size : {false, true}) {
-                const NumberField field{QString(), 0.0, size ? 0.001 : -10000.0, 10000.0, NumberField::Length};
-                QDoubleSpinBox* editor = MakeNumberEditor(mp_editors, field, host.workspace.Format());
-                editor->setObjectName(QStringLiteral("%1%2").arg(size ? QStringLiteral("size") : QStringLiteral("center"), QLatin1String(k_axes[axis])));
+                const NumberField field{QString(), 0.0, size ? 0.001 : -10000.0, 10000.0,
+                                        NumberField::Length};
+                QDoubleSpinBox* editor =
+                    MakeNumberEditor(mp_editors, field, host.workspace.Format());
+                editor->setObjectName(QStringLiteral("%1%2").arg(size ? QStringLiteral("size")
+                                                                      : QStringLiteral("center"),
+                                                                 QLatin1String(k_axes[axis])));
                 editor->setButtonSymbols(QAbstractSpinBox::NoButtons);
                 editor->setMinimumWidth(70);
                 grid->addWidget(editor, axis + 1, size ? 2 : 1);
                 (size ? m_sizes : m_centers)[static_cast<size_t>(axis)] = editor;
-                connect(editor, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this, axis, size](double value) { Edit(axis, size, value); });
+                connect(editor, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+                        [this, axis, size](double value) { Edit(axis, size, value); });
             }
         }
         grid->setColumnStretch(1, 1);
@@ -132,7 +144,10 @@ public:
     }
 
 private:
-    static QString Tr(const char* text) { return QCoreApplication::translate("tarnix::PropertiesPage", text); }
+    static QString Tr(const char* text)
+    {
+        return QCoreApplication::translate("tarnix::PropertiesPage", text);
+    }
 
     void showEvent(QShowEvent* event) override
     {
@@ -160,7 +175,8 @@ private:
         } else {
             Vec3 shift;
             shift[axis] = value - box.Center()[axis];
-            m_host.GetScene().EditSelected(Tr("Move"), [&shift](Part& part) { part.Apply(Transform::Translation(shift)); });
+            m_host.GetScene().EditSelected(
+                Tr("Move"), [&shift](Part& part) { part.Apply(Transform::Translation(shift)); });
         }
     }
 
@@ -199,7 +215,8 @@ private:
         return parts;
     }
 
-    std::vector<std::pair<QString, QString>> SumOf(const std::vector<const Part*>& parts, bool selected) const
+    std::vector<std::pair<QString, QString>> SumOf(const std::vector<const Part*>& parts,
+                                                   bool selected) const
     {
         const Formatter& format = m_host.workspace.Format();
         double volume = 0.0, area = 0.0;
@@ -209,7 +226,8 @@ private:
             area += part->Area();
             triangles += static_cast<qlonglong>(part->GetMesh()->Triangles().size());
         }
-        return {{selected ? Tr("Selected parts") : Tr("Parts"), QLocale().toString(static_cast<int>(parts.size()))},
+        return {{selected ? Tr("Selected parts") : Tr("Parts"),
+                 QLocale().toString(static_cast<int>(parts.size()))},
                 {Tr("Size"), format.Size(m_host.GetScene().Bounds(selected).Size())},
                 {Tr("Volume"), format.Volume(volume)},
                 {Tr("Surface"), format.Area(area)},
@@ -229,7 +247,10 @@ private:
 class HistoryPage : public HostPage
 {
 public:
-    explicit HistoryPage(Host& host) : HostPage(QStringLiteral("Page.History"), QCoreApplication::translate("toolpages", "History")), m_host(host)
+    explicit HistoryPage(Host& host)
+        : HostPage(QStringLiteral("Page.History"),
+                   QCoreApplication::translate("toolpages", "History")),
+          m_host(host)
     {
         mp_list = new QListWidget(this);
         mp_list->setObjectName(QStringLiteral("historyList"));
@@ -237,8 +258,10 @@ public:
         mp_list->setFrameShape(QFrame::NoFrame);
         FullLayout(this)->addWidget(mp_list);
         connect(&host.GetScene(), &Scene::HistoryChanged, this, [this] { Follow(); });
-        connect(mp_list, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) { GoTo(mp_list->row(item)); });
-        connect(mp_list, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { GoTo(mp_list->row(item)); });
+        connect(mp_list, &QListWidget::itemActivated, this,
+                [this](QListWidgetItem* item) { GoTo(mp_list->row(item)); });
+        connect(mp_list, &QListWidget::itemClicked, this,
+                [this](QListWidgetItem* item) { GoTo(mp_list->row(item)); });
         Follow();
     }
 

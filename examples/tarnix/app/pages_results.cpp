@@ -35,21 +35,28 @@ class MeasurementsPage : public HostPage
 {
 public:
     explicit MeasurementsPage(Host& host)
-        : HostPage(QStringLiteral("Page.Measurements"), QCoreApplication::translate("toolpages", "Measurements")), m_host(host)
+        : HostPage(QStringLiteral("Page.Measurements"),
+                   QCoreApplication::translate("toolpages", "Measurements")),
+          m_host(host)
     {
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->setSpacing(0);
         mp_table = MakeTable(this, "measurementList", {Tr("Kind"), Tr("Value"), Tr("Details")});
         layout->addWidget(mp_table, 1);
-        mp_hint = new QLabel(Tr("Choose what to measure on the page Measure, then click points on parts."), this);
+        mp_hint = new QLabel(
+            Tr("Choose what to measure on the page Measure, then click points on parts."), this);
         mp_hint->setWordWrap(true);
         mp_hint->setMargin(8);
         layout->addWidget(mp_hint);
         mp_remove = new QPushButton(Tr("Remove"), this);
         layout->addWidget(mp_remove);
-        connect(mp_remove, &QPushButton::clicked, this, [this] { m_host.workspace.RemoveMeasurement(mp_table->indexOfTopLevelItem(mp_table->currentItem())); });
-        connect(mp_table, &QTreeWidget::itemSelectionChanged, this, [this] { mp_remove->setEnabled(!mp_table->selectedItems().isEmpty()); });
+        connect(mp_remove, &QPushButton::clicked, this, [this] {
+            m_host.workspace.RemoveMeasurement(
+                mp_table->indexOfTopLevelItem(mp_table->currentItem()));
+        });
+        connect(mp_table, &QTreeWidget::itemSelectionChanged, this,
+                [this] { mp_remove->setEnabled(!mp_table->selectedItems().isEmpty()); });
         const auto follow = [this] { Follow(); };
         connect(&host.workspace, &Workspace::MeasurementsChanged, this, follow);
         connect(&host.workspace, &Workspace::FormatChanged, this, follow);
@@ -57,7 +64,10 @@ public:
     }
 
 private:
-    static QString Tr(const char* text) { return QCoreApplication::translate("tarnix::MeasurementsPage", text); }
+    static QString Tr(const char* text)
+    {
+        return QCoreApplication::translate("tarnix::MeasurementsPage", text);
+    }
 
     void Follow()
     {
@@ -66,7 +76,8 @@ private:
         mp_table->clear();
         for (const Measurement& entry : entries) {
             const QString details = entry.subject.isEmpty() ? entry.Details(format) : entry.subject;
-            auto* item = new QTreeWidgetItem(mp_table, {entry.Title(), entry.Text(format), details});
+            auto* item =
+                new QTreeWidgetItem(mp_table, {entry.Title(), entry.Text(format), details});
             item->setToolTip(2, details);
         }
         mp_table->setVisible(!entries.empty());
@@ -87,7 +98,10 @@ private:
 class FindingsPage : public HostPage
 {
 public:
-    explicit FindingsPage(Host& host) : HostPage(QStringLiteral("Page.Findings"), QCoreApplication::translate("toolpages", "Findings")), m_host(host)
+    explicit FindingsPage(Host& host)
+        : HostPage(QStringLiteral("Page.Findings"),
+                   QCoreApplication::translate("toolpages", "Findings")),
+          m_host(host)
     {
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
@@ -114,12 +128,16 @@ public:
     }
 
 private:
-    static QString Tr(const char* text) { return QCoreApplication::translate("tarnix::FindingsPage", text); }
+    static QString Tr(const char* text)
+    {
+        return QCoreApplication::translate("tarnix::FindingsPage", text);
+    }
 
     void Follow()
     {
-        static constexpr QStyle::StandardPixmap k_icons[] = {QStyle::SP_DialogApplyButton, QStyle::SP_MessageBoxInformation,
-                                                             QStyle::SP_MessageBoxWarning, QStyle::SP_MessageBoxCritical};
+        static constexpr QStyle::StandardPixmap k_icons[] = {
+            QStyle::SP_DialogApplyButton, QStyle::SP_MessageBoxInformation,
+            QStyle::SP_MessageBoxWarning, QStyle::SP_MessageBoxCritical};
         mp_table->clear();
         for (const Finding& finding : m_host.workspace.Findings()) {
             auto* item = new QTreeWidgetItem(mp_table, {finding.subject, finding.text});
@@ -127,8 +145,11 @@ private:
             item->setData(0, Qt::UserRole, finding.part);
             item->setToolTip(1, finding.text);
         }
-        mp_note->setText(m_host.workspace.Findings().empty() ? Tr("The build has not been checked yet.")
-                             : m_host.workspace.AreFindingsFresh() ? QString() : Tr("The build has changed since it was checked."));
+        mp_note->setText(m_host.workspace.Findings().empty()
+                             ? Tr("The build has not been checked yet.")
+                         : m_host.workspace.AreFindingsFresh()
+                             ? QString()
+                             : Tr("The build has changed since it was checked."));
         mp_note->setVisible(!mp_note->text().isEmpty());
     }
 
@@ -141,12 +162,18 @@ private:
 class LayersPage : public HostPage
 {
 public:
-    explicit LayersPage(Host& host) : HostPage(QStringLiteral("Page.Layers"), QCoreApplication::translate("toolpages", "Layers")), m_host(host)
+    explicit LayersPage(Host& host)
+        : HostPage(QStringLiteral("Page.Layers"),
+                   QCoreApplication::translate("toolpages", "Layers")),
+          m_host(host)
     {
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(8, 8, 8, 8);
         auto* form = new QFormLayout;
-        mp_thickness = MakeNumberEditor(this, {QString(), host.workspace.GetViewState().layers.thickness, 0.02, 5.0, NumberField::Length}, host.workspace.Format());
+        mp_thickness = MakeNumberEditor(this,
+                                        {QString(), host.workspace.GetViewState().layers.thickness,
+                                         0.02, 5.0, NumberField::Length},
+                                        host.workspace.Format());
         mp_thickness->setObjectName(QStringLiteral("layerThickness"));
         form->addRow(Tr("Thickness"), mp_thickness);
         mp_number = new QLabel(this);
@@ -170,12 +197,16 @@ public:
             if (!m_following)
                 m_host.workspace.GoToLayer(value);
         });
-        connect(mp_thickness, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this](double value) {
-            if (m_following)
-                return;
-            m_host.workspace.ChangeView([this, value](ViewState& state) { state.layers.thickness = std::max(0.02, m_host.workspace.Format().FromUnit(value)); });
-            m_host.workspace.GoToLayer(m_host.workspace.GetViewState().layers.current);
-        });
+        connect(mp_thickness, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+                [this](double value) {
+                    if (m_following)
+                        return;
+                    m_host.workspace.ChangeView([this, value](ViewState& state) {
+                        state.layers.thickness =
+                            std::max(0.02, m_host.workspace.Format().FromUnit(value));
+                    });
+                    m_host.workspace.GoToLayer(m_host.workspace.GetViewState().layers.current);
+                });
         const auto follow = [this] { Follow(); };
         connect(&host.workspace, &Workspace::ViewChanged, this, follow);
         connect(&host.workspace, &Workspace::FormatChanged, this, follow);
@@ -184,7 +215,10 @@ public:
     }
 
 private:
-    static QString Tr(const char* text) { return QCoreApplication::translate("tarnix::LayersPage", text); }
+    static QString Tr(const char* text)
+    {
+        return QCoreApplication::translate("tarnix::LayersPage", text);
+    }
 
     void showEvent(QShowEvent* event) override
     {
@@ -211,7 +245,8 @@ private:
         } else {
             double area = 0.0, length = 0.0;
             int contours = 0;
-            for (const auto& [part, slice] : SliceScene(m_host.GetScene().Parts(), stack.HeightOf(options.current))) {
+            for (const auto& [part, slice] :
+                 SliceScene(m_host.GetScene().Parts(), stack.HeightOf(options.current))) {
                 area += slice.Area();
                 length += slice.ContourLength();
                 contours += static_cast<int>(slice.contours.size());

@@ -23,14 +23,16 @@ QPixmap Swatch(QRgb color)
 
 } // namespace
 
-PartListModel::PartListModel(Scene& scene, QObject* parent) : QAbstractListModel(parent), m_scene(scene)
+PartListModel::PartListModel(Scene& scene, QObject* parent)
+    : QAbstractListModel(parent), m_scene(scene)
 {
     for (const Part& part : scene.Parts())
         m_ids.push_back(part.id);
     connect(&scene, &Scene::PartsChanged, this, &PartListModel::Follow);
     connect(&scene, &Scene::SelectionChanged, this, [this] {
         if (!m_ids.empty())
-            Q_EMIT dataChanged(index(0), index(static_cast<int>(m_ids.size()) - 1), {SelectedRole, Qt::FontRole});
+            Q_EMIT dataChanged(index(0), index(static_cast<int>(m_ids.size()) - 1),
+                               {SelectedRole, Qt::FontRole});
     });
 }
 
@@ -56,7 +58,9 @@ int PartListModel::rowCount(const QModelIndex& parent) const
 
 QVariant PartListModel::data(const QModelIndex& index, int role) const
 {
-    const Part* part = index.isValid() && index.row() < rowCount() ? m_scene.Find(m_ids[static_cast<size_t>(index.row())]) : nullptr;
+    const Part* part = index.isValid() && index.row() < rowCount()
+                           ? m_scene.Find(m_ids[static_cast<size_t>(index.row())])
+                           : nullptr;
     if (!part)
         return QVariant();
     switch (role) {
@@ -69,7 +73,8 @@ QVariant PartListModel::data(const QModelIndex& index, int role) const
     case Qt::CheckStateRole:
         return part->visible ? Qt::Checked : Qt::Unchecked;
     case Qt::ToolTipRole:
-        return tr("%1\nTick to show it, double click to rename it.").arg(part->file.isEmpty() ? part->name : part->file);
+        return tr("%1\nTick to show it, double click to rename it.")
+            .arg(part->file.isEmpty() ? part->name : part->file);
     case IdRole:
         return part->id;
     case LockedRole:
@@ -88,7 +93,8 @@ bool PartListModel::setData(const QModelIndex& index, const QVariant& value, int
     const int id = m_ids[static_cast<size_t>(index.row())];
     if (role == Qt::CheckStateRole) {
         const bool visible = value.toInt() == Qt::Checked;
-        m_scene.SetVisible([id, visible](const Part& part) { return part.id == id ? visible : part.visible; });
+        m_scene.SetVisible(
+            [id, visible](const Part& part) { return part.id == id ? visible : part.visible; });
         return true;
     }
     if (role == Qt::EditRole) {
@@ -102,7 +108,8 @@ Qt::ItemFlags PartListModel::flags(const QModelIndex& index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsEditable | Qt::ItemNeverHasChildren;
+    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsEditable |
+           Qt::ItemNeverHasChildren;
 }
 
 } // namespace tarnix

@@ -12,7 +12,12 @@ class PartListModel : public QAbstractListModel
     Q_OBJECT
 
 public:
-    enum Role { IdRole = Qt::UserRole, LockedRole, SelectedRole };
+    enum Role
+    {
+        IdRole = Qt::UserRole,
+        LockedRole,
+        SelectedRole
+    };
 
     explicit PartListModel(Scene& scene, QObject* parent = nullptr);
 

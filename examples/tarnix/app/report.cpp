@@ -25,20 +25,27 @@ QString Html(const Host& host)
 {
     const Formatter& format = host.workspace.Format();
     const Plate& plate = host.GetScene().GetPlate();
-    QString html = QStringLiteral("<h1>%1</h1><p>%2<br>%3</p><p><img src=\"view\" width=\"520\"></p>")
-                       .arg(host.workspace.BuildName().toHtmlEscaped(),
-                            QLocale().toString(QDateTime::currentDateTime(), QLocale::LongFormat),
-                            Tr("Build volume: %1").arg(format.Size({plate.width, plate.depth, plate.height})));
+    QString html =
+        QStringLiteral("<h1>%1</h1><p>%2<br>%3</p><p><img src=\"view\" width=\"520\"></p>")
+            .arg(host.workspace.BuildName().toHtmlEscaped(),
+                 QLocale().toString(QDateTime::currentDateTime(), QLocale::LongFormat),
+                 Tr("Build volume: %1").arg(format.Size({plate.width, plate.depth, plate.height})));
     html += QStringLiteral("<h2>%1</h2><ul>").arg(Tr("Findings"));
-    for (const Finding& finding : CheckBuild(host.GetScene(), host.workspace.GetViewState().overhang_degrees, format)) {
-        const QString subject = finding.subject.isEmpty() ? QString() : QStringLiteral("<b>%1:</b> ").arg(finding.subject.toHtmlEscaped());
+    for (const Finding& finding :
+         CheckBuild(host.GetScene(), host.workspace.GetViewState().overhang_degrees, format)) {
+        const QString subject =
+            finding.subject.isEmpty()
+                ? QString()
+                : QStringLiteral("<b>%1:</b> ").arg(finding.subject.toHtmlEscaped());
         html += QStringLiteral("<li>%1%2</li>").arg(subject, finding.text.toHtmlEscaped());
     }
     html += QStringLiteral("</ul><h2>%1</h2>").arg(Tr("Parts"));
     for (const Part& part : host.GetScene().Parts()) {
-        html += QStringLiteral("<h3>%1</h3><table cellspacing=\"0\" cellpadding=\"2\">").arg(part.name.toHtmlEscaped());
+        html += QStringLiteral("<h3>%1</h3><table cellspacing=\"0\" cellpadding=\"2\">")
+                    .arg(part.name.toHtmlEscaped());
         for (const auto& [title, value] : PartFigures(part, host.workspace.density, format))
-            html += QStringLiteral("<tr><td width=\"120\">%1</td><td>%2</td></tr>").arg(title.toHtmlEscaped(), value.toHtmlEscaped());
+            html += QStringLiteral("<tr><td width=\"120\">%1</td><td>%2</td></tr>")
+                        .arg(title.toHtmlEscaped(), value.toHtmlEscaped());
         html += QStringLiteral("</table>");
     }
     return html;
@@ -58,7 +65,8 @@ QByteArray ReportPdf(Host& host)
     writer.setResolution(96);
     QTextDocument document;
     document.setPageSize(QSizeF(writer.width(), writer.height()));
-    document.addResource(QTextDocument::ImageResource, QUrl(QStringLiteral("view")), host.view->Picture({1040, 640}));
+    document.addResource(QTextDocument::ImageResource, QUrl(QStringLiteral("view")),
+                         host.view->Picture({1040, 640}));
     document.setHtml(Html(host));
     QPainter painter(&writer);
     const QSizeF page = document.pageSize();
@@ -67,7 +75,8 @@ QByteArray ReportPdf(Host& host)
             writer.newPage();
         painter.save();
         painter.translate(0.0, -i * page.height());
-        document.drawContents(&painter, QRectF(0.0, i * page.height(), page.width(), page.height()));
+        document.drawContents(&painter,
+                              QRectF(0.0, i * page.height(), page.width(), page.height()));
         painter.restore();
     }
     painter.end();

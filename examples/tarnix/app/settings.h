@@ -12,7 +12,8 @@ class IntPreference : public ovk::TPreferenceBasics<int>
 {
 public:
     using ovk::TPreferenceBasics<int>::operator=;
-    IntPreference(ovk::PreferenceChapter& chapter, const QString& name, int value, int low, int high);
+    IntPreference(ovk::PreferenceChapter& chapter, const QString& name, int value, int low,
+                  int high);
 
 protected:
     void _FromString(const QString& text) override;
@@ -28,7 +29,8 @@ class DoublePreference : public ovk::TPreferenceBasics<double>
 {
 public:
     using ovk::TPreferenceBasics<double>::operator=;
-    DoublePreference(ovk::PreferenceChapter& chapter, const QString& name, double value, double low, double high);
+    DoublePreference(ovk::PreferenceChapter& chapter, const QString& name, double value, double low,
+                     double high);
 
     double Low() const { return m_low; }
     double High() const { return m_high; }
@@ -46,7 +48,8 @@ class TextPreference : public ovk::TPreferenceBasics<QString>
 {
 public:
     using ovk::TPreferenceBasics<QString>::operator=;
-    TextPreference(ovk::PreferenceChapter& chapter, const QString& name, const QString& value = QString());
+    TextPreference(ovk::PreferenceChapter& chapter, const QString& name,
+                   const QString& value = QString());
 
 protected:
     void _FromString(const QString& text) override;
@@ -85,27 +88,27 @@ public:
     ovk::Preference<QStringList> recent_files;
     TextPreference folder;
 
-    IntPreference theme;           ///< a Qtitan::OfficeStyle::Theme
-    IntPreference light_theme;     ///< the theme to go back to from the dark one
-    IntPreference accent;          ///< a Qtitan::OfficeStyle::AccentColor
+    IntPreference theme;       ///< a Qtitan::OfficeStyle::Theme
+    IntPreference light_theme; ///< the theme to go back to from the dark one
+    IntPreference accent;      ///< a Qtitan::OfficeStyle::AccentColor
     SwitchPreference group_titles;
-    SwitchPreference own_frame;    ///< the window draws its own caption
+    SwitchPreference own_frame; ///< the window draws its own caption
     SwitchPreference status_bar;
     SwitchPreference ribbon_minimized;
     ovk::Preference<QByteArray> geometry;
     TextPreference layout;
 
     SwitchPreference inches;
-    DoublePreference move_step;    ///< millimetres
-    DoublePreference turn_step;    ///< degrees
-    DoublePreference gap;          ///< millimetres
+    DoublePreference move_step; ///< millimetres
+    DoublePreference turn_step; ///< degrees
+    DoublePreference gap;       ///< millimetres
     SwitchPreference snap_to_grid;
 
     DoublePreference plate_width;
     DoublePreference plate_depth;
     DoublePreference plate_height;
-    DoublePreference density;      ///< grams a cubic centimetre
-    DoublePreference overhang;     ///< degrees
+    DoublePreference density;  ///< grams a cubic centimetre
+    DoublePreference overhang; ///< degrees
 
     IntPreference display;
     SwitchPreference plate;

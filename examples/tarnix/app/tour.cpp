@@ -31,9 +31,11 @@ constexpr int k_settle_ms = 450;
 void Click(QWidget* widget, const QPoint& at)
 {
     const QPoint global = widget->mapToGlobal(at);
-    QMouseEvent press(QEvent::MouseButtonPress, at, global, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent press(QEvent::MouseButtonPress, at, global, Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
     QApplication::sendEvent(widget, &press);
-    QMouseEvent release(QEvent::MouseButtonRelease, at, global, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent release(QEvent::MouseButtonRelease, at, global, Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
     QApplication::sendEvent(widget, &release);
 }
 
@@ -67,7 +69,8 @@ Tour::Tour(Host& host, const QString& folder) : m_host(host), m_folder(folder)
     connect(&m_timer, &QTimer::timeout, this, &Tour::Next);
 }
 
-void Tour::Add(const QString& name, const std::function<void()>& go, const std::function<void()>& leave)
+void Tour::Add(const QString& name, const std::function<void()>& go,
+               const std::function<void()>& leave)
 {
     m_script.push_back({name, go, leave});
 }
@@ -75,7 +78,9 @@ void Tour::Add(const QString& name, const std::function<void()>& go, const std::
 void Tour::Run(const char* command)
 {
     ovk::UiController::GetInstance()->UpdateUi();
-    if (ovk::UiCommand* found = ovk::UiFeaturesController::GetInstance()->GetCommandFromActiveProduct(QLatin1String(command), 0))
+    if (ovk::UiCommand* found =
+            ovk::UiFeaturesController::GetInstance()->GetCommandFromActiveProduct(
+                QLatin1String(command), 0))
         found->Execute();
 }
 
@@ -109,56 +114,82 @@ void Tour::BuildScript()
     Add("prepare-place", page("page.place"));
     Add("prepare-repair", page("page.repair"));
     Add("prepare-view", page("page.view"));
-    Add("part-moved", [this] {
-        SelectPage(QStringLiteral("page.place"));
-        Run("Move.Right");
-        Run("Move.Back");
-        Run("Turn.ZPlus");
-        Run("Show.Bounds");
-    }, [this] { Run("Show.Bounds"); });
-    Add("undone", [this] {
-        Run("Edit.Undo");
-        m_host.window->ShowPage(QStringLiteral("Page.History"));
-    }, [this] { m_host.window->ShowPage(QStringLiteral("Page.Parts")); });
-    Add("part-menu", [this] { Q_EMIT m_host.view->ContextMenuAsked(m_host.view->mapToGlobal(m_host.view->rect().center())); },
+    Add(
+        "part-moved",
+        [this] {
+            SelectPage(QStringLiteral("page.place"));
+            Run("Move.Right");
+            Run("Move.Back");
+            Run("Turn.ZPlus");
+            Run("Show.Bounds");
+        },
+        [this] { Run("Show.Bounds"); });
+    Add(
+        "undone",
+        [this] {
+            Run("Edit.Undo");
+            m_host.window->ShowPage(QStringLiteral("Page.History"));
+        },
+        [this] { m_host.window->ShowPage(QStringLiteral("Page.Parts")); });
+    Add(
+        "part-menu",
+        [this] {
+            Q_EMIT m_host.view->ContextMenuAsked(
+                m_host.view->mapToGlobal(m_host.view->rect().center()));
+        },
         [] {
             if (QWidget* popup = QApplication::activePopupWidget())
                 popup->close();
         });
-    Add("section", [this] { Run("Section.Y"); }, [this] { Run("Section.On"); });
-    Add("transparent", [this] { Run("Display.Transparent"); }, [this] { Run("Display.Edges"); });
-    Add("tool-tip", [this] {
-        SelectPage(QStringLiteral("page.home"));
-        for (QToolButton* button : m_host.window->ribbonBar()->findChildren<QToolButton*>()) {
-            const QAction* action = button->defaultAction();
-            if (!action || action->objectName() != QLatin1String("File.Import") || !button->isVisible())
-                continue;
-            Qtitan::RibbonToolTip::showToolTip(button->mapToGlobal(QPoint(4, button->height() + 8)),
-                                               action->text() + QStringLiteral(" (") + action->shortcut().toString(QKeySequence::NativeText) + QLatin1Char(')'),
-                                               action->toolTip(), action->icon(), button);
-            return;
-        }
-    }, [] { Qtitan::RibbonToolTip::hideToolTip(); });
-    Add("inspect-measure", [this, window, select] {
-        window->ActivateLayout(QStringLiteral("Inspect"));
-        SelectPage(QStringLiteral("page.measure"));
-        select(0);
-        Run("Measure.Size");
-        const Box box = m_host.GetScene().Bounds(true);
-        if (const auto distance = Measure(MeasureKind::Distance, {box.low, {box.high.x, box.low.y, box.low.z}}))
-            m_host.workspace.AddMeasurement(*distance);
-    }, [this] { m_host.workspace.ClearMeasurements(); });
-    Add("inspect-check", [this] {
-        SelectPage(QStringLiteral("page.check"));
-        Run("Check.Run");
-        Run("Check.Overhang");
-        Run("View.RotateDown");
-        Run("View.RotateDown");
-        Run("View.RotateDown");
-    }, [this] {
-        Run("Check.Overhang");
-        Run("View.Home");
-    });
+    Add(
+        "section", [this] { Run("Section.Y"); }, [this] { Run("Section.On"); });
+    Add(
+        "transparent", [this] { Run("Display.Transparent"); }, [this] { Run("Display.Edges"); });
+    Add(
+        "tool-tip",
+        [this] {
+            SelectPage(QStringLiteral("page.home"));
+            for (QToolButton* button : m_host.window->ribbonBar()->findChildren<QToolButton*>()) {
+                const QAction* action = button->defaultAction();
+                if (!action || action->objectName() != QLatin1String("File.Import") ||
+                    !button->isVisible())
+                    continue;
+                Qtitan::RibbonToolTip::showToolTip(
+                    button->mapToGlobal(QPoint(4, button->height() + 8)),
+                    action->text() + QStringLiteral(" (") +
+                        action->shortcut().toString(QKeySequence::NativeText) + QLatin1Char(')'),
+                    action->toolTip(), action->icon(), button);
+                return;
+            }
+        },
+        [] { Qtitan::RibbonToolTip::hideToolTip(); });
+    Add(
+        "inspect-measure",
+        [this, window, select] {
+            window->ActivateLayout(QStringLiteral("Inspect"));
+            SelectPage(QStringLiteral("page.measure"));
+            select(0);
+            Run("Measure.Size");
+            const Box box = m_host.GetScene().Bounds(true);
+            if (const auto distance =
+                    Measure(MeasureKind::Distance, {box.low, {box.high.x, box.low.y, box.low.z}}))
+                m_host.workspace.AddMeasurement(*distance);
+        },
+        [this] { m_host.workspace.ClearMeasurements(); });
+    Add(
+        "inspect-check",
+        [this] {
+            SelectPage(QStringLiteral("page.check"));
+            Run("Check.Run");
+            Run("Check.Overhang");
+            Run("View.RotateDown");
+            Run("View.RotateDown");
+            Run("View.RotateDown");
+        },
+        [this] {
+            Run("Check.Overhang");
+            Run("View.Home");
+        });
     Add("inspect-section", page("page.section"));
     Add("slice-home", [this, window] {
         window->ActivateLayout(QStringLiteral("Slice"));
@@ -168,67 +199,90 @@ void Tour::BuildScript()
         SelectPage(QStringLiteral("page.layers"));
         m_host.workspace.GoToLayer(m_host.workspace.Layers().Count() / 3);
     });
-    Add("slice-hatch", [this] {
-        SelectPage(QStringLiteral("page.fill"));
-        Run("Slice.Hatch");
-        Run("View.Top");
-    }, [this] {
-        Run("View.Home");
-        Run("Slice.Hatch");
-    });
-    Add("slice-output", page("page.output"));
-    Add("inches", [this, window] {
-        window->ActivateLayout(QStringLiteral("Prepare"));
-        Run("Units.Inch");
-    }, [this] { Run("Units.Mm"); });
-    Add("minimised", [window] { window->ribbonBar()->setMinimized(true); });
-    Add("peek", [this] {
-        QWidget* tabs = nullptr;
-        for (QWidget* child : m_host.window->ribbonBar()->findChildren<QWidget*>()) {
-            if (QByteArray(child->metaObject()->className()).contains("RibbonTabBar"))
-                tabs = child;
-        }
-        if (tabs)
-            Click(tabs, QPoint(tabs->height() * 3, tabs->height() / 2));
-    }, [window] {
-        window->ribbonBar()->endPeek();
-        window->ribbonBar()->setMinimized(false);
-    });
-    Add("key-tips", [window] { window->ribbonBar()->showKeyTips(); }, [window] { window->ribbonBar()->hideKeyTips(); });
-    static const char* const k_pages[] = {"backstage-info", "backstage-open", "backstage-export", "backstage-options", "backstage-about"};
-    for (int i = 0; i < int(std::size(k_pages)); ++i) {
-        Add(QString::fromLatin1(k_pages[i]), [window, i] {
-            if (window->GetPages())
-                window->GetPages()->Show(static_cast<Backstage::Page>(i));
-        }, [window] {
-            if (window->GetBackstage())
-                window->GetBackstage()->setVisible(false);
+    Add(
+        "slice-hatch",
+        [this] {
+            SelectPage(QStringLiteral("page.fill"));
+            Run("Slice.Hatch");
+            Run("View.Top");
+        },
+        [this] {
+            Run("View.Home");
+            Run("Slice.Hatch");
         });
+    Add("slice-output", page("page.output"));
+    Add(
+        "inches",
+        [this, window] {
+            window->ActivateLayout(QStringLiteral("Prepare"));
+            Run("Units.Inch");
+        },
+        [this] { Run("Units.Mm"); });
+    Add("minimised", [window] { window->ribbonBar()->setMinimized(true); });
+    Add(
+        "peek",
+        [this] {
+            QWidget* tabs = nullptr;
+            for (QWidget* child : m_host.window->ribbonBar()->findChildren<QWidget*>()) {
+                if (QByteArray(child->metaObject()->className()).contains("RibbonTabBar"))
+                    tabs = child;
+            }
+            if (tabs)
+                Click(tabs, QPoint(tabs->height() * 3, tabs->height() / 2));
+        },
+        [window] {
+            window->ribbonBar()->endPeek();
+            window->ribbonBar()->setMinimized(false);
+        });
+    Add(
+        "key-tips", [window] { window->ribbonBar()->showKeyTips(); },
+        [window] { window->ribbonBar()->hideKeyTips(); });
+    static const char* const k_pages[] = {"backstage-info", "backstage-open", "backstage-export",
+                                          "backstage-options", "backstage-about"};
+    for (int i = 0; i < int(std::size(k_pages)); ++i) {
+        Add(
+            QString::fromLatin1(k_pages[i]),
+            [window, i] {
+                if (window->GetPages())
+                    window->GetPages()->Show(static_cast<Backstage::Page>(i));
+            },
+            [window] {
+                if (window->GetBackstage())
+                    window->GetBackstage()->setVisible(false);
+            });
     }
     Add("dark-theme", [this] { m_host.SetDark(true); });
-    Add("dark-slice", [window] { window->ActivateLayout(QStringLiteral("Slice")); }, [window] { window->ActivateLayout(QStringLiteral("Prepare")); });
-    Add("dark-backstage", [window] {
-        if (window->GetPages())
-            window->GetPages()->Show(Backstage::Options);
-    }, [this, window] {
-        if (window->GetBackstage())
-            window->GetBackstage()->setVisible(false);
-        m_host.SetDark(false);
-    });
+    Add(
+        "dark-slice", [window] { window->ActivateLayout(QStringLiteral("Slice")); },
+        [window] { window->ActivateLayout(QStringLiteral("Prepare")); });
+    Add(
+        "dark-backstage",
+        [window] {
+            if (window->GetPages())
+                window->GetPages()->Show(Backstage::Options);
+        },
+        [this, window] {
+            if (window->GetBackstage())
+                window->GetBackstage()->setVisible(false);
+            m_host.SetDark(false);
+        });
     for (const int theme : {1, 6, 9}) {
         Add(QStringLiteral("theme-%1").arg(theme), [this, theme] {
             m_host.settings.theme.SetData(theme);
             m_host.ApplySettings();
         });
     }
-    Add("customize", [this] {
-        m_host.settings.theme.SetData(8);
-        m_host.ApplySettings();
-        Run("Edit.CustomizeUI");
-    }, [window] {
-        for (QDialog* dialog : window->findChildren<QDialog*>())
-            dialog->close();
-    });
+    Add(
+        "customize",
+        [this] {
+            m_host.settings.theme.SetData(8);
+            m_host.ApplySettings();
+            Run("Edit.CustomizeUI");
+        },
+        [window] {
+            for (QDialog* dialog : window->findChildren<QDialog*>())
+                dialog->close();
+        });
     Add("narrow", [window] { window->resize(800, 640); });
     Add("wide", [window] { window->resize(1600, 900); });
 }
@@ -236,7 +290,8 @@ void Tour::BuildScript()
 void Tour::Start()
 {
     if (!m_folder.mkpath(QStringLiteral("."))) {
-        std::fprintf(stderr, "The folder for the pictures cannot be made: %s\n", qPrintable(m_folder.path()));
+        std::fprintf(stderr, "The folder for the pictures cannot be made: %s\n",
+                     qPrintable(m_folder.path()));
         QCoreApplication::exit(1);
         return;
     }
@@ -266,7 +321,8 @@ void Tour::Next()
 
 void Tour::TakePicture()
 {
-    const QString name = QStringLiteral("%1-%2.png").arg(m_at + 1, 2, 10, QLatin1Char('0')).arg(m_script[m_at].name);
+    const QString name =
+        QStringLiteral("%1-%2.png").arg(m_at + 1, 2, 10, QLatin1Char('0')).arg(m_script[m_at].name);
     const QString path = m_folder.filePath(name);
     if (WholePicture(m_host.window).save(path)) {
         std::printf("%s\n", qPrintable(QDir::toNativeSeparators(path)));

@@ -33,7 +33,8 @@ private:
     };
 
     void BuildScript();
-    void Add(const QString& name, const std::function<void()>& go, const std::function<void()>& leave = {});
+    void Add(const QString& name, const std::function<void()>& go,
+             const std::function<void()>& leave = {});
     void Next();
     void TakePicture();
     void Run(const char* command);

@@ -8,6 +8,9 @@ import math
 import os
 import sys
 
+# Nothing but the icons is to be left beside the script.
+sys.dont_write_bytecode = True
+
 from glyphs import *
 
 HERE = os.path.dirname(os.path.abspath(__file__))

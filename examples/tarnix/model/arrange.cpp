@@ -8,9 +8,8 @@ std::vector<Vec3> ArrangeOnPlate(const std::vector<Box>& boxes, const Plate& pla
 {
     std::vector<size_t> order(boxes.size());
     std::iota(order.begin(), order.end(), size_t(0));
-    std::stable_sort(order.begin(), order.end(), [&](size_t a, size_t b) {
-        return boxes[a].Size().y > boxes[b].Size().y;
-    });
+    std::stable_sort(order.begin(), order.end(),
+                     [&](size_t a, size_t b) { return boxes[a].Size().y > boxes[b].Size().y; });
     std::vector<Vec3> corners(boxes.size());
     double x = 0.0, y = 0.0, row = 0.0;
     Box placed;
@@ -72,8 +71,8 @@ std::vector<Vec3> Distribute(const std::vector<Box>& boxes, int axis)
     for (const Box& box : boxes)
         lengths += box.Size()[axis];
     const double start = boxes[order.front()].low[axis];
-    const double gap = (boxes[order.back()].high[axis] - start - lengths)
-        / static_cast<double>(boxes.size() - 1);
+    const double gap =
+        (boxes[order.back()].high[axis] - start - lengths) / static_cast<double>(boxes.size() - 1);
     double at = start;
     for (const size_t i : order) {
         shifts[i][axis] = at - boxes[i].low[axis];

@@ -5,7 +5,12 @@
 namespace tarnix {
 
 /// Where parts stand against each other: 0 for x, 1 for y, 2 for z.
-enum class AlignTo { Low, Middle, High };
+enum class AlignTo
+{
+    Low,
+    Middle,
+    High
+};
 
 /// Shifts that place the footprints of the boxes in rows on the plate, `gap` millimetres apart,
 /// largest first, the whole centred. Boxes that find no room keep a shift that puts them beside

@@ -19,7 +19,8 @@ constexpr quint32 k_most_parts = 10000;
 
 void WriteMesh(QDataStream& stream, const Mesh& mesh)
 {
-    stream << static_cast<quint32>(mesh.Points().size()) << static_cast<quint32>(mesh.Triangles().size());
+    stream << static_cast<quint32>(mesh.Points().size())
+           << static_cast<quint32>(mesh.Triangles().size());
     for (const Vec3& p : mesh.Points())
         stream << p.x << p.y << p.z;
     for (const Triangle& t : mesh.Triangles())
@@ -31,8 +32,10 @@ MeshPtr ReadMesh(QDataStream& stream)
 {
     quint32 point_count = 0, triangle_count = 0;
     stream >> point_count >> triangle_count;
-    const qint64 needed = qint64(point_count) * k_point_bytes + qint64(triangle_count) * k_triangle_bytes;
-    if (stream.status() != QDataStream::Ok || needed > stream.device()->bytesAvailable() || triangle_count == 0)
+    const qint64 needed =
+        qint64(point_count) * k_point_bytes + qint64(triangle_count) * k_triangle_bytes;
+    if (stream.status() != QDataStream::Ok || needed > stream.device()->bytesAvailable() ||
+        triangle_count == 0)
         return nullptr;
     std::vector<Vec3> points(point_count);
     for (Vec3& p : points) {
@@ -105,8 +108,8 @@ BuildFile::Result BuildFile::Read(const QByteArray& bytes)
         return fail(tr("The build was saved by a newer program (form %1).").arg(version));
     stream >> result.plate.width >> result.plate.depth >> result.plate.height >> count;
     const auto usable = [](double side) { return side >= 1.0 && side <= 10000.0; };
-    if (!usable(result.plate.width) || !usable(result.plate.depth) || !usable(result.plate.height)
-        || count > k_most_parts)
+    if (!usable(result.plate.width) || !usable(result.plate.depth) ||
+        !usable(result.plate.height) || count > k_most_parts)
         return fail(tr("The build is damaged: its head makes no sense."));
     std::vector<MeshPtr> meshes;
     for (quint32 i = 0; i < count; ++i) {
@@ -137,7 +140,8 @@ BuildFile::Result BuildFile::Read(const QByteArray& bytes)
         Vec3 shift;
         stream >> shift.x >> shift.y >> shift.z;
         placement.SetShift(shift);
-        if (stream.status() != QDataStream::Ok || mesh >= meshes.size() || !finite || !IsFinite(shift))
+        if (stream.status() != QDataStream::Ok || mesh >= meshes.size() || !finite ||
+            !IsFinite(shift))
             return fail(tr("The build is damaged: part %1 cannot be read.").arg(i + 1));
         Part part(name, meshes[mesh], color);
         part.file = file;
@@ -155,7 +159,8 @@ QString BuildFile::Save(const QString& path, const PartList& parts, const Plate&
     if (!file.open(QIODevice::WriteOnly))
         return tr("The file cannot be written: %1.").arg(file.errorString());
     file.write(Write(parts, plate));
-    return file.commit() ? QString() : tr("The file cannot be written: %1.").arg(file.errorString());
+    return file.commit() ? QString()
+                         : tr("The file cannot be written: %1.").arg(file.errorString());
 }
 
 BuildFile::Result BuildFile::Load(const QString& path)

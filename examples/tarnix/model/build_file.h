@@ -18,7 +18,7 @@ public:
     {
         PartList parts;
         Plate plate;
-        QString error;   ///< empty when all went well
+        QString error; ///< empty when all went well
 
         explicit operator bool() const { return error.isEmpty(); }
     };

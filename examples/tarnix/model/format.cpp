@@ -43,8 +43,8 @@ QString Formatter::Length(double mm) const
 QString Formatter::Size(const Vec3& size) const
 {
     const QString times = QStringLiteral(" \u00d7 ");
-    return LengthNumber(size.x) + times + LengthNumber(size.y) + times + LengthNumber(size.z)
-        + QLatin1Char(' ') + Suffix();
+    return LengthNumber(size.x) + times + LengthNumber(size.y) + times + LengthNumber(size.z) +
+           QLatin1Char(' ') + Suffix();
 }
 
 QString Formatter::Point(const Vec3& point) const
@@ -56,14 +56,16 @@ QString Formatter::Point(const Vec3& point) const
 QString Formatter::Area(double mm2) const
 {
     const double factor = m_unit == LengthUnit::Inch ? k_mm_per_inch * k_mm_per_inch : 100.0;
-    const QString suffix = m_unit == LengthUnit::Inch ? QObject::tr("in\u00b2") : QObject::tr("cm\u00b2");
+    const QString suffix =
+        m_unit == LengthUnit::Inch ? QObject::tr("in\u00b2") : QObject::tr("cm\u00b2");
     return Number(mm2 / factor, 2) + QLatin1Char(' ') + suffix;
 }
 
 QString Formatter::Volume(double mm3) const
 {
     const double factor = m_unit == LengthUnit::Inch ? std::pow(k_mm_per_inch, 3.0) : 1000.0;
-    const QString suffix = m_unit == LengthUnit::Inch ? QObject::tr("in\u00b3") : QObject::tr("cm\u00b3");
+    const QString suffix =
+        m_unit == LengthUnit::Inch ? QObject::tr("in\u00b3") : QObject::tr("cm\u00b3");
     return Number(mm3 / factor, 2) + QLatin1Char(' ') + suffix;
 }
 

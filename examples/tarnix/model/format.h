@@ -6,7 +6,11 @@
 
 namespace tarnix {
 
-enum class LengthUnit { Millimetre, Inch };
+enum class LengthUnit
+{
+    Millimetre,
+    Inch
+};
 
 /// Numbers for people, in a unit of length; all values come in millimetres.
 class Formatter

@@ -94,7 +94,8 @@ std::optional<Vec3> CircleCenter(const Vec3& a, const Vec3& b, const Vec3& c)
     const double square = Dot(normal, normal);
     if (square < 1e-12 * Dot(ab, ab) * Dot(ac, ac) || square == 0.0)
         return std::nullopt;
-    const Vec3 shift = (Cross(normal, ab) * Dot(ac, ac) + Cross(ac, normal) * Dot(ab, ab)) / (2.0 * square);
+    const Vec3 shift =
+        (Cross(normal, ab) * Dot(ac, ac) + Cross(ac, normal) * Dot(ab, ab)) / (2.0 * square);
     return a + shift;
 }
 
@@ -114,7 +115,8 @@ std::optional<Measurement> Measure(MeasureKind kind, const std::vector<Vec3>& po
         const Vec3 second = points[2] - points[1];
         if (Length(first) == 0.0 || Length(second) == 0.0)
             return std::nullopt;
-        result.value = qRadiansToDegrees(std::atan2(Length(Cross(first, second)), Dot(first, second)));
+        result.value =
+            qRadiansToDegrees(std::atan2(Length(Cross(first, second)), Dot(first, second)));
     } else if (kind == MeasureKind::Radius) {
         const std::optional<Vec3> center = CircleCenter(points[0], points[1], points[2]);
         if (!center)

@@ -11,7 +11,15 @@
 namespace tarnix {
 
 /// What a measurement says; the number of points that it takes differs.
-enum class MeasureKind { Point, Distance, Angle, Radius, Box, Gap };
+enum class MeasureKind
+{
+    Point,
+    Distance,
+    Angle,
+    Radius,
+    Box,
+    Gap
+};
 
 /// Points that the user must pick for a kind; 0 for the kinds that take parts.
 int PointsNeeded(MeasureKind kind);
@@ -19,9 +27,9 @@ int PointsNeeded(MeasureKind kind);
 struct Measurement
 {
     MeasureKind kind = MeasureKind::Point;
-    std::vector<Vec3> points;   ///< in the order of picking; for boxes the low and the high corner
-    double value = 0.0;         ///< millimetres, or degrees for an angle
-    QString subject;            ///< names of the parts, for kinds that take parts
+    std::vector<Vec3> points; ///< in the order of picking; for boxes the low and the high corner
+    double value = 0.0;       ///< millimetres, or degrees for an angle
+    QString subject;          ///< names of the parts, for kinds that take parts
 
     /// The title of the kind, for lists.
     QString Title() const;

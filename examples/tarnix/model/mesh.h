@@ -31,19 +31,22 @@ struct Edge
     uint32_t to = 0;
 };
 
-inline bool operator==(const Edge& x, const Edge& y) { return x.from == y.from && x.to == y.to; }
+inline bool operator==(const Edge& x, const Edge& y)
+{
+    return x.from == y.from && x.to == y.to;
+}
 
 /// What a mesh's neighbourhoods look like; a part can be built when IsSolid().
 struct Topology
 {
-    int shells = 0;                      ///< connected pieces
-    int open_edges = 0;                  ///< edges of one triangle only
-    int crowded_edges = 0;               ///< edges of more than two triangles
-    int reversed_edges = 0;              ///< edges whose two triangles disagree about the outside
-    int degenerate = 0;                  ///< triangles of no area
-    int duplicates = 0;                  ///< triangles that are there twice
-    std::vector<int> shell_of_triangle;  ///< 0 ... shells-1 for each triangle
-    std::vector<Edge> open;              ///< the open edges, in the direction of their triangle
+    int shells = 0;                     ///< connected pieces
+    int open_edges = 0;                 ///< edges of one triangle only
+    int crowded_edges = 0;              ///< edges of more than two triangles
+    int reversed_edges = 0;             ///< edges whose two triangles disagree about the outside
+    int degenerate = 0;                 ///< triangles of no area
+    int duplicates = 0;                 ///< triangles that are there twice
+    std::vector<int> shell_of_triangle; ///< 0 ... shells-1 for each triangle
+    std::vector<Edge> open;             ///< the open edges, in the direction of their triangle
 
     bool IsSolid() const { return open_edges == 0 && crowded_edges == 0 && reversed_edges == 0; }
 };

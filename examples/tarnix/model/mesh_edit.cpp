@@ -15,7 +15,8 @@ uint64_t EdgeKey(uint32_t a, uint32_t b)
     return (static_cast<uint64_t>(std::min(a, b)) << 32) | std::max(a, b);
 }
 
-void Relax(std::vector<Vec3>& points, const std::vector<std::vector<uint32_t>>& neighbours, double factor)
+void Relax(std::vector<Vec3>& points, const std::vector<std::vector<uint32_t>>& neighbours,
+           double factor)
 {
     std::vector<Vec3> moved = points;
     for (size_t i = 0; i < points.size(); ++i) {
@@ -24,7 +25,8 @@ void Relax(std::vector<Vec3>& points, const std::vector<std::vector<uint32_t>>& 
         Vec3 sum;
         for (const uint32_t other : neighbours[i])
             sum = sum + points[other];
-        moved[i] = points[i] + (sum / static_cast<double>(neighbours[i].size()) - points[i]) * factor;
+        moved[i] =
+            points[i] + (sum / static_cast<double>(neighbours[i].size()) - points[i]) * factor;
     }
     points.swap(moved);
 }
@@ -39,14 +41,16 @@ Mesh Subdivide(const Mesh& mesh)
     std::unordered_map<uint64_t, uint32_t> middles;
     middles.reserve(mesh.Triangles().size() * 2);
     const auto middle = [&](uint32_t a, uint32_t b) {
-        const auto [it, added] = middles.emplace(EdgeKey(a, b), static_cast<uint32_t>(points.size()));
+        const auto [it, added] =
+            middles.emplace(EdgeKey(a, b), static_cast<uint32_t>(points.size()));
         if (added)
             points.push_back((points[a] + points[b]) * 0.5);
         return it->second;
     };
     for (const Triangle& t : mesh.Triangles()) {
         const uint32_t ab = middle(t.a, t.b), bc = middle(t.b, t.c), ca = middle(t.c, t.a);
-        triangles.insert(triangles.end(), {{t.a, ab, ca}, {ab, t.b, bc}, {ca, bc, t.c}, {ab, bc, ca}});
+        triangles.insert(triangles.end(),
+                         {{t.a, ab, ca}, {ab, t.b, bc}, {ca, bc, t.c}, {ab, bc, ca}});
     }
     return Mesh(std::move(points), std::move(triangles));
 }
@@ -77,8 +81,8 @@ Mesh Simplify(const Mesh& mesh, double cell)
     for (const Vec3& p : mesh.Points()) {
         std::array<int64_t, 3> key;
         for (int axis = 0; axis < 3; ++axis)
-            key[static_cast<size_t>(axis)]
-                = static_cast<int64_t>(std::floor((p[axis] - mesh.Bounds().low[axis]) / cell + 0.5));
+            key[static_cast<size_t>(axis)] =
+                static_cast<int64_t>(std::floor((p[axis] - mesh.Bounds().low[axis]) / cell + 0.5));
         Cluster& cluster = clusters[key];
         cluster.sum = cluster.sum + p;
         ++cluster.count;
@@ -112,15 +116,16 @@ Vec3 BestBottom(const Mesh& mesh)
         const Triangle& t = mesh.Triangles()[i];
         const Vec3& a = mesh.Points()[t.a];
         const double area = 0.5 * Length(Cross(mesh.Points()[t.b] - a, mesh.Points()[t.c] - a));
-        Side& side = sides[{std::llround(n.x * 200), std::llround(n.y * 200), std::llround(n.z * 200),
-                            std::llround(Dot(n, a) / reach * 500)}];
+        Side& side = sides[{std::llround(n.x * 200), std::llround(n.y * 200),
+                            std::llround(n.z * 200), std::llround(Dot(n, a) / reach * 500)}];
         side.sum = side.sum + n * area;
         side.area += area;
     }
     std::vector<Side> ranked;
     for (const auto& entry : sides)
         ranked.push_back(entry.second);
-    std::sort(ranked.begin(), ranked.end(), [](const Side& x, const Side& y) { return x.area > y.area; });
+    std::sort(ranked.begin(), ranked.end(),
+              [](const Side& x, const Side& y) { return x.area > y.area; });
     if (ranked.empty())
         return {};
     constexpr size_t k_tried = 24;
@@ -132,7 +137,8 @@ Vec3 BestBottom(const Mesh& mesh)
             farthest = std::max(farthest, Dot(n, p));
         for (size_t k = 0; k < mesh.Triangles().size(); ++k) {
             const Triangle& t = mesh.Triangles()[k];
-            if (Dot(mesh.Normals()[k], n) > 0.999 && Dot(n, mesh.Points()[t.a]) > farthest - 1e-3 * reach)
+            if (Dot(mesh.Normals()[k], n) > 0.999 &&
+                Dot(n, mesh.Points()[t.a]) > farthest - 1e-3 * reach)
                 area_there += 0.5 * Length(Cross(mesh.Points()[t.b] - mesh.Points()[t.a],
                                                  mesh.Points()[t.c] - mesh.Points()[t.a]));
         }

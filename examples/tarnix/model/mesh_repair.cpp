@@ -95,7 +95,8 @@ Mesh JoinPoints(const Mesh& mesh, double tolerance, RepairReport& report)
             cell[static_cast<size_t>(axis)] = static_cast<int64_t>(std::floor(p[axis] / tolerance));
         target[i] = i;
         for (int n = 0; n < 27 && target[i] == i; ++n) {
-            const auto near = cells.find({cell[0] + n % 3 - 1, cell[1] + n / 3 % 3 - 1, cell[2] + n / 9 - 1});
+            const auto near =
+                cells.find({cell[0] + n % 3 - 1, cell[1] + n / 3 % 3 - 1, cell[2] + n / 9 - 1});
             if (near == cells.end())
                 continue;
             for (const uint32_t other : near->second) {
@@ -124,7 +125,9 @@ Mesh OrientNormals(const Mesh& mesh, RepairReport& report)
     const size_t count = triangles.size();
     std::unordered_map<uint64_t, std::vector<uint32_t>> by_edge;
     by_edge.reserve(count * 2);
-    const auto edge_key = [](uint32_t a, uint32_t b) { return DirectedKey(std::min(a, b), std::max(a, b)); };
+    const auto edge_key = [](uint32_t a, uint32_t b) {
+        return DirectedKey(std::min(a, b), std::max(a, b));
+    };
     for (uint32_t i = 0; i < count; ++i) {
         for (int corner = 0; corner < 3; ++corner)
             by_edge[edge_key(triangles[i][corner], triangles[i][(corner + 1) % 3])].push_back(i);

@@ -7,10 +7,10 @@ namespace tarnix {
 /// What a repair did, for the message to the user.
 struct RepairReport
 {
-    int removed = 0;   ///< triangles taken out
-    int turned = 0;    ///< triangles turned round
-    int added = 0;     ///< triangles that close holes
-    int joined = 0;    ///< points that fell together
+    int removed = 0; ///< triangles taken out
+    int turned = 0;  ///< triangles turned round
+    int added = 0;   ///< triangles that close holes
+    int joined = 0;  ///< points that fell together
 
     bool IsEmpty() const { return removed == 0 && turned == 0 && added == 0 && joined == 0; }
     RepairReport& operator+=(const RepairReport& other);

@@ -137,9 +137,9 @@ std::vector<Edge> ComputeFeatureEdges(const Mesh& mesh, double degrees)
     std::vector<Edge> edges;
     const std::vector<Side> sides = SortedSides(mesh);
     ForEachEdge(sides, [&](size_t first, size_t last) {
-        const bool smooth = last - first == 2
-            && Dot(mesh.Normals()[sides[first].triangle], mesh.Normals()[sides[first + 1].triangle])
-                > limit;
+        const bool smooth =
+            last - first == 2 && Dot(mesh.Normals()[sides[first].triangle],
+                                     mesh.Normals()[sides[first + 1].triangle]) > limit;
         if (!smooth)
             edges.push_back(DirectedEdge(sides[first]));
     });

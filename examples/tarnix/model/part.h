@@ -14,12 +14,12 @@ public:
     Part() = default;
     Part(const QString& name, MeshPtr mesh, QRgb color);
 
-    int id = 0;            ///< unique in the scene and never given twice
+    int id = 0; ///< unique in the scene and never given twice
     QString name;
-    QString file;          ///< where it was read from; empty for a part made here
+    QString file; ///< where it was read from; empty for a part made here
     QRgb color = 0;
     bool visible = true;
-    bool locked = false;   ///< a locked part is not moved, changed or deleted
+    bool locked = false; ///< a locked part is not moved, changed or deleted
     bool selected = false;
 
     const MeshPtr& GetMesh() const { return m_mesh; }

@@ -35,9 +35,8 @@ bool InTriangle(const Point2& p, const Point2& a, const Point2& b, const Point2&
 /// an edge; the bridge goes to that edge's end, or to a corner that stands in between.
 void Bridge(Ring& ring, const Ring& hole)
 {
-    const auto rightmost = std::max_element(hole.begin(), hole.end(), [](const Corner& a, const Corner& b) {
-        return a.at.x < b.at.x;
-    });
+    const auto rightmost = std::max_element(
+        hole.begin(), hole.end(), [](const Corner& a, const Corner& b) { return a.at.x < b.at.x; });
     const Point2 from = rightmost->at;
     double nearest = std::numeric_limits<double>::max();
     size_t target = ring.size();
@@ -61,7 +60,8 @@ void Bridge(Ring& ring, const Ring& hole)
         const Point2& p = ring[i].at;
         if (p.x < from.x || Same(p, end))
             continue;
-        const bool inside = end.y > from.y ? InTriangle(p, from, hit, end) : InTriangle(p, from, end, hit);
+        const bool inside =
+            end.y > from.y ? InTriangle(p, from, hit, end) : InTriangle(p, from, end, hit);
         if (!inside)
             continue;
         const double slope = std::abs(p.y - from.y) / std::max(1e-12, p.x - from.x);
@@ -150,8 +150,8 @@ bool Contains(const Polygon& polygon, const Point2& point)
     for (size_t i = 0, k = polygon.size() - 1; i < polygon.size(); k = i++) {
         const Point2& a = polygon[i];
         const Point2& b = polygon[k];
-        if ((a.y > point.y) != (b.y > point.y)
-            && point.x < (b.x - a.x) * (point.y - a.y) / (b.y - a.y) + a.x)
+        if ((a.y > point.y) != (b.y > point.y) &&
+            point.x < (b.x - a.x) * (point.y - a.y) / (b.y - a.y) + a.x)
             inside = !inside;
     }
     return inside;
@@ -212,9 +212,8 @@ Mesh CloseFlat(const Mesh& half, double z, bool upper)
     std::vector<Polygon> polygons;
     std::vector<uint32_t> numbers;
     for (std::vector<uint32_t> loop : OpenLoops(half)) {
-        const bool at_height = std::all_of(loop.begin(), loop.end(), [&](uint32_t i) {
-            return half.Points()[i].z == z;
-        });
+        const bool at_height = std::all_of(loop.begin(), loop.end(),
+                                           [&](uint32_t i) { return half.Points()[i].z == z; });
         if (!at_height || loop.size() < 3)
             continue;
         // Open edges run with their triangles: the cover runs against them. Seen from above the

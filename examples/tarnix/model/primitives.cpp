@@ -29,7 +29,8 @@ Mesh Revolve(const std::vector<std::pair<double, double>>& profile, int sides, b
             const auto at = [&](size_t ring, int k) {
                 return pole[ring] ? first[ring] : first[ring] + static_cast<uint32_t>(k % sides);
             };
-            const uint32_t a = at(band, i), b = at(band, i + 1), c = at(next, i + 1), d = at(next, i);
+            const uint32_t a = at(band, i), b = at(band, i + 1), c = at(next, i + 1),
+                           d = at(next, i);
             if (a != b)
                 triangles.push_back({a, b, c});
             if (c != d)
@@ -47,9 +48,18 @@ Mesh MakeBox(const Vec3& size)
     for (int i = 0; i < 8; ++i)
         points.push_back({((i & 1) ? 0.5 : -0.5) * size.x, ((i & 2) ? 0.5 : -0.5) * size.y,
                           (i & 4) ? size.z : 0.0});
-    return Mesh(std::move(points),
-                {{0, 2, 3}, {0, 3, 1}, {4, 5, 7}, {4, 7, 6}, {0, 1, 5}, {0, 5, 4},
-                 {2, 6, 7}, {2, 7, 3}, {0, 4, 6}, {0, 6, 2}, {1, 3, 7}, {1, 7, 5}});
+    return Mesh(std::move(points), {{0, 2, 3},
+                                    {0, 3, 1},
+                                    {4, 5, 7},
+                                    {4, 7, 6},
+                                    {0, 1, 5},
+                                    {0, 5, 4},
+                                    {2, 6, 7},
+                                    {2, 7, 3},
+                                    {0, 4, 6},
+                                    {0, 6, 2},
+                                    {1, 3, 7},
+                                    {1, 7, 5}});
 }
 
 Mesh MakeCylinder(double radius, double height, int sides)
@@ -72,7 +82,8 @@ Mesh MakeSphere(double radius, int rings)
     for (int i = 0; i <= rings; ++i) {
         const double angle = M_PI * i / rings;
         const bool end = i == 0 || i == rings;
-        profile.emplace_back(end ? 0.0 : radius * std::sin(angle), radius - radius * std::cos(angle));
+        profile.emplace_back(end ? 0.0 : radius * std::sin(angle),
+                             radius - radius * std::cos(angle));
     }
     return Revolve(profile, rings * 2, false);
 }

@@ -59,8 +59,8 @@ bool Scene::EditSelected(const QString& title, const std::function<void(Part&)>&
 bool Scene::EditSelectedMerged(const QString& title, int merge_key,
                                const std::function<void(Part&)>& change)
 {
-    const bool joins = merge_key != 0 && merge_key == m_merge_key && !m_undo.empty()
-        && m_undo.back().title == title && m_redo.empty();
+    const bool joins = merge_key != 0 && merge_key == m_merge_key && !m_undo.empty() &&
+                       m_undo.back().title == title && m_redo.empty();
     if (!joins) {
         const bool done = EditSelected(title, change);
         m_merge_key = done ? merge_key : 0;
@@ -155,7 +155,8 @@ void Scene::SelectNext(int direction)
     if (visible.empty())
         return;
     const int count = static_cast<int>(visible.size());
-    const int next = current < 0 ? (direction > 0 ? 0 : count - 1) : (current + direction + count) % count;
+    const int next =
+        current < 0 ? (direction > 0 ? 0 : count - 1) : (current + direction + count) % count;
     SelectOnly(visible[static_cast<size_t>(next)]);
 }
 
@@ -197,8 +198,8 @@ void Scene::Rename(int id, const QString& name)
 
 int Scene::SelectedCount() const
 {
-    return static_cast<int>(
-        std::count_if(m_parts.begin(), m_parts.end(), [](const Part& part) { return part.selected; }));
+    return static_cast<int>(std::count_if(m_parts.begin(), m_parts.end(),
+                                          [](const Part& part) { return part.selected; }));
 }
 
 std::vector<const Part*> Scene::Selected() const

@@ -46,7 +46,8 @@ public:
     bool EditSelected(const QString& title, const std::function<void(Part&)>& change);
     /// As EditSelected, joined to the last step while it has the same title and `merge_key` and
     /// nothing else came in between: a drag or a burst of arrow keys is one step.
-    bool EditSelectedMerged(const QString& title, int merge_key, const std::function<void(Part&)>& change);
+    bool EditSelectedMerged(const QString& title, int merge_key,
+                            const std::function<void(Part&)>& change);
     /// Ends merging: the next merged edit is a step of its own.
     void EndMerge() { m_merge_key = 0; }
 

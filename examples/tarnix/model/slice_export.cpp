@@ -33,14 +33,16 @@ std::vector<std::pair<int, Slice>> SliceScene(const PartList& parts, double z)
 QByteArray SliceSvg(const std::vector<std::pair<int, Slice>>& slices, const Plate& plate,
                     double hatch_spacing, double hatch_degrees)
 {
-    QByteArray svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + N(plate.width) + "mm\" height=\""
-        + N(plate.depth) + "mm\" viewBox=\"0 0 " + N(plate.width) + ' ' + N(plate.depth) + "\">\n"
-        + "<rect width=\"" + N(plate.width) + "\" height=\"" + N(plate.depth)
-        + "\" fill=\"none\" stroke=\"#999999\" stroke-width=\"0.2\"/>\n";
+    QByteArray svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + N(plate.width) +
+                     "mm\" height=\"" + N(plate.depth) + "mm\" viewBox=\"0 0 " + N(plate.width) +
+                     ' ' + N(plate.depth) + "\">\n" + "<rect width=\"" + N(plate.width) +
+                     "\" height=\"" + N(plate.depth) +
+                     "\" fill=\"none\" stroke=\"#999999\" stroke-width=\"0.2\"/>\n";
     for (const auto& [part, slice] : slices) {
         svg += "<g id=\"part" + QByteArray::number(part) + "\">\n";
         if (!slice.contours.empty()) {
-            svg += "<path fill=\"#000000\" fill-opacity=\"0.15\" fill-rule=\"evenodd\" stroke=\"#000000\" "
+            svg += "<path fill=\"#000000\" fill-opacity=\"0.15\" fill-rule=\"evenodd\" "
+                   "stroke=\"#000000\" "
                    "stroke-width=\"0.1\" d=\"";
             for (const Polygon& contour : slice.contours) {
                 for (size_t i = 0; i < contour.size(); ++i)

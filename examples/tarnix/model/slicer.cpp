@@ -83,7 +83,8 @@ Slice SliceMesh(const Mesh& mesh, const Transform& placement, double z)
         by_start.emplace(pieces[i].from, i);
         by_end.emplace(pieces[i].to, i);
     }
-    const auto unused = [&pieces](const std::unordered_multimap<uint64_t, size_t>& map, uint64_t key) {
+    const auto unused = [&pieces](const std::unordered_multimap<uint64_t, size_t>& map,
+                                  uint64_t key) {
         const auto range = map.equal_range(key);
         for (auto it = range.first; it != range.second; ++it) {
             if (!pieces[it->second].used)
@@ -120,7 +121,8 @@ Slice SliceMesh(const Mesh& mesh, const Transform& placement, double z)
             if (line.empty() || line.back().x != p.x || line.back().y != p.y)
                 line.push_back(p);
         }
-        while (closed && line.size() > 1 && line.front().x == line.back().x && line.front().y == line.back().y)
+        while (closed && line.size() > 1 && line.front().x == line.back().x &&
+               line.front().y == line.back().y)
             line.pop_back();
         if (closed && line.size() >= 3)
             slice.contours.push_back(std::move(line));
@@ -138,7 +140,9 @@ std::vector<Segment2> Hatch(const Slice& slice, double spacing, double degrees)
     const double c = std::cos(qDegreesToRadians(degrees));
     const double s = std::sin(qDegreesToRadians(degrees));
     // In the turned frame the lines are level: u runs along them, v across.
-    const auto turned = [c, s](const Point2& p) { return Point2{p.x * c + p.y * s, p.y * c - p.x * s}; };
+    const auto turned = [c, s](const Point2& p) {
+        return Point2{p.x * c + p.y * s, p.y * c - p.x * s};
+    };
     const auto back = [c, s](double u, double v) { return Point2{u * c - v * s, u * s + v * c}; };
     std::unordered_map<int64_t, std::vector<double>> rows;
     for (const Polygon& contour : slice.contours) {
@@ -148,7 +152,8 @@ std::vector<Segment2> Hatch(const Slice& slice, double spacing, double degrees)
             if (a.y > b.y)
                 std::swap(a, b);
             // Half-open at the top, so that a corner on a line counts once.
-            for (auto row = static_cast<int64_t>(std::ceil(a.y / spacing)); row * spacing < b.y; ++row)
+            for (auto row = static_cast<int64_t>(std::ceil(a.y / spacing)); row * spacing < b.y;
+                 ++row)
                 rows[row].push_back(a.x + (row * spacing - a.y) / (b.y - a.y) * (b.x - a.x));
         }
     }
@@ -174,7 +179,8 @@ LayerStack::LayerStack(double height, double thickness)
     constexpr double k_most = 1.0e6;
     m_thickness = thickness;
     // A rest of less than a thousandth of a layer comes from rounding, not from the part.
-    m_count = static_cast<int>(std::min(k_most, std::max(1.0, std::ceil(height / thickness - 1e-3))));
+    m_count =
+        static_cast<int>(std::min(k_most, std::max(1.0, std::ceil(height / thickness - 1e-3))));
 }
 
 int LayerStack::LayerAt(double z) const

@@ -9,7 +9,7 @@ namespace tarnix {
 struct Slice
 {
     double z = 0.0;
-    std::vector<Polygon> contours;        ///< closed; outlines counter-clockwise, holes clockwise
+    std::vector<Polygon> contours;         ///< closed; outlines counter-clockwise, holes clockwise
     std::vector<std::vector<Point2>> gaps; ///< lines that do not close: the solid is open there
 
     bool IsEmpty() const { return contours.empty() && gaps.empty(); }

@@ -24,9 +24,9 @@ double FloatAt(const char* data)
 
 bool IsUsable(const Vec3& p)
 {
-    return IsFinite(p) && std::abs(p.x) <= StlReader::k_max_coordinate
-        && std::abs(p.y) <= StlReader::k_max_coordinate
-        && std::abs(p.z) <= StlReader::k_max_coordinate;
+    return IsFinite(p) && std::abs(p.x) <= StlReader::k_max_coordinate &&
+           std::abs(p.y) <= StlReader::k_max_coordinate &&
+           std::abs(p.z) <= StlReader::k_max_coordinate;
 }
 
 /// Splits ASCII text into words and knows the line of the last one.
@@ -60,8 +60,8 @@ public:
     bool Is(const char* word) const
     {
         const size_t length = std::strlen(word);
-        return static_cast<size_t>(m_at - m_word) == length
-            && qstrnicmp(m_word, word, static_cast<uint>(length)) == 0;
+        return static_cast<size_t>(m_at - m_word) == length &&
+               qstrnicmp(m_word, word, static_cast<uint>(length)) == 0;
     }
 
     bool Number(double& value) const
@@ -212,14 +212,16 @@ StlReader::Result StlReader::ReadAscii(const QByteArray& bytes)
         }
         if (!words.Is("facet"))
             return expected("facet");
-        static constexpr const char* k_before[] = {"normal", nullptr, nullptr, nullptr, "outer", "loop"};
+        static constexpr const char* k_before[] = {"normal", nullptr, nullptr,
+                                                   nullptr,  "outer", "loop"};
         for (const char* word : k_before) {
             if (!words.Next())
                 return cut_off();
             double ignored = 0.0;
             if (word && !words.Is(word))
                 return expected(word);
-            // A normal may be anything that reads as a number, not-a-number among it: it is not used.
+            // A normal may be anything that reads as a number, not-a-number among it: it is not
+            // used.
             if (!word && !words.Number(ignored) && !words.Is("nan") && !words.Is("-nan"))
                 return expected("a number");
         }
@@ -289,9 +291,9 @@ QByteArray StlWriter::Ascii(const Mesh& mesh, const QString& name)
 {
     const QByteArray solid = name.simplified().toUtf8();
     const auto numbers = [](const Vec3& p) {
-        return QByteArray::number(static_cast<double>(static_cast<float>(p.x)), 'g', 9) + ' '
-            + QByteArray::number(static_cast<double>(static_cast<float>(p.y)), 'g', 9) + ' '
-            + QByteArray::number(static_cast<double>(static_cast<float>(p.z)), 'g', 9) + '\n';
+        return QByteArray::number(static_cast<double>(static_cast<float>(p.x)), 'g', 9) + ' ' +
+               QByteArray::number(static_cast<double>(static_cast<float>(p.y)), 'g', 9) + ' ' +
+               QByteArray::number(static_cast<double>(static_cast<float>(p.z)), 'g', 9) + '\n';
     };
     QByteArray text = "solid " + solid + '\n';
     for (size_t i = 0; i < mesh.Triangles().size(); ++i) {

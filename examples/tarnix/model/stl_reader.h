@@ -16,7 +16,11 @@ class StlReader
     Q_DECLARE_TR_FUNCTIONS(tarnix::StlReader)
 
 public:
-    enum class Format { Binary, Ascii };
+    enum class Format
+    {
+        Binary,
+        Ascii
+    };
 
     static constexpr qint64 k_max_bytes = 512ll * 1024 * 1024;
     static constexpr quint32 k_max_triangles = 5000000;
@@ -25,9 +29,9 @@ public:
 
     struct Result
     {
-        MeshPtr mesh;    ///< null when there was an error
-        QString name;    ///< the name that the file gives its solid, often empty
-        QString error;   ///< one sentence for the user, empty when all went well
+        MeshPtr mesh;  ///< null when there was an error
+        QString name;  ///< the name that the file gives its solid, often empty
+        QString error; ///< one sentence for the user, empty when all went well
         Format format = Format::Binary;
 
         explicit operator bool() const { return mesh != nullptr; }

@@ -47,7 +47,10 @@ public:
     Vec3 EulerAngles() const;
 
     double At(int row, int column) const { return m_rows[static_cast<size_t>(row)][column]; }
-    void Set(int row, int column, double value) { m_rows[static_cast<size_t>(row)][column] = value; }
+    void Set(int row, int column, double value)
+    {
+        m_rows[static_cast<size_t>(row)][column] = value;
+    }
     void SetShift(const Vec3& shift) { m_shift = shift; }
 
     friend bool operator==(const Transform& a, const Transform& b)
@@ -60,6 +63,9 @@ private:
     Vec3 m_shift;
 };
 
-inline bool operator!=(const Transform& a, const Transform& b) { return !(a == b); }
+inline bool operator!=(const Transform& a, const Transform& b)
+{
+    return !(a == b);
+}
 
 } // namespace tarnix

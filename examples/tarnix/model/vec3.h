@@ -18,20 +18,47 @@ struct Vec3
     double& operator[](int axis) { return axis == 0 ? x : axis == 1 ? y : z; }
 };
 
-inline Vec3 operator+(const Vec3& a, const Vec3& b) { return {a.x + b.x, a.y + b.y, a.z + b.z}; }
-inline Vec3 operator-(const Vec3& a, const Vec3& b) { return {a.x - b.x, a.y - b.y, a.z - b.z}; }
-inline Vec3 operator-(const Vec3& a) { return {-a.x, -a.y, -a.z}; }
-inline Vec3 operator*(const Vec3& a, double f) { return {a.x * f, a.y * f, a.z * f}; }
-inline Vec3 operator/(const Vec3& a, double f) { return {a.x / f, a.y / f, a.z / f}; }
-inline bool operator==(const Vec3& a, const Vec3& b) { return a.x == b.x && a.y == b.y && a.z == b.z; }
-inline bool operator!=(const Vec3& a, const Vec3& b) { return !(a == b); }
+inline Vec3 operator+(const Vec3& a, const Vec3& b)
+{
+    return {a.x + b.x, a.y + b.y, a.z + b.z};
+}
+inline Vec3 operator-(const Vec3& a, const Vec3& b)
+{
+    return {a.x - b.x, a.y - b.y, a.z - b.z};
+}
+inline Vec3 operator-(const Vec3& a)
+{
+    return {-a.x, -a.y, -a.z};
+}
+inline Vec3 operator*(const Vec3& a, double f)
+{
+    return {a.x * f, a.y * f, a.z * f};
+}
+inline Vec3 operator/(const Vec3& a, double f)
+{
+    return {a.x / f, a.y / f, a.z / f};
+}
+inline bool operator==(const Vec3& a, const Vec3& b)
+{
+    return a.x == b.x && a.y == b.y && a.z == b.z;
+}
+inline bool operator!=(const Vec3& a, const Vec3& b)
+{
+    return !(a == b);
+}
 
-inline double Dot(const Vec3& a, const Vec3& b) { return a.x * b.x + a.y * b.y + a.z * b.z; }
+inline double Dot(const Vec3& a, const Vec3& b)
+{
+    return a.x * b.x + a.y * b.y + a.z * b.z;
+}
 inline Vec3 Cross(const Vec3& a, const Vec3& b)
 {
     return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
-inline double Length(const Vec3& a) { return std::sqrt(Dot(a, a)); }
+inline double Length(const Vec3& a)
+{
+    return std::sqrt(Dot(a, a));
+}
 inline bool IsFinite(const Vec3& a)
 {
     return std::isfinite(a.x) && std::isfinite(a.y) && std::isfinite(a.z);

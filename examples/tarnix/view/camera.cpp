@@ -47,7 +47,8 @@ QPointF Camera::Project(const Vec3& point, const QSizeF& size, double* depth) co
     } else if (depth) {
         *depth = z + 1e6;
     }
-    return {size.width() / 2.0 + Dot(p, Right()) * scale, size.height() / 2.0 - Dot(p, Up()) * scale};
+    return {size.width() / 2.0 + Dot(p, Right()) * scale,
+            size.height() / 2.0 - Dot(p, Up()) * scale};
 }
 
 Ray Camera::RayAt(const QPointF& at, const QSizeF& size) const
@@ -103,8 +104,10 @@ void Camera::Fit(const Box& box, const QSizeF& size)
     target = box.Center();
     double half_width = 0.0, half_height = 0.0, front = 0.0;
     for (int corner = 0; corner < 8; ++corner) {
-        const Vec3 p = Vec3{(corner & 1) ? box.high.x : box.low.x, (corner & 2) ? box.high.y : box.low.y,
-                            (corner & 4) ? box.high.z : box.low.z} - target;
+        const Vec3 p =
+            Vec3{(corner & 1) ? box.high.x : box.low.x, (corner & 2) ? box.high.y : box.low.y,
+                 (corner & 4) ? box.high.z : box.low.z} -
+            target;
         half_width = std::max(half_width, std::abs(Dot(p, Right())));
         half_height = std::max(half_height, std::abs(Dot(p, Up())));
         front = std::max(front, Dot(p, Back()));
@@ -120,8 +123,8 @@ void Camera::Fit(const Box& box, const QSizeF& size)
 
 bool operator==(const Camera& a, const Camera& b)
 {
-    return a.target == b.target && a.azimuth == b.azimuth && a.elevation == b.elevation
-        && a.height == b.height && a.perspective == b.perspective;
+    return a.target == b.target && a.azimuth == b.azimuth && a.elevation == b.elevation &&
+           a.height == b.height && a.perspective == b.perspective;
 }
 
 } // namespace tarnix

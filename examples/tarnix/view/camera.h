@@ -11,7 +11,7 @@ namespace tarnix {
 struct Ray
 {
     Vec3 origin;
-    Vec3 direction;   ///< unit length
+    Vec3 direction; ///< unit length
 };
 
 /// Where the scene is seen from. Azimuth 0 is the front (from -y), 90 the right side; elevation 90
@@ -51,6 +51,9 @@ struct Camera
 };
 
 bool operator==(const Camera& a, const Camera& b);
-inline bool operator!=(const Camera& a, const Camera& b) { return !(a == b); }
+inline bool operator!=(const Camera& a, const Camera& b)
+{
+    return !(a == b);
+}
 
 } // namespace tarnix

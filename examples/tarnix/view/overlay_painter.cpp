@@ -12,7 +12,8 @@ std::array<Vec3, 8> CornersOf(const Box& box)
 {
     std::array<Vec3, 8> corners;
     for (size_t i = 0; i < 8; ++i)
-        corners[i] = {(i & 1) ? box.high.x : box.low.x, (i & 2) ? box.high.y : box.low.y, (i & 4) ? box.high.z : box.low.z};
+        corners[i] = {(i & 1) ? box.high.x : box.low.x, (i & 2) ? box.high.y : box.low.y,
+                      (i & 4) ? box.high.z : box.low.z};
     return corners;
 }
 
@@ -22,7 +23,8 @@ QColor WithAlpha(QColor color, int alpha)
     return color;
 }
 
-const QColor k_axis_colors[3] = {QColor(0xd6, 0x45, 0x41), QColor(0x3f, 0x9b, 0x57), QColor(0x2b, 0x7c, 0xd3)};
+const QColor k_axis_colors[3] = {QColor(0xd6, 0x45, 0x41), QColor(0x3f, 0x9b, 0x57),
+                                 QColor(0x2b, 0x7c, 0xd3)};
 
 } // namespace
 
@@ -37,7 +39,8 @@ bool OverlayPainter::IsAhead(const Vec3& point) const
 {
     if (!m_camera.perspective)
         return true;
-    return m_camera.EyeDistance() - tarnix::Dot(point - m_camera.target, m_camera.Back()) > 0.02 * m_camera.EyeDistance();
+    return m_camera.EyeDistance() - tarnix::Dot(point - m_camera.target, m_camera.Back()) >
+           0.02 * m_camera.EyeDistance();
 }
 
 Vec3 OverlayPainter::CutAhead(const Vec3& inside, const Vec3& outside) const
@@ -53,7 +56,8 @@ void OverlayPainter::Line(const Vec3& from, const Vec3& to)
     const bool from_ahead = IsAhead(from), to_ahead = IsAhead(to);
     if (!from_ahead && !to_ahead)
         return;
-    m_painter.drawLine(At(from_ahead ? from : CutAhead(to, from)), At(to_ahead ? to : CutAhead(from, to)));
+    m_painter.drawLine(At(from_ahead ? from : CutAhead(to, from)),
+                       At(to_ahead ? to : CutAhead(from, to)));
 }
 
 void OverlayPainter::Shape(const std::vector<Vec3>& corners)
@@ -88,9 +92,13 @@ void OverlayPainter::PlateAndGrid(const Plate& plate, const ViewState& state, co
         m_painter.setBrush(WithAlpha(m_colors.plate, from_below ? 120 : 255));
         Shape(corners);
     }
-    const bool whole = std::all_of(corners.begin(), corners.end(), [this](const Vec3& p) { return IsAhead(p); });
+    const bool whole =
+        std::all_of(corners.begin(), corners.end(), [this](const Vec3& p) { return IsAhead(p); });
     if (state.shadows && !from_below && whole && !shadow.isNull()) {
-        const QPolygonF from({{0.0, 0.0}, {qreal(shadow.width()), 0.0}, {qreal(shadow.width()), qreal(shadow.height())}, {0.0, qreal(shadow.height())}});
+        const QPolygonF from({{0.0, 0.0},
+                              {qreal(shadow.width()), 0.0},
+                              {qreal(shadow.width()), qreal(shadow.height())},
+                              {0.0, qreal(shadow.height())}});
         const QPolygonF to({At(corners[3]), At(corners[2]), At(corners[1]), At(corners[0])});
         QTransform map;
         if (QTransform::quadToQuad(from, to, map)) {
@@ -103,7 +111,9 @@ void OverlayPainter::PlateAndGrid(const Plate& plate, const ViewState& state, co
     }
     if (state.grid) {
         // Lines nearer together than a few pixels would be a grey haze: coarser ones then.
-        const double pixels = m_camera.Scale(m_size) * std::max(0.12, std::abs(std::sin(qDegreesToRadians(m_camera.elevation))));
+        const double pixels =
+            m_camera.Scale(m_size) *
+            std::max(0.12, std::abs(std::sin(qDegreesToRadians(m_camera.elevation))));
         double step = m_format.Unit() == LengthUnit::Inch ? k_mm_per_inch / 2.0 : 10.0;
         while (step * pixels < 7.0)
             step *= 5.0;
@@ -157,7 +167,8 @@ void OverlayPainter::Axes(const Plate& plate)
         Line(origin, tip);
         tip[axis] += length * 0.16;
         if (IsAhead(tip))
-            m_painter.drawText(QRectF(At(tip) - QPointF(8, 8), QSizeF(16, 16)), Qt::AlignCenter, QLatin1String(k_names[axis]));
+            m_painter.drawText(QRectF(At(tip) - QPointF(8, 8), QSizeF(16, 16)), Qt::AlignCenter,
+                               QLatin1String(k_names[axis]));
     }
 }
 
@@ -166,7 +177,8 @@ void OverlayPainter::PartBoxes(const PartList& parts)
     for (const Part& part : parts) {
         if (!part.visible)
             continue;
-        m_painter.setPen(QPen(part.selected ? m_colors.accent : QColor::fromRgb(part.color), part.selected ? 2.2 : 1.5));
+        m_painter.setPen(QPen(part.selected ? m_colors.accent : QColor::fromRgb(part.color),
+                              part.selected ? 2.2 : 1.5));
         BoxEdges(part.Bounds());
     }
 }
@@ -188,10 +200,15 @@ void OverlayPainter::SelectionSizes(const PartList& parts)
     const double x = back.x >= 0.0 ? box.high.x : box.low.x;
     const double y = back.y >= 0.0 ? box.high.y : box.low.y;
     const Vec3 middle = box.Center();
-    Bubble(At({middle.x, y, box.low.z}) + QPointF(0, 14), m_format.Length(size.x), k_axis_colors[0]);
-    Bubble(At({x, middle.y, box.low.z}) + QPointF(0, 14), m_format.Length(size.y), k_axis_colors[1]);
-    const double side_x = tarnix::Dot(m_camera.Right(), {1, 0, 0}) * (back.y >= 0.0 ? -1 : 1) >= 0.0 ? box.high.x : box.low.x;
-    Bubble(At({side_x, back.y >= 0.0 ? box.low.y : box.high.y, middle.z}) + QPointF(0, 0), m_format.Length(size.z), k_axis_colors[2]);
+    Bubble(At({middle.x, y, box.low.z}) + QPointF(0, 14), m_format.Length(size.x),
+           k_axis_colors[0]);
+    Bubble(At({x, middle.y, box.low.z}) + QPointF(0, 14), m_format.Length(size.y),
+           k_axis_colors[1]);
+    const double side_x = tarnix::Dot(m_camera.Right(), {1, 0, 0}) * (back.y >= 0.0 ? -1 : 1) >= 0.0
+                              ? box.high.x
+                              : box.low.x;
+    Bubble(At({side_x, back.y >= 0.0 ? box.low.y : box.high.y, middle.z}) + QPointF(0, 0),
+           m_format.Length(size.z), k_axis_colors[2]);
 }
 
 void OverlayPainter::Names(const PartList& parts)
@@ -202,7 +219,8 @@ void OverlayPainter::Names(const PartList& parts)
         const Vec3 middle = part.Bounds().Center();
         const Vec3 top{middle.x, middle.y, part.Bounds().high.z};
         if (IsAhead(top))
-            Bubble(At(top) - QPointF(0, 16), part.name, part.selected ? m_colors.accent : QColor::fromRgb(part.color));
+            Bubble(At(top) - QPointF(0, 16), part.name,
+                   part.selected ? m_colors.accent : QColor::fromRgb(part.color));
     }
 }
 
@@ -236,7 +254,8 @@ void OverlayPainter::SectionFrame(const Section& section, const Box& about)
     const int u = (section.axis + 1) % 3, v = (section.axis + 2) % 3;
     const double margin = 0.06 * Length(about.Size()) + 2.0;
     std::vector<Vec3> corners;
-    for (const auto& [a, b] : {std::pair{-1, -1}, std::pair{1, -1}, std::pair{1, 1}, std::pair{-1, 1}}) {
+    for (const auto& [a, b] :
+         {std::pair{-1, -1}, std::pair{1, -1}, std::pair{1, 1}, std::pair{-1, 1}}) {
         Vec3 corner;
         corner[section.axis] = section.at;
         corner[u] = a < 0 ? about.low[u] - margin : about.high[u] + margin;
@@ -248,10 +267,14 @@ void OverlayPainter::SectionFrame(const Section& section, const Box& about)
     Shape(corners);
     static const char* const k_names[3] = {"X", "Y", "Z"};
     if (IsAhead(corners[2]))
-        Bubble(At(corners[2]), QLatin1String(k_names[section.axis]) + QStringLiteral("  ") + m_format.Length(section.at), k_axis_colors[section.axis]);
+        Bubble(At(corners[2]),
+               QLatin1String(k_names[section.axis]) + QStringLiteral("  ") +
+                   m_format.Length(section.at),
+               k_axis_colors[section.axis]);
 }
 
-void OverlayPainter::CurrentLayer(const PartList& parts, const std::vector<const Slice*>& slices, const LayerOptions& options)
+void OverlayPainter::CurrentLayer(const PartList& parts, const std::vector<const Slice*>& slices,
+                                  const LayerOptions& options)
 {
     for (size_t i = 0; i < parts.size(); ++i) {
         if (!slices[i])
@@ -274,7 +297,8 @@ void OverlayPainter::CurrentLayer(const PartList& parts, const std::vector<const
         }
         if (options.hatched) {
             m_painter.setPen(QPen(color.darker(options.filled ? 170 : 130), 1.0));
-            for (const Segment2& line : Hatch(slice, options.hatch_spacing, options.DegreesOf(options.current)))
+            for (const Segment2& line :
+                 Hatch(slice, options.hatch_spacing, options.DegreesOf(options.current)))
                 Line({line.from.x, line.from.y, slice.z}, {line.to.x, line.to.y, slice.z});
         }
     }
@@ -289,8 +313,8 @@ void OverlayPainter::Dot(const Vec3& point, const QColor& color)
     m_painter.drawEllipse(At(point), 4.5, 4.5);
 }
 
-void OverlayPainter::Measurements(const std::vector<Measurement>& measurements, const std::vector<Vec3>& picked,
-                                  const Vec3* candidate)
+void OverlayPainter::Measurements(const std::vector<Measurement>& measurements,
+                                  const std::vector<Vec3>& picked, const Vec3* candidate)
 {
     const QColor ink(0xe0, 0x5a, 0x1e);
     for (const Measurement& entry : measurements) {
@@ -316,7 +340,9 @@ void OverlayPainter::Measurements(const std::vector<Measurement>& measurements, 
         case MeasureKind::Radius:
             if (const auto center = CircleCenter(p[0], p[1], p[2])) {
                 const Vec3 u = Normalized(p[0] - *center) * entry.value;
-                const Vec3 v = Normalized(Cross(Cross(p[0] - *center, p[2] - *center), p[0] - *center)) * entry.value;
+                const Vec3 v =
+                    Normalized(Cross(Cross(p[0] - *center, p[2] - *center), p[0] - *center)) *
+                    entry.value;
                 Vec3 last = *center + u;
                 for (int i = 1; i <= 72; ++i) {
                     const double a = qDegreesToRadians(i * 5.0);

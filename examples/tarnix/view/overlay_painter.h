@@ -12,8 +12,8 @@ namespace tarnix {
 class OverlayPainter
 {
 public:
-    OverlayPainter(QPainter& painter, const Camera& camera, const QSizeF& size, const ViewColors& colors,
-                   const Formatter& format);
+    OverlayPainter(QPainter& painter, const Camera& camera, const QSizeF& size,
+                   const ViewColors& colors, const Formatter& format);
 
     void Background();
     void PlateAndGrid(const Plate& plate, const ViewState& state, const QImage& shadow);
@@ -24,7 +24,8 @@ public:
     void Names(const PartList& parts);
     void CentersOfMass(const PartList& parts);
     void SectionFrame(const Section& section, const Box& about);
-    void CurrentLayer(const PartList& parts, const std::vector<const Slice*>& slices, const LayerOptions& options);
+    void CurrentLayer(const PartList& parts, const std::vector<const Slice*>& slices,
+                      const LayerOptions& options);
     void Measurements(const std::vector<Measurement>& measurements, const std::vector<Vec3>& picked,
                       const Vec3* candidate);
 

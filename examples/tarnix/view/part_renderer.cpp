@@ -13,8 +13,8 @@ struct PartRenderer::Eye
     Eye(const Transform& placement, const Camera& camera, const QSize& inner_size)
         : map(placement), mirrored(placement.IsMirroring()), perspective(camera.perspective),
           distance(camera.EyeDistance()), scale(inner_size.height() / camera.height),
-          middle_x(inner_size.width() / 2.0), middle_y(inner_size.height() / 2.0), target(camera.target),
-          right(camera.Right()), up(camera.Up()), back(camera.Back())
+          middle_x(inner_size.width() / 2.0), middle_y(inner_size.height() / 2.0),
+          target(camera.target), right(camera.Right()), up(camera.Up()), back(camera.Back())
     {
         // A key light from the upper left of the viewer, and a weak one from the right.
         key = Normalized(right * -0.45 + up * 0.75 + back * 0.85);
@@ -70,11 +70,13 @@ struct PartRenderer::Eye
             const double per_pixel = 1.0 / (scale * distance);
             plane.x = static_cast<float>(-n_right * per_pixel / over);
             plane.y = static_cast<float>(n_up * per_pixel / over);
-            plane.depth = static_cast<float>((n_back + (n_right * middle_x - n_up * middle_y) * per_pixel) / over);
+            plane.depth = static_cast<float>(
+                (n_back + (n_right * middle_x - n_up * middle_y) * per_pixel) / over);
         } else {
             plane.x = static_cast<float>(-n_right / (scale * n_back));
             plane.y = static_cast<float>(n_up / (scale * n_back));
-            plane.depth = static_cast<float>((-gap + (n_right * middle_x - n_up * middle_y) / scale) / n_back);
+            plane.depth = static_cast<float>(
+                (-gap + (n_right * middle_x - n_up * middle_y) / scale) / n_back);
         }
         return plane;
     }
@@ -110,13 +112,17 @@ int CutBySection(const Section& section, const Corner (&in)[3], Corner (&out)[4]
     for (int i = 0; i < 3; ++i) {
         const Corner& a = in[i];
         const Corner& b = in[(i + 1) % 3];
-        const bool a_in = IsFinite(a.at) && (section.flipped ? a.at[section.axis] >= section.at : a.at[section.axis] <= section.at);
-        const bool b_in = section.flipped ? b.at[section.axis] >= section.at : b.at[section.axis] <= section.at;
+        const bool a_in = IsFinite(a.at) && (section.flipped ? a.at[section.axis] >= section.at
+                                                             : a.at[section.axis] <= section.at);
+        const bool b_in =
+            section.flipped ? b.at[section.axis] >= section.at : b.at[section.axis] <= section.at;
         if (a_in)
             out[count++] = a;
         if (a_in != b_in) {
-            const double t = (section.at - a.at[section.axis]) / (b.at[section.axis] - a.at[section.axis]);
-            out[count++] = {a.at + (b.at - a.at) * t, a.light + (b.light - a.light) * static_cast<float>(t)};
+            const double t =
+                (section.at - a.at[section.axis]) / (b.at[section.axis] - a.at[section.axis]);
+            out[count++] = {a.at + (b.at - a.at) * t,
+                            a.light + (b.light - a.light) * static_cast<float>(t)};
         }
     }
     return count;
@@ -264,7 +270,8 @@ QImage PartRenderer::Draw(const PartList& parts, const Camera& camera, const Vie
     return m_raster.Finish();
 }
 
-void PartRenderer::DrawSurface(const Part& part, const Eye& eye, const ViewState& state, uint16_t owner)
+void PartRenderer::DrawSurface(const Part& part, const Eye& eye, const ViewState& state,
+                               uint16_t owner)
 {
     const Mesh& mesh = *part.GetMesh();
     const std::vector<float>& normals = CornerNormals(part.GetMesh());
@@ -278,9 +285,11 @@ void PartRenderer::DrawSurface(const Part& part, const Eye& eye, const ViewState
         const Vec3 normal = eye.map.MapNormal(mesh.Normals()[i]);
         const bool outside = eye.LooksAt(normal, points[t.a]);
         QRgb color = outside || !state.back_faces ? part.color : k_inside;
-        if (state.overhangs && outside
-            && IsOverhang(normal, std::max({points[t.a].z, points[t.b].z, points[t.c].z}), state.overhang_degrees))
-            color = OverhangColor(qRadiansToDegrees(std::asin(std::clamp(-normal.z, 0.0, 1.0))), state.overhang_degrees);
+        if (state.overhangs && outside &&
+            IsOverhang(normal, std::max({points[t.a].z, points[t.b].z, points[t.c].z}),
+                       state.overhang_degrees))
+            color = OverhangColor(qRadiansToDegrees(std::asin(std::clamp(-normal.z, 0.0, 1.0))),
+                                  state.overhang_degrees);
         Corner corners[3];
         for (int corner = 0; corner < 3; ++corner) {
             const float* n = normals.data() + 9 * i + 3 * static_cast<size_t>(corner);
@@ -308,7 +317,8 @@ void PartRenderer::DrawSurface(const Part& part, const Eye& eye, const ViewState
 
 void PartRenderer::DrawCap(const Part& part, const Eye& eye, const Section& section, uint16_t owner)
 {
-    if (section.at < part.Bounds().low[section.axis] || section.at > part.Bounds().high[section.axis])
+    if (section.at < part.Bounds().low[section.axis] ||
+        section.at > part.Bounds().high[section.axis])
         return;
     const Transform frame = SectionFrame(section.axis);
     const Transform back = frame.Inverted();
@@ -328,7 +338,8 @@ void PartRenderer::DrawCap(const Part& part, const Eye& eye, const Section& sect
         m_raster.Fill(screen[t.a], screen[t.b], screen[t.c], color, owner);
 }
 
-void PartRenderer::DrawGlass(const PartList& parts, const ViewState& state, const Camera& camera, const QSize& size)
+void PartRenderer::DrawGlass(const PartList& parts, const ViewState& state, const Camera& camera,
+                             const QSize& size)
 {
     struct Pane
     {
@@ -352,9 +363,10 @@ void PartRenderer::DrawGlass(const PartList& parts, const ViewState& state, cons
                 const Vec3 at = eye.map.Map(mesh.Points()[t[corner]]);
                 const float* n = normals.data() + 9 * i + 3 * static_cast<size_t>(corner);
                 const Vec3 world = eye.map.MapNormal({n[0], n[1], n[2]});
-                visible = eye.OnScreen(at, pane.corner[corner])
-                    && (!state.section.on || (state.section.flipped ? at[state.section.axis] >= state.section.at
-                                                                    : at[state.section.axis] <= state.section.at));
+                visible = eye.OnScreen(at, pane.corner[corner]) &&
+                          (!state.section.on ||
+                           (state.section.flipped ? at[state.section.axis] >= state.section.at
+                                                  : at[state.section.axis] <= state.section.at));
                 pane.corner[corner].light = 0.35f + 0.65f * eye.Light(world);
             }
             if (!visible)
@@ -363,23 +375,28 @@ void PartRenderer::DrawGlass(const PartList& parts, const ViewState& state, cons
             panes.push_back(pane);
         }
     }
-    std::sort(panes.begin(), panes.end(), [](const Pane& a, const Pane& b) { return a.depth < b.depth; });
+    std::sort(panes.begin(), panes.end(),
+              [](const Pane& a, const Pane& b) { return a.depth < b.depth; });
     for (const Pane& pane : panes)
         m_raster.Glaze(pane.corner[0], pane.corner[1], pane.corner[2], pane.color, 0.36f);
 }
 
-void PartRenderer::DrawEdges(const Part& part, const Eye& eye, const ViewState& state, const ViewColors& colors)
+void PartRenderer::DrawEdges(const Part& part, const Eye& eye, const ViewState& state,
+                             const ViewColors& colors)
 {
     const bool wire = state.mode == DisplayMode::Wireframe;
     const bool all = wire || state.mode == DisplayMode::Triangles;
-    const bool features = state.mode == DisplayMode::Edges || state.mode == DisplayMode::Transparent;
+    const bool features =
+        state.mode == DisplayMode::Edges || state.mode == DisplayMode::Transparent;
     const auto draw = [&](const std::vector<Edge>& edges, QRgb color, float opacity) {
         for (const Edge& edge : edges) {
             Vec3 a = eye.map.Map(part.GetMesh()->Points()[edge.from]);
             Vec3 b = eye.map.Map(part.GetMesh()->Points()[edge.to]);
             if (state.section.on) {
-                const double da = (a[state.section.axis] - state.section.at) * (state.section.flipped ? -1.0 : 1.0);
-                const double db = (b[state.section.axis] - state.section.at) * (state.section.flipped ? -1.0 : 1.0);
+                const double da = (a[state.section.axis] - state.section.at) *
+                                  (state.section.flipped ? -1.0 : 1.0);
+                const double db = (b[state.section.axis] - state.section.at) *
+                                  (state.section.flipped ? -1.0 : 1.0);
                 if (da > 0.0 && db > 0.0)
                     continue;
                 if (da > 0.0)
@@ -398,16 +415,20 @@ void PartRenderer::DrawEdges(const Part& part, const Eye& eye, const ViewState& 
     if (all) {
         const std::vector<Edge>& edges = AllEdges(part.GetMesh());
         // Dense wires would run together: the more there are, the fainter each.
-        const float density = static_cast<float>(std::clamp(9000.0 / static_cast<double>(edges.size() + 1), 0.22, 0.85));
-        draw(edges, wire ? (part.selected ? colors.accent.rgb() : part.color) : colors.edge.rgb(), wire ? density : density * 0.6f);
+        const float density = static_cast<float>(
+            std::clamp(9000.0 / static_cast<double>(edges.size() + 1), 0.22, 0.85));
+        draw(edges, wire ? (part.selected ? colors.accent.rgb() : part.color) : colors.edge.rgb(),
+             wire ? density : density * 0.6f);
     } else if (features) {
-        draw(part.GetMesh()->FeatureEdges(), colors.edge.rgb(), state.mode == DisplayMode::Transparent ? 0.5f : 0.8f);
+        draw(part.GetMesh()->FeatureEdges(), colors.edge.rgb(),
+             state.mode == DisplayMode::Transparent ? 0.5f : 0.8f);
     }
     if (state.open_edges)
         draw(part.GetMesh()->GetTopology().open, 0xffe01020, 1.0f);
 }
 
-void PartRenderer::DrawLayers(const PartList& parts, const Camera& camera, const ViewState& state, const QSize& size)
+void PartRenderer::DrawLayers(const PartList& parts, const Camera& camera, const ViewState& state,
+                              const QSize& size)
 {
     const LayerOptions& options = state.layers;
     const Eye eye(Transform(), camera, size);
@@ -422,16 +443,18 @@ void PartRenderer::DrawLayers(const PartList& parts, const Camera& camera, const
         const auto owner = static_cast<uint16_t>(std::min<size_t>(i + 1, 0xffff));
         for (int layer = first; layer <= options.current; layer += step)
             DrawLayer(part, eye, (layer + 1) * options.thickness, step * options.thickness,
-                      m_layers.Get(part, (layer + 0.5) * options.thickness), (layer / step) % 2 != 0, owner);
+                      m_layers.Get(part, (layer + 0.5) * options.thickness),
+                      (layer / step) % 2 != 0, owner);
     }
 }
 
-void PartRenderer::DrawLayer(const Part& part, const Eye& eye, double top, double thickness, const Slice& slice,
-                             bool odd, uint16_t owner)
+void PartRenderer::DrawLayer(const Part& part, const Eye& eye, double top, double thickness,
+                             const Slice& slice, bool odd, uint16_t owner)
 {
     if (slice.IsEmpty())
         return;
-    // Each layer is a plate with walls; every second one a trace darker, so that they are told apart.
+    // Each layer is a plate with walls; every second one a trace darker, so that they are told
+    // apart.
     const float shade = odd ? 0.94f : 1.0f;
     const double bottom = top - thickness;
     std::vector<std::vector<ScreenPoint>> lines;
@@ -441,8 +464,10 @@ void PartRenderer::DrawLayer(const Part& part, const Eye& eye, double top, doubl
             const Point2& p = contour[k];
             const Point2& q = contour[(k + 1) % contour.size()];
             ScreenPoint corners[4];
-            if (!eye.OnScreen({p.x, p.y, top}, corners[0]) || !eye.OnScreen({q.x, q.y, top}, corners[1])
-                || !eye.OnScreen({q.x, q.y, bottom}, corners[2]) || !eye.OnScreen({p.x, p.y, bottom}, corners[3]))
+            if (!eye.OnScreen({p.x, p.y, top}, corners[0]) ||
+                !eye.OnScreen({q.x, q.y, top}, corners[1]) ||
+                !eye.OnScreen({q.x, q.y, bottom}, corners[2]) ||
+                !eye.OnScreen({p.x, p.y, bottom}, corners[3]))
                 continue;
             const float light = eye.Light(Normalized(Vec3{q.y - p.y, p.x - q.x, 0.0})) * shade;
             for (ScreenPoint& corner : corners)
@@ -459,7 +484,8 @@ void PartRenderer::DrawLayer(const Part& part, const Eye& eye, double top, doubl
     for (const std::vector<Point2>& gap : slice.gaps) {
         for (size_t k = 0; k + 1 < gap.size(); ++k) {
             ScreenPoint a, b;
-            if (eye.OnScreen({gap[k].x, gap[k].y, top}, a) && eye.OnScreen({gap[k + 1].x, gap[k + 1].y, top}, b))
+            if (eye.OnScreen({gap[k].x, gap[k].y, top}, a) &&
+                eye.OnScreen({gap[k + 1].x, gap[k + 1].y, top}, b))
                 m_raster.Line(a, b, 0xffe01020, 1.0f, 0.0f, true, owner);
         }
     }

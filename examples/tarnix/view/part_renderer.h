@@ -33,8 +33,8 @@ class PartRenderer
 {
 public:
     /// `samples` 1 is for a view in motion, 2 for one at rest.
-    QImage Draw(const PartList& parts, const Camera& camera, const ViewState& state, const ViewColors& colors,
-                const QSize& size, int samples);
+    QImage Draw(const PartList& parts, const Camera& camera, const ViewState& state,
+                const ViewColors& colors, const QSize& size, int samples);
 
     LayerCache& Layers() { return m_layers; }
 
@@ -43,12 +43,15 @@ private:
     struct Eye;
 
     void DrawSurface(const Part& part, const Eye& eye, const ViewState& state, uint16_t owner);
-    void DrawGlass(const PartList& parts, const ViewState& state, const Camera& camera, const QSize& size);
-    void DrawEdges(const Part& part, const Eye& eye, const ViewState& state, const ViewColors& colors);
+    void DrawGlass(const PartList& parts, const ViewState& state, const Camera& camera,
+                   const QSize& size);
+    void DrawEdges(const Part& part, const Eye& eye, const ViewState& state,
+                   const ViewColors& colors);
     void DrawCap(const Part& part, const Eye& eye, const Section& section, uint16_t owner);
-    void DrawLayers(const PartList& parts, const Camera& camera, const ViewState& state, const QSize& size);
-    void DrawLayer(const Part& part, const Eye& eye, double top, double thickness, const Slice& slice, bool odd,
-                   uint16_t owner);
+    void DrawLayers(const PartList& parts, const Camera& camera, const ViewState& state,
+                    const QSize& size);
+    void DrawLayer(const Part& part, const Eye& eye, double top, double thickness,
+                   const Slice& slice, bool odd, uint16_t owner);
     const std::vector<float>& CornerNormals(const MeshPtr& mesh);
     const std::vector<Edge>& AllEdges(const MeshPtr& mesh);
 

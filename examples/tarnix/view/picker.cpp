@@ -26,7 +26,8 @@ bool HitsBox(const Ray& ray, const Box& box)
 }
 
 /// The parameter along the ray, or a negative number.
-double HitTriangle(const Vec3& origin, const Vec3& direction, const Vec3& a, const Vec3& b, const Vec3& c)
+double HitTriangle(const Vec3& origin, const Vec3& direction, const Vec3& a, const Vec3& b,
+                   const Vec3& c)
 {
     const Vec3 ab = b - a;
     const Vec3 ac = c - a;

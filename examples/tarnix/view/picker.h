@@ -11,7 +11,7 @@ struct Hit
 {
     int part = 0;
     size_t triangle = 0;
-    Vec3 point;       ///< on the surface, in plate coordinates
+    Vec3 point; ///< on the surface, in plate coordinates
     double distance = 0.0;
 };
 

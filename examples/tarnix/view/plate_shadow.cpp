@@ -48,7 +48,8 @@ QImage PlateShadow(const PartList& parts, const Plate& plate)
             const Vec3 world = part.GetPlacement().Map(p);
             // The light stands to the upper left behind the viewer.
             const double lift = std::max(0.0, world.z) * 0.12;
-            points.emplace_back((world.x + lift + plate.width / 2.0) * scale, (plate.depth / 2.0 - world.y - lift) * scale);
+            points.emplace_back((world.x + lift + plate.width / 2.0) * scale,
+                                (plate.depth / 2.0 - world.y - lift) * scale);
         }
         for (size_t i = 0; i < mesh.Triangles().size(); ++i) {
             // Upper faces throw the same shadow as lower ones: half of them is enough.

@@ -13,8 +13,9 @@ constexpr float k_farthest = std::numeric_limits<float>::lowest();
 inline QRgb Lit(QRgb color, float light)
 {
     const auto channel = [light](int value) {
-        const float lit = static_cast<float>(value) * std::min(light, 1.0f)
-            + (light > 1.0f ? (255.0f - static_cast<float>(value)) * (light - 1.0f) : 0.0f);
+        const float lit =
+            static_cast<float>(value) * std::min(light, 1.0f) +
+            (light > 1.0f ? (255.0f - static_cast<float>(value)) * (light - 1.0f) : 0.0f);
         return std::clamp(static_cast<int>(lit + 0.5f), 0, 255);
     };
     return qRgb(channel(qRed(color)), channel(qGreen(color)), channel(qBlue(color)));
@@ -41,12 +42,15 @@ void Raster::Scan(const ScreenPoint& p, const ScreenPoint& q, const ScreenPoint&
         return;
     const float left = std::min({p.x, q.x, r.x}), right = std::max({p.x, q.x, r.x});
     const float top = std::min({p.y, q.y, r.y}), bottom = std::max({p.y, q.y, r.y});
-    if (right < 0.0f || bottom < 0.0f || left > static_cast<float>(m_width) || top > static_cast<float>(m_height))
+    if (right < 0.0f || bottom < 0.0f || left > static_cast<float>(m_width) ||
+        top > static_cast<float>(m_height))
         return;
     const int x0 = std::max(0, static_cast<int>(std::ceil(left - 0.5f)));
-    const int x1 = static_cast<int>(std::min(static_cast<float>(m_width - 1), std::floor(right - 0.5f)));
+    const int x1 =
+        static_cast<int>(std::min(static_cast<float>(m_width - 1), std::floor(right - 0.5f)));
     const int y0 = std::max(0, static_cast<int>(std::ceil(top - 0.5f)));
-    const int y1 = static_cast<int>(std::min(static_cast<float>(m_height - 1), std::floor(bottom - 0.5f)));
+    const int y1 =
+        static_cast<int>(std::min(static_cast<float>(m_height - 1), std::floor(bottom - 0.5f)));
     const float f = 1.0f / twice_area;
     // Weights of q and r at a pixel's middle, and their steps to the right.
     const float q_dx = (r.y - p.y) * f, q_dy = -(r.x - p.x) * f;
@@ -72,7 +76,8 @@ void Raster::Scan(const ScreenPoint& p, const ScreenPoint& q, const ScreenPoint&
     }
 }
 
-void Raster::Fill(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c, QRgb color, uint16_t owner)
+void Raster::Fill(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c, QRgb color,
+                  uint16_t owner)
 {
     Scan(a, b, c, [this, color, owner](size_t at, float depth, float light) {
         if (depth <= m_depths[at])
@@ -83,8 +88,8 @@ void Raster::Fill(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint&
     });
 }
 
-void Raster::FillFlat(const std::vector<std::vector<ScreenPoint>>& lines, const ScreenPoint& plane, QRgb color,
-                      float light, uint16_t owner)
+void Raster::FillFlat(const std::vector<std::vector<ScreenPoint>>& lines, const ScreenPoint& plane,
+                      QRgb color, float light, uint16_t owner)
 {
     // Crossings of the lines with the middle of each row.
     std::vector<std::vector<float>> rows(static_cast<size_t>(m_height));
@@ -94,7 +99,8 @@ void Raster::FillFlat(const std::vector<std::vector<ScreenPoint>>& lines, const 
             const ScreenPoint* b = &line[(i + 1) % line.size()];
             if (a->y > b->y)
                 std::swap(a, b);
-            const int first = std::max(0, static_cast<int>(std::ceil(std::max(a->y, -1.0f) - 0.5f)));
+            const int first =
+                std::max(0, static_cast<int>(std::ceil(std::max(a->y, -1.0f) - 0.5f)));
             for (int y = first; y < m_height && static_cast<float>(y) + 0.5f < b->y; ++y) {
                 const float t = (static_cast<float>(y) + 0.5f - a->y) / (b->y - a->y);
                 rows[static_cast<size_t>(y)].push_back(a->x + (b->x - a->x) * t);
@@ -106,10 +112,15 @@ void Raster::FillFlat(const std::vector<std::vector<ScreenPoint>>& lines, const 
         std::vector<float>& hits = rows[static_cast<size_t>(y)];
         std::sort(hits.begin(), hits.end());
         for (size_t i = 0; i + 1 < hits.size(); i += 2) {
-            const int x0 = std::max(0, static_cast<int>(std::ceil(std::max(hits[i], -1.0f) - 0.5f)));
-            const int x1 = std::min(m_width, static_cast<int>(std::ceil(std::min(hits[i + 1], static_cast<float>(m_width)) - 0.5f)));
-            float depth = plane.x * (static_cast<float>(x0) + 0.5f) + plane.y * (static_cast<float>(y) + 0.5f) + plane.depth;
-            size_t at = static_cast<size_t>(y) * static_cast<size_t>(m_width) + static_cast<size_t>(x0);
+            const int x0 =
+                std::max(0, static_cast<int>(std::ceil(std::max(hits[i], -1.0f) - 0.5f)));
+            const int x1 =
+                std::min(m_width, static_cast<int>(std::ceil(
+                                      std::min(hits[i + 1], static_cast<float>(m_width)) - 0.5f)));
+            float depth = plane.x * (static_cast<float>(x0) + 0.5f) +
+                          plane.y * (static_cast<float>(y) + 0.5f) + plane.depth;
+            size_t at =
+                static_cast<size_t>(y) * static_cast<size_t>(m_width) + static_cast<size_t>(x0);
             for (int x = x0; x < x1; ++x, ++at, depth += plane.x) {
                 if (depth < m_depths[at])
                     continue;
@@ -121,7 +132,8 @@ void Raster::FillFlat(const std::vector<std::vector<ScreenPoint>>& lines, const 
     }
 }
 
-void Raster::Glaze(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c, QRgb color, float opacity)
+void Raster::Glaze(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c, QRgb color,
+                   float opacity)
 {
     Scan(a, b, c, [this, color, opacity](size_t at, float depth, float light) {
         if (depth > m_depths[at])
@@ -135,14 +147,15 @@ void Raster::Blend(size_t at, QRgb color, float opacity)
     const QRgb below = m_colors[at];
     const float rest = 1.0f - opacity;
     const auto mix = [opacity, rest](int over, int under) {
-        return std::min(255, static_cast<int>(static_cast<float>(over) * opacity + static_cast<float>(under) * rest + 0.5f));
+        return std::min(255, static_cast<int>(static_cast<float>(over) * opacity +
+                                              static_cast<float>(under) * rest + 0.5f));
     };
     m_colors[at] = qRgba(mix(qRed(color), qRed(below)), mix(qGreen(color), qGreen(below)),
                          mix(qBlue(color), qBlue(below)), mix(255, qAlpha(below)));
 }
 
-void Raster::Line(ScreenPoint a, ScreenPoint b, QRgb color, float opacity, float bias, bool write_depth,
-                  uint16_t owner)
+void Raster::Line(ScreenPoint a, ScreenPoint b, QRgb color, float opacity, float bias,
+                  bool write_depth, uint16_t owner)
 {
     // Cut to the picture, or a line that runs far out would take for ever.
     const auto cut = [&a, &b](float low, float high, float ScreenPoint::*axis) {
@@ -164,8 +177,8 @@ void Raster::Line(ScreenPoint a, ScreenPoint b, QRgb color, float opacity, float
         b = end;
         return true;
     };
-    if (!cut(-2.0f, static_cast<float>(m_width) + 2.0f, &ScreenPoint::x)
-        || !cut(-2.0f, static_cast<float>(m_height) + 2.0f, &ScreenPoint::y))
+    if (!cut(-2.0f, static_cast<float>(m_width) + 2.0f, &ScreenPoint::x) ||
+        !cut(-2.0f, static_cast<float>(m_height) + 2.0f, &ScreenPoint::y))
         return;
     const float dx = b.x - a.x, dy = b.y - a.y;
     const int steps = std::max(1, static_cast<int>(std::max(std::abs(dx), std::abs(dy)) + 0.5f));
@@ -180,7 +193,8 @@ void Raster::Line(ScreenPoint a, ScreenPoint b, QRgb color, float opacity, float
             const int y = static_cast<int>(std::floor(a.y + dy * t + (flat ? across : 0.0f)));
             if (x < 0 || y < 0 || x >= m_width || y >= m_height)
                 continue;
-            const size_t at = static_cast<size_t>(y) * static_cast<size_t>(m_width) + static_cast<size_t>(x);
+            const size_t at =
+                static_cast<size_t>(y) * static_cast<size_t>(m_width) + static_cast<size_t>(x);
             if (depth < m_depths[at])
                 continue;
             Blend(at, color, opacity);
@@ -196,7 +210,8 @@ void Raster::Outline(const std::vector<bool>& is_marked, QRgb color, int width)
 {
     const int reach = width * m_samples;
     const auto marked = [&](int x, int y) {
-        const uint16_t owner = m_owners[static_cast<size_t>(y) * static_cast<size_t>(m_width) + static_cast<size_t>(x)];
+        const uint16_t owner = m_owners[static_cast<size_t>(y) * static_cast<size_t>(m_width) +
+                                        static_cast<size_t>(x)];
         return owner < is_marked.size() && is_marked[owner];
     };
     // Distances to the marked area along rows, then across: a box-shaped rim with cut corners.
@@ -217,7 +232,8 @@ void Raster::Outline(const std::vector<bool>& is_marked, QRgb color, int width)
     const uint8_t inside = static_cast<uint8_t>(reach + 1);
     for (int y = 0; y < m_height; ++y) {
         for (int x = 0; x < m_width; ++x) {
-            const size_t at = static_cast<size_t>(y) * static_cast<size_t>(m_width) + static_cast<size_t>(x);
+            const size_t at =
+                static_cast<size_t>(y) * static_cast<size_t>(m_width) + static_cast<size_t>(x);
             if (near[at] == inside)
                 continue;
             bool rim = near[at] > 0;
@@ -225,7 +241,8 @@ void Raster::Outline(const std::vector<bool>& is_marked, QRgb color, int width)
                 const int above = y - k, below = y + k;
                 const size_t step = static_cast<size_t>(k) * static_cast<size_t>(m_width);
                 const int needed = k;
-                rim = (above >= 0 && near[at - step] >= needed) || (below < m_height && near[at + step] >= needed);
+                rim = (above >= 0 && near[at - step] >= needed) ||
+                      (below < m_height && near[at + step] >= needed);
             }
             if (rim)
                 m_colors[at] = color;
@@ -238,12 +255,13 @@ QImage Raster::Finish() const
     QImage image(m_width / m_samples, m_height / m_samples, QImage::Format_ARGB32_Premultiplied);
     if (m_samples == 1) {
         for (int y = 0; y < m_height; ++y)
-            std::copy_n(m_colors.data() + static_cast<size_t>(y) * static_cast<size_t>(m_width), m_width,
-                        reinterpret_cast<QRgb*>(image.scanLine(y)));
+            std::copy_n(m_colors.data() + static_cast<size_t>(y) * static_cast<size_t>(m_width),
+                        m_width, reinterpret_cast<QRgb*>(image.scanLine(y)));
         return image;
     }
     for (int y = 0; y < image.height(); ++y) {
-        const QRgb* upper = m_colors.data() + static_cast<size_t>(2 * y) * static_cast<size_t>(m_width);
+        const QRgb* upper =
+            m_colors.data() + static_cast<size_t>(2 * y) * static_cast<size_t>(m_width);
         const QRgb* lower = upper + m_width;
         QRgb* out = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < image.width(); ++x) {

@@ -26,18 +26,20 @@ public:
     void Start(const QSize& size, int samples);
 
     /// Fills a triangle with a colour times its light. `owner` is the number of its part, above 0.
-    void Fill(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c, QRgb color, uint16_t owner);
+    void Fill(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c, QRgb color,
+              uint16_t owner);
     /// Fills a flat shape of closed lines by the even-odd rule. Its depth is that of the plane
     /// `depth = plane.x * x + plane.y * y + plane.depth`, which a flat shape in space has on the
     /// screen in either projection.
-    void FillFlat(const std::vector<std::vector<ScreenPoint>>& lines, const ScreenPoint& plane, QRgb color,
-                  float light, uint16_t owner);
+    void FillFlat(const std::vector<std::vector<ScreenPoint>>& lines, const ScreenPoint& plane,
+                  QRgb color, float light, uint16_t owner);
     /// As Fill, mixed with what lies behind, which must have been drawn before; leaves the depth.
-    void Glaze(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c, QRgb color, float opacity);
+    void Glaze(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c, QRgb color,
+               float opacity);
     /// A line, one pixel wide in the finished picture, drawn where nothing nearer is. `bias` is the
     /// part of its depth by which it is taken nearer, so that edges win over their own surface.
-    void Line(ScreenPoint a, ScreenPoint b, QRgb color, float opacity, float bias, bool write_depth = false,
-              uint16_t owner = 0);
+    void Line(ScreenPoint a, ScreenPoint b, QRgb color, float opacity, float bias,
+              bool write_depth = false, uint16_t owner = 0);
     /// Draws a rim of `width` pixels about all parts whose number `is_marked` holds.
     void Outline(const std::vector<bool>& is_marked, QRgb color, int width);
 

@@ -38,7 +38,8 @@ SceneView::SceneView(Workspace& workspace, QWidget* parent)
         const double t = value.toDouble();
         const auto between = [t](double a, double b) { return a + (b - a) * t; };
         m_camera = m_flight_end;
-        m_camera.azimuth = m_flight_start.azimuth + std::remainder(m_flight_end.azimuth - m_flight_start.azimuth, 360.0) * t;
+        m_camera.azimuth = m_flight_start.azimuth +
+                           std::remainder(m_flight_end.azimuth - m_flight_start.azimuth, 360.0) * t;
         m_camera.elevation = between(m_flight_start.elevation, m_flight_end.elevation);
         m_camera.height = between(m_flight_start.height, m_flight_end.height);
         m_camera.target = m_flight_start.target + (m_flight_end.target - m_flight_start.target) * t;
@@ -161,9 +162,14 @@ const QImage& SceneView::Shadow()
 {
     if (m_shadow_dirty) {
         const ViewState& state = m_workspace.GetViewState();
-        const bool wanted = !m_workspace.GetScene().Parts().empty() && state.shadows && state.plate && !state.layers.shown && !state.section.on
-            && (state.mode == DisplayMode::Shaded || state.mode == DisplayMode::Edges || state.mode == DisplayMode::Triangles);
-        m_shadow = wanted ? PlateShadow(m_workspace.GetScene().Parts(), m_workspace.GetScene().GetPlate()) : QImage();
+        const bool wanted =
+            !m_workspace.GetScene().Parts().empty() && state.shadows && state.plate &&
+            !state.layers.shown && !state.section.on &&
+            (state.mode == DisplayMode::Shaded || state.mode == DisplayMode::Edges ||
+             state.mode == DisplayMode::Triangles);
+        m_shadow =
+            wanted ? PlateShadow(m_workspace.GetScene().Parts(), m_workspace.GetScene().GetPlate())
+                   : QImage();
         m_shadow_dirty = false;
     }
     return m_shadow;
@@ -194,8 +200,10 @@ void SceneView::Paint(QPainter& painter, const QSize& size, int samples, bool fo
     const QSize pixels = size * ratio;
     if (scene.Parts().empty()) {
         m_parts_picture = QImage();
-    } else if (m_parts_dirty || !for_screen || m_parts_samples < samples || m_parts_picture.size() != pixels) {
-        m_parts_picture = m_renderer.Draw(scene.Parts(), m_camera, state, m_colors, pixels, samples);
+    } else if (m_parts_dirty || !for_screen || m_parts_samples < samples ||
+               m_parts_picture.size() != pixels) {
+        m_parts_picture =
+            m_renderer.Draw(scene.Parts(), m_camera, state, m_colors, pixels, samples);
         m_parts_samples = samples;
         m_parts_dirty = !for_screen;
     }
@@ -223,7 +231,8 @@ void SceneView::Paint(QPainter& painter, const QSize& size, int samples, bool fo
         overlay.CentersOfMass(scene.Parts());
     if (state.labels)
         overlay.Names(scene.Parts());
-    overlay.Measurements(m_workspace.Measurements(), m_workspace.Picked(), m_candidate ? &*m_candidate : nullptr);
+    overlay.Measurements(m_workspace.Measurements(), m_workspace.Picked(),
+                         m_candidate ? &*m_candidate : nullptr);
     if (state.view_cube && for_screen)
         m_cube.Paint(painter, CubeArea(size), m_camera, m_colors, m_hovered_side);
 }
@@ -257,8 +266,10 @@ void SceneView::resizeEvent(QResizeEvent*)
     // The first real size is when the plate can be brought into view.
     if (!m_fitted && width() > 200 && height() > 150) {
         m_fitted = true;
-        m_camera.Fit(m_workspace.GetScene().Count() > 0 ? m_workspace.GetScene().Bounds()
-                                                        : m_workspace.GetScene().GetPlate().Bounds(), size());
+        m_camera.Fit(m_workspace.GetScene().Count() > 0
+                         ? m_workspace.GetScene().Bounds()
+                         : m_workspace.GetScene().GetPlate().Bounds(),
+                     size());
         if (m_workspace.GetScene().Count() == 0)
             ZoomTo(Box(), true);
         m_former.clear();
@@ -295,7 +306,8 @@ void SceneView::mousePressEvent(QMouseEvent* event)
         return;
     }
     const Ray ray = m_camera.RayAt(event->localPos(), size());
-    const auto hit = PickSurface(m_workspace.GetScene().Parts(), ray, m_workspace.GetViewState().section);
+    const auto hit =
+        PickSurface(m_workspace.GetScene().Parts(), ray, m_workspace.GetViewState().section);
     if (hit) {
         m_pressed_part = hit->part;
         m_drag_start = hit->point;
@@ -369,9 +381,9 @@ void SceneView::DragParts(const QPointF& at)
         return;
     m_moving = true;
     m_rest.start();
-    if (m_workspace.GetScene().EditSelectedMerged(tr("Move"), 1000 + m_drag_number, [&more](Part& part) {
-            part.Apply(Transform::Translation(more));
-        }))
+    if (m_workspace.GetScene().EditSelectedMerged(
+            tr("Move"), 1000 + m_drag_number,
+            [&more](Part& part) { part.Apply(Transform::Translation(more)); }))
         m_drag_done = shift;
 }
 
@@ -380,14 +392,15 @@ void SceneView::mouseReleaseEvent(QMouseEvent* event)
     const Drag drag = m_drag;
     m_drag = Drag::None;
     if (drag == Drag::Frame) {
-        SelectInFrame(m_frame.normalized(), event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier));
+        SelectInFrame(m_frame.normalized(),
+                      event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier));
         update();
     } else if (drag == Drag::Parts) {
         m_workspace.GetScene().EndMerge();
     } else if (drag == Drag::Pressed && event->button() == Qt::RightButton) {
         Q_EMIT ContextMenuAsked(event->globalPos());
-    } else if (drag == Drag::Pressed && event->button() == Qt::LeftButton && m_pressed_part == 0
-               && !(event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier))) {
+    } else if (drag == Drag::Pressed && event->button() == Qt::LeftButton && m_pressed_part == 0 &&
+               !(event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier))) {
         m_workspace.GetScene().Select([](const Part&) { return false; });
     }
 }
@@ -414,10 +427,12 @@ void SceneView::mouseDoubleClickEvent(QMouseEvent* event)
 
 void SceneView::wheelEvent(QWheelEvent* event)
 {
-    const int delta = event->angleDelta().y() != 0 ? event->angleDelta().y() : event->angleDelta().x();
+    const int delta =
+        event->angleDelta().y() != 0 ? event->angleDelta().y() : event->angleDelta().x();
     if (delta == 0)
         return;
-    if (m_workspace.GetViewState().layers.shown && (event->modifiers() & (Qt::ShiftModifier | Qt::AltModifier))) {
+    if (m_workspace.GetViewState().layers.shown &&
+        (event->modifiers() & (Qt::ShiftModifier | Qt::AltModifier))) {
         m_workspace.GoToLayer(m_workspace.GetViewState().layers.current + (delta > 0 ? 1 : -1));
         return;
     }
@@ -448,12 +463,14 @@ void SceneView::Hover(const QPointF& at)
         update(CubeArea(size()).toAlignedRect());
     }
     const Ray ray = m_camera.RayAt(at, size());
-    const auto hit = side < 0 ? PickSurface(m_workspace.GetScene().Parts(), ray, state.section) : std::nullopt;
+    const auto hit =
+        side < 0 ? PickSurface(m_workspace.GetScene().Parts(), ray, state.section) : std::nullopt;
     if (m_workspace.Measuring()) {
         std::optional<Vec3> candidate;
         if (hit)
             candidate = SnapHit(*m_workspace.GetScene().Find(hit->part), *hit, m_workspace.Snap());
-        if (candidate.has_value() != m_candidate.has_value() || (candidate && *candidate != *m_candidate)) {
+        if (candidate.has_value() != m_candidate.has_value() ||
+            (candidate && *candidate != *m_candidate)) {
             m_candidate = candidate;
             update();
         }

@@ -65,7 +65,15 @@ protected:
 
 private:
     /// What the mouse is doing.
-    enum class Drag { None, Pressed, Frame, Parts, Orbit, Pan };
+    enum class Drag
+    {
+        None,
+        Pressed,
+        Frame,
+        Parts,
+        Orbit,
+        Pan
+    };
 
     void Paint(QPainter& painter, const QSize& size, int samples, bool for_screen);
     void SceneTouched();

@@ -7,17 +7,20 @@ namespace tarnix {
 namespace {
 
 constexpr int k_sides = 6;
-constexpr ViewDirection k_directions[k_sides] = {{0, 0}, {90, 0}, {180, 0}, {-90, 0}, {0, 90}, {0, -90}};
+constexpr ViewDirection k_directions[k_sides] = {{0, 0},   {90, 0}, {180, 0},
+                                                 {-90, 0}, {0, 90}, {0, -90}};
 constexpr double k_half = 0.34;
 
 } // namespace
 
 QString ViewCube::SideName(int side)
 {
-    static const char* const k_names[k_sides] = {
-        QT_TRANSLATE_NOOP("tarnix::ViewCube", "FRONT"), QT_TRANSLATE_NOOP("tarnix::ViewCube", "RIGHT"),
-        QT_TRANSLATE_NOOP("tarnix::ViewCube", "BACK"), QT_TRANSLATE_NOOP("tarnix::ViewCube", "LEFT"),
-        QT_TRANSLATE_NOOP("tarnix::ViewCube", "TOP"), QT_TRANSLATE_NOOP("tarnix::ViewCube", "BELOW")};
+    static const char* const k_names[k_sides] = {QT_TRANSLATE_NOOP("tarnix::ViewCube", "FRONT"),
+                                                 QT_TRANSLATE_NOOP("tarnix::ViewCube", "RIGHT"),
+                                                 QT_TRANSLATE_NOOP("tarnix::ViewCube", "BACK"),
+                                                 QT_TRANSLATE_NOOP("tarnix::ViewCube", "LEFT"),
+                                                 QT_TRANSLATE_NOOP("tarnix::ViewCube", "TOP"),
+                                                 QT_TRANSLATE_NOOP("tarnix::ViewCube", "BELOW")};
     return QCoreApplication::translate("tarnix::ViewCube", k_names[side]);
 }
 
@@ -51,7 +54,8 @@ std::array<QPointF, 4> ViewCube::Corners(int side, const QRectF& area, const Cam
     return corners;
 }
 
-void ViewCube::Paint(QPainter& painter, const QRectF& area, const Camera& camera, const ViewColors& colors, int hovered) const
+void ViewCube::Paint(QPainter& painter, const QRectF& area, const Camera& camera,
+                     const ViewColors& colors, int hovered) const
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -65,7 +69,9 @@ void ViewCube::Paint(QPainter& painter, const QRectF& area, const Camera& camera
         const std::array<QPointF, 4> corners = Corners(side, area, camera);
         const QPolygonF quad({corners[0], corners[1], corners[2], corners[3]});
         QColor face = colors.plate.lighter(104);
-        face = QColor::fromRgbF(face.redF() * (0.80 + 0.20 * toward), face.greenF() * (0.80 + 0.20 * toward), face.blueF() * (0.80 + 0.20 * toward), 0.95);
+        face = QColor::fromRgbF(face.redF() * (0.80 + 0.20 * toward),
+                                face.greenF() * (0.80 + 0.20 * toward),
+                                face.blueF() * (0.80 + 0.20 * toward), 0.95);
         if (side == hovered)
             face = colors.accent;
         painter.setPen(QPen(colors.frame, 1.2, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
@@ -93,7 +99,8 @@ int ViewCube::SideAt(const QPointF& at, const QRectF& area, const Camera& camera
         if (Dot(Normal(side), camera.Back()) <= 0.02)
             continue;
         const std::array<QPointF, 4> corners = Corners(side, area, camera);
-        if (QPolygonF({corners[0], corners[1], corners[2], corners[3]}).containsPoint(at, Qt::OddEvenFill))
+        if (QPolygonF({corners[0], corners[1], corners[2], corners[3]})
+                .containsPoint(at, Qt::OddEvenFill))
             return side;
     }
     return -1;

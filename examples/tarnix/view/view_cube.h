@@ -26,7 +26,8 @@ public:
     static ViewDirection SideDirection(int side);
 
     /// `area` is the square that it is painted in; `hovered` a side or -1.
-    void Paint(QPainter& painter, const QRectF& area, const Camera& camera, const ViewColors& colors, int hovered) const;
+    void Paint(QPainter& painter, const QRectF& area, const Camera& camera,
+               const ViewColors& colors, int hovered) const;
     /// The side under a place, or -1.
     int SideAt(const QPointF& at, const QRectF& area, const Camera& camera) const;
 

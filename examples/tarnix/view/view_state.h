@@ -7,7 +7,15 @@
 
 namespace tarnix {
 
-enum class DisplayMode { Shaded, Edges, Triangles, Wireframe, Transparent, Boxes };
+enum class DisplayMode
+{
+    Shaded,
+    Edges,
+    Triangles,
+    Wireframe,
+    Transparent,
+    Boxes
+};
 
 /// A plane across an axis (0, 1, 2) at a place in millimetres. What lies above it is hidden, or
 /// below it when flipped.
@@ -19,7 +27,12 @@ struct Section
     bool flipped = false;
 };
 
-enum class SnapMode { None, Points, Edges };
+enum class SnapMode
+{
+    None,
+    Points,
+    Edges
+};
 
 struct LayerOptions
 {
@@ -34,7 +47,10 @@ struct LayerOptions
     double hatch_degrees = 45.0;
 
     /// The angle of the lines of a layer.
-    double DegreesOf(int layer) const { return hatch_degrees + (crossed && layer % 2 ? 90.0 : 0.0); }
+    double DegreesOf(int layer) const
+    {
+        return hatch_degrees + (crossed && layer % 2 ? 90.0 : 0.0);
+    }
 };
 
 /// All that decides how the scene looks, apart from the parts and the camera.
@@ -61,15 +77,15 @@ struct ViewState
 /// The colours around the parts; they follow the theme.
 struct ViewColors
 {
-    QColor top;          ///< background, upper end
-    QColor bottom;       ///< background, lower end
+    QColor top;    ///< background, upper end
+    QColor bottom; ///< background, lower end
     QColor plate;
     QColor grid;
-    QColor frame;        ///< edges of the plate and the build volume
+    QColor frame; ///< edges of the plate and the build volume
     QColor text;
-    QColor bubble;       ///< ground of texts in the scene
-    QColor accent;       ///< selection
-    QColor edge;         ///< edges of parts
+    QColor bubble; ///< ground of texts in the scene
+    QColor accent; ///< selection
+    QColor edge;   ///< edges of parts
 
     static ViewColors Light(const QColor& accent);
     static ViewColors Dark(const QColor& accent);
