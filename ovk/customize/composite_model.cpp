@@ -1,7 +1,6 @@
 #include "ovk/customize/site_models_p.h"
 
 #include "ovk/commands/ui_item.h"
-#include "ovk/ui_state/ui_layout.h"
 #include "ovk/ui_state/ui_state_composite.h"
 #include "ovk/ui_state/ui_state_composites.h"
 
@@ -48,29 +47,15 @@ bool FitCommands(const SiteTreeModel& model, const DropRequest& drop)
 } // namespace
 
 CompositeModel::CompositeModel(QObject* parent)
-    : SiteTreeModel(2, parent)
+    : TSiteModel(2, parent, DragReading::FirstOnly)
 {
 }
 
 CompositeModel::~CompositeModel() = default;
 
-void CompositeModel::SetLayout(UiLayout* layout)
-{
-    _BeginReset();
-    mp_root = layout ? dynamic_cast<UiStateComposites*>(
-                           layout->GetState(UiStateComposites::GetSuiteName()))
-                     : nullptr;
-    _EndReset();
-}
-
 int CompositeModel::GetMaxItems() const
 {
     return 32;
-}
-
-ITreeItem* CompositeModel::GetRootItem() const
-{
-    return mp_root;
 }
 
 QVariant CompositeModel::data(const QModelIndex& index, int role) const
@@ -118,7 +103,7 @@ Qt::ItemFlags CompositeModel::flags(const QModelIndex& index) const
     return flags;
 }
 
-const SiteTreeModel::DropRules& CompositeModel::Rules()
+const SiteTreeModel::DropRules& CompositeModel::_Rules() const
 {
     static const DropRules rules = {
         {NodeKind::Composite, NodeKind::Composite, false, nullptr,
@@ -148,19 +133,6 @@ const SiteTreeModel::DropRules& CompositeModel::Rules()
          }},
     };
     return rules;
-}
-
-bool CompositeModel::canDropMimeData(const QMimeData*, Qt::DropAction, int row, int,
-                                     const QModelIndex& parent) const
-{
-    DropRequest request;
-    return _ReadDrag(parent, row, request, DragReading::FirstOnly) && _CanDrop(Rules(), request);
-}
-
-bool CompositeModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int,
-                                  const QModelIndex& parent)
-{
-    return _Drop(Rules(), data, action, row, parent, DragReading::FirstOnly);
 }
 
 void CompositeModel::AddComposite(std::unique_ptr<UiStateComposite> composite, const QString& title,

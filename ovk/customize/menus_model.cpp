@@ -1,6 +1,5 @@
 #include "ovk/customize/site_models_p.h"
 
-#include "ovk/ui_state/ui_layout.h"
 #include "ovk/ui_state/ui_spot.h"
 #include "ovk/ui_state/ui_spot_command.h"
 #include "ovk/ui_state/ui_state_menu.h"
@@ -23,29 +22,16 @@ void RegisterMenuPointer()
 } // namespace
 
 MenusModel::MenusModel(QObject* parent)
-    : SiteTreeModel(2, parent)
+    : TSiteModel(2, parent)
 {
     RegisterMenuPointer();
 }
 
 MenusModel::~MenusModel() = default;
 
-void MenusModel::SetLayout(UiLayout* layout)
-{
-    _BeginReset();
-    mp_root = layout ? dynamic_cast<UiStateMenus*>(layout->GetState(UiStateMenus::GetSuiteName()))
-                     : nullptr;
-    _EndReset();
-}
-
 int MenusModel::GetMaxItems() const
 {
     return 12;
-}
-
-ITreeItem* MenusModel::GetRootItem() const
-{
-    return mp_root;
 }
 
 QVariant MenusModel::data(const QModelIndex& index, int role) const
@@ -100,23 +86,10 @@ Qt::ItemFlags MenusModel::flags(const QModelIndex& index) const
     return flags;
 }
 
-const SiteTreeModel::DropRules& MenusModel::Rules()
+const SiteTreeModel::DropRules& MenusModel::_Rules() const
 {
     static const DropRules rules = _SpotRules(NodeKind::Menu, false);
     return rules;
-}
-
-bool MenusModel::canDropMimeData(const QMimeData*, Qt::DropAction, int row, int,
-                                 const QModelIndex& parent) const
-{
-    DropRequest request;
-    return _ReadDrag(parent, row, request) && _CanDrop(Rules(), request);
-}
-
-bool MenusModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int,
-                              const QModelIndex& parent)
-{
-    return _Drop(Rules(), data, action, row, parent);
 }
 
 void MenusModel::AddMenu(int row)

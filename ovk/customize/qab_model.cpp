@@ -1,33 +1,20 @@
 #include "ovk/customize/site_models_p.h"
 
-#include "ovk/ui_state/ui_layout.h"
 #include "ovk/ui_state/ui_spot_command.h"
 #include "ovk/ui_state/ui_state_quick_access_bar.h"
 
 namespace ovk {
 
 QABModel::QABModel(QObject* parent)
-    : SiteTreeModel(3, parent)
+    : TSiteModel(3, parent)
 {
 }
 
 QABModel::~QABModel() = default;
 
-void QABModel::SetLayout(UiLayout* layout)
-{
-    _BeginReset();
-    mp_root = layout ? dynamic_cast<UiStateQAB*>(layout->GetState(UiStateQAB::GetSuiteName())) : nullptr;
-    _EndReset();
-}
-
 int QABModel::GetMaxItems() const
 {
     return 128;
-}
-
-ITreeItem* QABModel::GetRootItem() const
-{
-    return mp_root;
 }
 
 QVariant QABModel::data(const QModelIndex& index, int role) const
@@ -74,23 +61,10 @@ Qt::ItemFlags QABModel::flags(const QModelIndex& index) const
     return flags;
 }
 
-const SiteTreeModel::DropRules& QABModel::Rules()
+const SiteTreeModel::DropRules& QABModel::_Rules() const
 {
     static const DropRules rules = _SpotRules(NodeKind::QuickAccessBar, true);
     return rules;
-}
-
-bool QABModel::canDropMimeData(const QMimeData*, Qt::DropAction, int row, int,
-                               const QModelIndex& parent) const
-{
-    DropRequest request;
-    return _ReadDrag(parent, row, request) && _CanDrop(Rules(), request);
-}
-
-bool QABModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int,
-                            const QModelIndex& parent)
-{
-    return _Drop(Rules(), data, action, row, parent);
 }
 
 void QABModel::DeleteRow(const QModelIndex& parent, int row)

@@ -1,6 +1,5 @@
 #include "ovk/customize/site_models_p.h"
 
-#include "ovk/ui_state/ui_layout.h"
 #include "ovk/ui_state/ui_spot.h"
 #include "ovk/ui_state/ui_spot_command.h"
 #include "ovk/ui_state/ui_state_ribbon.h"
@@ -22,28 +21,15 @@ RibbonModel& Model(SiteTreeModel& model)
 } // namespace
 
 RibbonModel::RibbonModel(QObject* parent)
-    : SiteTreeModel(3, parent)
+    : TSiteModel(3, parent)
 {
 }
 
 RibbonModel::~RibbonModel() = default;
 
-void RibbonModel::SetLayout(UiLayout* layout)
-{
-    _BeginReset();
-    mp_root = layout ? dynamic_cast<UiStateRibbon*>(layout->GetState(UiStateRibbon::GetSuiteName()))
-                     : nullptr;
-    _EndReset();
-}
-
 int RibbonModel::GetMaxItems() const
 {
     return 128;
-}
-
-ITreeItem* RibbonModel::GetRootItem() const
-{
-    return mp_root;
 }
 
 Qt::ToolButtonStyle RibbonModel::GetDefaultButtonStyle() const
@@ -110,7 +96,7 @@ Qt::ItemFlags RibbonModel::flags(const QModelIndex& index) const
     return flags;
 }
 
-const SiteTreeModel::DropRules& RibbonModel::Rules()
+const SiteTreeModel::DropRules& RibbonModel::_Rules() const
 {
     static const DropRules rules = {
         {NodeKind::Ribbon, NodeKind::Page, true, nullptr,
@@ -135,30 +121,16 @@ const SiteTreeModel::DropRules& RibbonModel::Rules()
     return all;
 }
 
-bool RibbonModel::MovesFixedItemAway(const DropRequest& request) const
+bool RibbonModel::_MayDrop(const DropRequest& request) const
 {
     for (ITreeItem* item : request.items) {
         const auto* state = dynamic_cast<UiStateItem*>(item);
         const bool fixed = state && !state->IsDeleteable() && KindOf(item) != NodeKind::Page;
         const ITreeItem* parent = item->GetParent();
         if (fixed && request.target != parent && request.target->GetParent() != parent)
-            return true;
+            return false;
     }
-    return false;
-}
-
-bool RibbonModel::canDropMimeData(const QMimeData*, Qt::DropAction, int row, int,
-                                  const QModelIndex& parent) const
-{
-    DropRequest request;
-    return _ReadDrag(parent, row, request) && !MovesFixedItemAway(request) &&
-           _CanDrop(Rules(), request);
-}
-
-bool RibbonModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int,
-                               const QModelIndex& parent)
-{
-    return _Drop(Rules(), data, action, row, parent);
+    return true;
 }
 
 void RibbonModel::AddPage(int row)

@@ -1,8 +1,13 @@
 #pragma once
 
 #include <ovk/customize/drag_source_p.h>
-#include <ovk/customize/site_tree_model_p.h>
+#include <ovk/customize/t_site_model_p.h>
+#include <ovk/ui_state/ui_state_composites.h>
 #include <ovk/ui_state/ui_state_menu.h>
+#include <ovk/ui_state/ui_state_menus.h>
+#include <ovk/ui_state/ui_state_quick_access_bar.h>
+#include <ovk/ui_state/ui_state_ribbon.h>
+#include <ovk/ui_state/ui_state_toolbars.h>
 
 #include <QAbstractTableModel>
 #include <QMetaType>
@@ -12,15 +17,10 @@ namespace ovk {
 class UiCommand;
 class UiLayout;
 class UiStateComposite;
-class UiStateComposites;
-class UiStateMenus;
-class UiStateQAB;
-class UiStateRibbon;
 class UiStateShortcuts;
-class UiStateToolbars;
 
 /// Pages, groups and spots of the ribbon.
-class OVK_TEST_EXPORT RibbonModel : public SiteTreeModel
+class OVK_TEST_EXPORT RibbonModel : public TSiteModel<UiStateRibbon>
 {
     Q_OBJECT
 
@@ -28,18 +28,10 @@ public:
     explicit RibbonModel(QObject* parent = nullptr);
     ~RibbonModel() override;
 
-    /// Shows a layout's ribbon; null shows nothing.
-    void SetLayout(UiLayout* layout);
-
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
-    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
-                         const QModelIndex& parent) const override;
-    bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
-                      const QModelIndex& parent) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     int GetMaxItems() const override;
-    ITreeItem* GetRootItem() const override;
     Qt::ToolButtonStyle GetDefaultButtonStyle() const override;
 
     /// Adds a page titled "New page"; row -1 appends.
@@ -53,15 +45,14 @@ public:
     void MoveGroups(const QModelIndexList& indexes, const QModelIndex& page, int row);
     void MoveSpots(const QModelIndexList& indexes, const QModelIndex& group, int row);
 
-private:
-    static const DropRules& Rules();
-    bool MovesFixedItemAway(const DropRequest& request) const;
-
-    UiStateRibbon* mp_root = nullptr;
+protected:
+    const DropRules& _Rules() const override;
+    /// A fixed item moves only inside its own parent; a fixed page anywhere in the ribbon.
+    bool _MayDrop(const DropRequest& request) const override;
 };
 
 /// The spots of the quick access bar.
-class OVK_TEST_EXPORT QABModel : public SiteTreeModel
+class OVK_TEST_EXPORT QABModel : public TSiteModel<UiStateQAB>
 {
     Q_OBJECT
 
@@ -69,29 +60,20 @@ public:
     explicit QABModel(QObject* parent = nullptr);
     ~QABModel() override;
 
-    void SetLayout(UiLayout* layout);
-
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
-    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
-                         const QModelIndex& parent) const override;
-    bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
-                      const QModelIndex& parent) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     int GetMaxItems() const override;
-    ITreeItem* GetRootItem() const override;
 
     void DeleteRow(const QModelIndex& parent, int row);
     void MoveSpots(const QModelIndexList& indexes, const QModelIndex& target, int row);
 
-private:
-    static const DropRules& Rules();
-
-    UiStateQAB* mp_root = nullptr;
+protected:
+    const DropRules& _Rules() const override;
 };
 
 /// Tool bars and their spots.
-class OVK_TEST_EXPORT ToolbarsModel : public SiteTreeModel
+class OVK_TEST_EXPORT ToolbarsModel : public TSiteModel<UiStateToolbars>
 {
     Q_OBJECT
 
@@ -99,17 +81,10 @@ public:
     explicit ToolbarsModel(QObject* parent = nullptr);
     ~ToolbarsModel() override;
 
-    void SetLayout(UiLayout* layout);
-
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
-    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
-                         const QModelIndex& parent) const override;
-    bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
-                      const QModelIndex& parent) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     int GetMaxItems() const override;
-    ITreeItem* GetRootItem() const override;
 
     /// Adds a tool bar titled "New Toolbar"; row -1 appends.
     void AddToolbar(int row);
@@ -117,14 +92,12 @@ public:
     void MoveToolbars(const QModelIndexList& indexes, int row);
     void MoveSpots(const QModelIndexList& indexes, const QModelIndex& toolbar, int row);
 
-private:
-    static const DropRules& Rules();
-
-    UiStateToolbars* mp_root = nullptr;
+protected:
+    const DropRules& _Rules() const override;
 };
 
 /// Context menus, their keys and spots.
-class OVK_TEST_EXPORT MenusModel : public SiteTreeModel
+class OVK_TEST_EXPORT MenusModel : public TSiteModel<UiStateMenus>
 {
     Q_OBJECT
 
@@ -135,17 +108,10 @@ public:
     explicit MenusModel(QObject* parent = nullptr);
     ~MenusModel() override;
 
-    void SetLayout(UiLayout* layout);
-
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
-    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
-                         const QModelIndex& parent) const override;
-    bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
-                      const QModelIndex& parent) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     int GetMaxItems() const override;
-    ITreeItem* GetRootItem() const override;
 
     /// The suite at the root; null without a layout.
     UiStateMenus* GetMenus() const { return mp_root; }
@@ -156,14 +122,12 @@ public:
     void DeleteRow(const QModelIndex& parent, int row);
     void MoveSpots(const QModelIndexList& indexes, const QModelIndex& menu, int row);
 
-private:
-    static const DropRules& Rules();
-
-    UiStateMenus* mp_root = nullptr;
+protected:
+    const DropRules& _Rules() const override;
 };
 
 /// Composite commands and their items.
-class OVK_TEST_EXPORT CompositeModel : public SiteTreeModel
+class OVK_TEST_EXPORT CompositeModel : public TSiteModel<UiStateComposites>
 {
     Q_OBJECT
 
@@ -171,17 +135,10 @@ public:
     explicit CompositeModel(QObject* parent = nullptr);
     ~CompositeModel() override;
 
-    void SetLayout(UiLayout* layout);
-
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
-    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
-                         const QModelIndex& parent) const override;
-    bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
-                      const QModelIndex& parent) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     int GetMaxItems() const override;
-    ITreeItem* GetRootItem() const override;
 
     /// Adds a composite titled "New Menu" that opens its list; row -1 appends.
     void AddMenu(int row);
@@ -196,12 +153,12 @@ public:
     void MoveItem(const QModelIndex& sourceParent, int sourceRow, const QModelIndex& targetParent,
                   int row);
 
+protected:
+    const DropRules& _Rules() const override;
+
 private:
-    static const DropRules& Rules();
     void AddComposite(std::unique_ptr<UiStateComposite> composite, const QString& title, int row);
     void SwapComposites(const DropRequest& request);
-
-    UiStateComposites* mp_root = nullptr;
 };
 
 /// The commands that a layout offers, with their shortcuts in column 1.

@@ -1,6 +1,5 @@
 #include "ovk/customize/site_models_p.h"
 
-#include "ovk/ui_state/ui_layout.h"
 #include "ovk/ui_state/ui_spot.h"
 #include "ovk/ui_state/ui_spot_command.h"
 #include "ovk/ui_state/ui_state_toolbar.h"
@@ -9,28 +8,15 @@
 namespace ovk {
 
 ToolbarsModel::ToolbarsModel(QObject* parent)
-    : SiteTreeModel(3, parent)
+    : TSiteModel(3, parent)
 {
 }
 
 ToolbarsModel::~ToolbarsModel() = default;
 
-void ToolbarsModel::SetLayout(UiLayout* layout)
-{
-    _BeginReset();
-    mp_root = layout ? dynamic_cast<UiStateToolbars*>(layout->GetState(UiStateToolbars::GetSuiteName()))
-                     : nullptr;
-    _EndReset();
-}
-
 int ToolbarsModel::GetMaxItems() const
 {
     return 64;
-}
-
-ITreeItem* ToolbarsModel::GetRootItem() const
-{
-    return mp_root;
 }
 
 QVariant ToolbarsModel::data(const QModelIndex& index, int role) const
@@ -96,7 +82,7 @@ Qt::ItemFlags ToolbarsModel::flags(const QModelIndex& index) const
     return flags;
 }
 
-const SiteTreeModel::DropRules& ToolbarsModel::Rules()
+const SiteTreeModel::DropRules& ToolbarsModel::_Rules() const
 {
     static const DropRules rules =
         DropRules{
@@ -111,19 +97,6 @@ const SiteTreeModel::DropRules& ToolbarsModel::Rules()
         } +
         _SpotRules(NodeKind::Toolbar, true);
     return rules;
-}
-
-bool ToolbarsModel::canDropMimeData(const QMimeData*, Qt::DropAction, int row, int,
-                                    const QModelIndex& parent) const
-{
-    DropRequest request;
-    return _ReadDrag(parent, row, request) && _CanDrop(Rules(), request);
-}
-
-bool ToolbarsModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int,
-                                 const QModelIndex& parent)
-{
-    return _Drop(Rules(), data, action, row, parent);
 }
 
 void ToolbarsModel::AddToolbar(int row)

@@ -155,10 +155,11 @@ bool UiStateCommandSpots::FromJson(const QJsonObject& json)
         // for all that a spot may have costs more than making it.
         const QJsonObject element = elements.at(i).toObject();
         const QJsonValue id = element.value(key_id);
-        const QJsonValue style = element.value(key_style);
-        if (element.size() == 2 && id.isString() && style.isDouble()) {
+        const int style = element.value(key_style).toInt(-1);
+        if (element.size() == 2 && id.isString() && style >= Qt::ToolButtonIconOnly &&
+            style <= Qt::ToolButtonFollowStyle) {
             UiSpotCommand* const spot = CreateCommandSpot(id.toString());
-            spot->SetStyle(static_cast<Qt::ToolButtonStyle>(style.toInt(0)));
+            spot->SetStyle(static_cast<Qt::ToolButtonStyle>(style));
             AppendChild(spot);
         } else {
             _AppendFromJson(element);

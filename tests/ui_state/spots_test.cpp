@@ -82,6 +82,9 @@ private Q_SLOTS:
         for (const int style : {-1, 5, 99}) {
             const UiSpotCommand spot(QJsonObject{{"id", "A"}, {"style", style}});
             QCOMPARE(spot.GetStyle(), Qt::ToolButtonIconOnly);
+            UiStateCommandSpots site(QStringLiteral("site"));
+            site.FromJson({{"spots", QJsonArray{QJsonObject{{"id", "A"}, {"style", style}}}}});
+            QCOMPARE(static_cast<UiSpotCommand*>(site.GetItem(0))->GetStyle(), Qt::ToolButtonIconOnly);
         }
     }
 
