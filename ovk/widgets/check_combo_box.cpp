@@ -28,7 +28,8 @@ void CheckComboBox::Impl::Toggle(int row)
 {
     const QVariant state = _pr().itemData(row, Qt::CheckStateRole);
     if (state.isValid())
-        _pr().setItemData(row, state.toInt() != 0 ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+        _pr().setItemData(row, state.toInt() != 0 ? Qt::Unchecked : Qt::Checked,
+                          Qt::CheckStateRole);
 }
 
 void CheckComboBox::Impl::Update()

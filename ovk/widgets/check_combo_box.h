@@ -16,7 +16,8 @@ class OVK_EXPORT CheckComboBox : public QComboBox
     Q_OBJECT
     Q_PROPERTY(QString separator READ separator WRITE setSeparator)
     Q_PROPERTY(QString defaultText READ defaultText WRITE setDefaultText)
-    Q_PROPERTY(QStringList checkedItems READ checkedItems WRITE setCheckedItems NOTIFY checkedItemsChanged)
+    Q_PROPERTY(
+        QStringList checkedItems READ checkedItems WRITE setCheckedItems NOTIFY checkedItemsChanged)
 
 public:
     explicit CheckComboBox(QWidget* parent = nullptr);

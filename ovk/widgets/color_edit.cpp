@@ -26,8 +26,7 @@ constexpr int g_least_cells = 2;
 constexpr QSize g_least_size(59, 23);
 constexpr int g_least_text_height = 14;
 
-template <class Item>
-void AddRows(Qtitan::RibbonGalleryGroup& group, int rows)
+template <class Item> void AddRows(Qtitan::RibbonGalleryGroup& group, int rows)
 {
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < g_row_length; ++column)
@@ -62,7 +61,8 @@ void ColorEdit::_createPopup()
     setText(mp_default_action->text());
 
     connect(mp_default_action, &QAction::triggered, this, &ColorEdit::_onDefaultPressed);
-    connect(mp_gallery.get(), &Qtitan::RibbonGallery::itemClicked, this, &ColorEdit::_onColorPicked);
+    connect(mp_gallery.get(), &Qtitan::RibbonGallery::itemClicked, this,
+            &ColorEdit::_onColorPicked);
     connect(more, &QAction::triggered, this, &ColorEdit::_showDialog);
 }
 

@@ -142,7 +142,8 @@ void ColorMap::_renderColors(QImage& image)
     }
     // A single colour divides 0 by 0: no stop is set then, and the gradient has those of a new one.
     for (std::size_t k = 0; k < m_colors.size(); ++k) {
-        const double position = static_cast<double>(k) / (static_cast<double>(m_colors.size()) - 1.0);
+        const double position =
+            static_cast<double>(k) / (static_cast<double>(m_colors.size()) - 1.0);
         if (position <= 1.0)
             gradient.setColorAt(position, m_colors[k]);
     }

@@ -22,7 +22,8 @@ class OVK_EXPORT ColorMap : public QWidget
 
 public:
     /// The way that the colours run: upward or to the right.
-    enum Orientation {
+    enum Orientation
+    {
         Vertical = 0,
         Horizontal = 1
     };

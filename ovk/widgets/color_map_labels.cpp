@@ -47,10 +47,9 @@ void ColorMapLabels::_DrawLabels(const QSize& size)
     const int height = _GetLabelsFontHeight();
     const int width = _GetLabelsWidth();
     // A single label has no neighbour to keep a distance from.
-    const double spacing =
-        m_labels.size() > 1
-            ? (size.height() - height) / static_cast<double>(m_labels.size() - 1)
-            : 0.0;
+    const double spacing = m_labels.size() > 1
+                               ? (size.height() - height) / static_cast<double>(m_labels.size() - 1)
+                               : 0.0;
     double y = 0.0;
     for (auto label = m_labels.rbegin(); label != m_labels.rend(); ++label, y += spacing) {
         painter.drawText(QRect(0, static_cast<int>(y), width, height),

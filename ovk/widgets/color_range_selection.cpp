@@ -31,11 +31,11 @@ ColorRangeSelection::ColorRangeSelection(QWidget* parent)
     const QString dots = Translated(QT_TRANSLATE_NOOP("ColorRangeSelection", "..."));
     mp_start_edit->setText(dots);
     mp_end_edit->setText(dots);
-    auto* const endLabel = new QLabel(
-        Translated(QT_TRANSLATE_NOOP("ColorRangeSelection", "End color range")), this);
+    auto* const endLabel =
+        new QLabel(Translated(QT_TRANSLATE_NOOP("ColorRangeSelection", "End color range")), this);
     endLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    auto* const startLabel = new QLabel(
-        Translated(QT_TRANSLATE_NOOP("ColorRangeSelection", "Begin color range")), this);
+    auto* const startLabel =
+        new QLabel(Translated(QT_TRANSLATE_NOOP("ColorRangeSelection", "Begin color range")), this);
 
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -43,7 +43,8 @@ ColorRangeSelection::ColorRangeSelection(QWidget* parent)
     layout->addWidget(scale, 0, 0, 3, 1);
     layout->addWidget(mp_end_edit, 0, 1);
     layout->addWidget(endLabel, 0, 2);
-    layout->addItem(new QSpacerItem(20, 40, QSizePolicy::Minimum, QSizePolicy::Expanding), 1, 1, 1, 2);
+    layout->addItem(new QSpacerItem(20, 40, QSizePolicy::Minimum, QSizePolicy::Expanding), 1, 1, 1,
+                    2);
     layout->addWidget(mp_start_edit, 2, 1);
     layout->addWidget(startLabel, 2, 2);
 

@@ -137,7 +137,8 @@ void MSwitcher::paintEvent(QPaintEvent*)
 
     painter.setOpacity(1.0);
     painter.setBrush(m_disabled ? QBrush(QColor(g_thumb_disabled_color)) : m_thumb_brush);
-    painter.drawEllipse(QRectF(m_thumb_x - m_height / 2, m_thumb_y - m_height / 2, height(), height()));
+    painter.drawEllipse(
+        QRectF(m_thumb_x - m_height / 2, m_thumb_y - m_height / 2, height(), height()));
 }
 
 } // namespace ovk

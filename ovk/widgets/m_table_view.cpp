@@ -50,7 +50,8 @@ public:
         if (row == -1)
             return;
         // A row that is dragged downward lands below its target, one dragged upward above.
-        const int y = row >= view->currentIndex().row() ? option->rect.bottom() : option->rect.top();
+        const int y =
+            row >= view->currentIndex().row() ? option->rect.bottom() : option->rect.top();
         painter->drawLine(0, y, width, y);
     }
 

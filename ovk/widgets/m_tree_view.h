@@ -7,7 +7,8 @@
 namespace ovk {
 
 /// How a tree shows where a drag would land.
-enum DropIndicatorDrawingType {
+enum DropIndicatorDrawingType
+{
     /// As the style does.
     diStandard = 0,
     /// One thick line at the top of the row.

@@ -352,7 +352,9 @@ void ColorEditTest::theArrowIsLeftFree()
     option.features = QStyleOptionToolButton::MenuButtonPopup | QStyleOptionToolButton::HasMenu;
     option.subControls = QStyle::SC_ToolButton | QStyle::SC_ToolButtonMenu;
     const int arrow =
-        edit.style()->subControlRect(QStyle::CC_ToolButton, &option, QStyle::SC_ToolButtonMenu, &edit).width();
+        edit.style()
+            ->subControlRect(QStyle::CC_ToolButton, &option, QStyle::SC_ToolButtonMenu, &edit)
+            .width();
     QVERIFY(arrow > 0);
     const QImage picture = Picture(edit);
     QCOMPARE(picture.pixelColor(79 - arrow, 15), QColor(Qt::blue));
@@ -399,7 +401,8 @@ void ColorEditTest::theSizeHintHasALeast()
     QStyleOptionComboBox option;
     option.initFrom(&edit);
     const QSize contents(59, qMax(edit.fontMetrics().height(), 14) + 2);
-    QCOMPARE(edit.sizeHint(), edit.style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, &edit));
+    QCOMPARE(edit.sizeHint(),
+             edit.style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, &edit));
 }
 
 void ColorEditTest::theRangeIsLaidOut()
@@ -415,12 +418,15 @@ void ColorEditTest::theRangeIsLaidOut()
     QCOMPARE(scale->sizePolicy(), QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred));
     for (int row = 0; row < 3; ++row)
         QCOMPARE(layout->itemAtPosition(row, 0)->widget(), static_cast<QWidget*>(scale));
-    QCOMPARE(layout->itemAtPosition(0, 1)->widget(), static_cast<QWidget*>(range.getEndColorEdit()));
-    QCOMPARE(layout->itemAtPosition(2, 1)->widget(), static_cast<QWidget*>(range.getStartColorEdit()));
+    QCOMPARE(layout->itemAtPosition(0, 1)->widget(),
+             static_cast<QWidget*>(range.getEndColorEdit()));
+    QCOMPARE(layout->itemAtPosition(2, 1)->widget(),
+             static_cast<QWidget*>(range.getStartColorEdit()));
     const auto* const end = qobject_cast<QLabel*>(layout->itemAtPosition(0, 2)->widget());
     QCOMPARE(end->text(), QString("End color range"));
     QCOMPARE(end->sizePolicy(), QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed));
-    QCOMPARE(qobject_cast<QLabel*>(layout->itemAtPosition(2, 2)->widget())->text(), QString("Begin color range"));
+    QCOMPARE(qobject_cast<QLabel*>(layout->itemAtPosition(2, 2)->widget())->text(),
+             QString("Begin color range"));
     QVERIFY(layout->itemAtPosition(1, 1)->spacerItem());
     QCOMPARE(layout->itemAtPosition(1, 1), layout->itemAtPosition(1, 2));
     QCOMPARE(layout->itemAtPosition(1, 1)->sizeHint(), QSize(20, 40));

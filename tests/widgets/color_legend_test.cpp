@@ -79,7 +79,8 @@ void ColorLegendTest::aNewLegendLiesFlat()
 void ColorLegendTest::theMapGivesRangeStepAndColours()
 {
     Legend legend;
-    legend.SetColorsAndLabels({{-2.0, Qt::blue}, {0.0, Qt::green}, {3.0, Qt::yellow}, {10.0, Qt::red}});
+    legend.SetColorsAndLabels(
+        {{-2.0, Qt::blue}, {0.0, Qt::green}, {3.0, Qt::yellow}, {10.0, Qt::red}});
     QCOMPARE(legend.m_range_min, -2.0f);
     QCOMPARE(legend.m_range_max, 10.0f);
     QCOMPARE(legend.m_step, 4.0f);
@@ -121,7 +122,8 @@ void ColorLegendTest::theColoursAreThinAndTheLabelsBeside()
     legend.resize(120, 90);
     const QImage picture = Picture(legend);
     const QFontMetrics metrics(QApplication::font());
-    const QSize labels = metrics.boundingRect("0").size().expandedTo(metrics.boundingRect("1").size());
+    const QSize labels =
+        metrics.boundingRect("0").size().expandedTo(metrics.boundingRect("1").size());
     QCOMPARE(legend._EstimateLabelsSize(), labels);
     QCOMPARE(picture.copy(legend.m_image.rect()), legend.m_image);
     if (orientation == ColorMap::Vertical) {
@@ -251,8 +253,8 @@ void ColorLegendTest::theToolTipFollowsThePointer()
     QApplication::sendEvent(&legend, &leave);
     QTRY_VERIFY(!QToolTip::isVisible());
     legend.setEnabled(false);
-    QMouseEvent event(QEvent::MouseMove, QPoint(50, 3), legend.mapToGlobal(QPoint(50, 3)), Qt::NoButton,
-                      Qt::NoButton, Qt::NoModifier);
+    QMouseEvent event(QEvent::MouseMove, QPoint(50, 3), legend.mapToGlobal(QPoint(50, 3)),
+                      Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QVERIFY(!legend.eventFilter(&legend, &event));
     QVERIFY(!QToolTip::isVisible());
 }

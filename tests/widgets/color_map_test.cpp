@@ -13,8 +13,7 @@ using ovk_test::Picture;
 
 namespace {
 
-template <class Map>
-class Exposed : public Map
+template <class Map> class Exposed : public Map
 {
 public:
     using Map::_drawMarks;
@@ -35,12 +34,12 @@ protected:
 class Labelled : public ColorMapHueWithLabels
 {
 public:
+    using ColorMap::m_image;
     using ColorMapLabels::_GetLabelsFontHeight;
     using ColorMapLabels::_GetLabelStr;
     using ColorMapLabels::_GetLabelsWidth;
     using ColorMapLabels::m_labels;
     using ColorMapLabels::m_labels_image;
-    using ColorMap::m_image;
     using ColorMapLabels::ShowUserUnits;
 };
 
@@ -201,7 +200,10 @@ void ColorMapTest::marksAreBlackOnLightAndWhiteOnDark()
     {
         QColor color;
         bool black;
-    } rows[] = {{QColor(134, 134, 133), true}, {QColor(134, 133, 133), false}, {Qt::white, true}, {Qt::red, false}};
+    } rows[] = {{QColor(134, 134, 133), true},
+                {QColor(134, 133, 133), false},
+                {Qt::white, true},
+                {Qt::red, false}};
     for (const auto& row : rows) {
         Exposed<ColorMap> map;
         map.setColors(row.color, row.color);
@@ -271,7 +273,8 @@ void ColorMapTest::theColoursAreThoseOfTheGradient_data()
     QTest::addColumn<QVector<QColor>>("colors");
     const QVector<QColor> one{Qt::red};
     const QVector<QColor> two{Qt::red, Qt::blue};
-    const QVector<QColor> seven{Qt::red, Qt::yellow, Qt::green, Qt::cyan, Qt::blue, Qt::magenta, Qt::black};
+    const QVector<QColor> seven{Qt::red,  Qt::yellow,  Qt::green, Qt::cyan,
+                                Qt::blue, Qt::magenta, Qt::black};
     for (const ColorMap::Orientation orientation : {ColorMap::Vertical, ColorMap::Horizontal}) {
         QTest::addRow("one colour, %d", orientation) << int(orientation) << one;
         QTest::addRow("two colours, %d", orientation) << int(orientation) << two;
@@ -368,11 +371,16 @@ void ColorMapTest::theHueSweepIsTheFormula_data()
     QTest::addColumn<int>("height");
     for (const bool interpolate : {false, true}) {
         const char* const how = interpolate ? "with lightness" : "hue alone";
-        QTest::addRow("whole, %s", how) << QColor::fromHsl(0, 255, 127) << QColor::fromHsl(359, 255, 127) << interpolate << 100;
-        QTest::addRow("through zero, %s", how) << QColor::fromHsl(300, 200, 60) << QColor::fromHsl(60, 90, 220) << interpolate << 77;
-        QTest::addRow("short, %s", how) << QColor::fromHsl(200, 255, 127) << QColor::fromHsl(210, 10, 250) << interpolate << 300;
-        QTest::addRow("one row, %s", how) << QColor::fromHsl(10, 255, 127) << QColor::fromHsl(210, 10, 250) << interpolate << 1;
-        QTest::addRow("from gray, %s", how) << QColor(Qt::gray) << QColor(Qt::blue) << interpolate << 50;
+        QTest::addRow("whole, %s", how)
+            << QColor::fromHsl(0, 255, 127) << QColor::fromHsl(359, 255, 127) << interpolate << 100;
+        QTest::addRow("through zero, %s", how)
+            << QColor::fromHsl(300, 200, 60) << QColor::fromHsl(60, 90, 220) << interpolate << 77;
+        QTest::addRow("short, %s", how) << QColor::fromHsl(200, 255, 127)
+                                        << QColor::fromHsl(210, 10, 250) << interpolate << 300;
+        QTest::addRow("one row, %s", how)
+            << QColor::fromHsl(10, 255, 127) << QColor::fromHsl(210, 10, 250) << interpolate << 1;
+        QTest::addRow("from gray, %s", how)
+            << QColor(Qt::gray) << QColor(Qt::blue) << interpolate << 50;
     }
 }
 
@@ -425,9 +433,11 @@ void ColorMapTest::theWholeRangeHasItsLabels_data()
 {
     QTest::addColumn<QVector<float>>("range");
     QTest::addColumn<QVector<double>>("labels");
-    QTest::newRow("up") << QVector<float>{1, 10, 1} << QVector<double>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+    QTest::newRow("up") << QVector<float>{1, 10, 1}
+                        << QVector<double>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
     QTest::newRow("down") << QVector<float>{3, 1, 1} << QVector<double>{1, 2, 3};
-    QTest::newRow("upper end not reached") << QVector<float>{0, 1, 0.75f} << QVector<double>{0, 0.75};
+    QTest::newRow("upper end not reached")
+        << QVector<float>{0, 1, 0.75f} << QVector<double>{0, 0.75};
     QTest::newRow("even") << QVector<float>{2, 1} << QVector<double>{-2, -1, 0, 1, 2};
     QTest::newRow("no step") << QVector<float>{0, 1, 0} << QVector<double>{};
     QTest::newRow("step downward") << QVector<float>{0, 1, -1} << QVector<double>{};

@@ -27,8 +27,7 @@ public:
     void Drop() { Send<QDropEvent>(&Table::dropEvent); }
 
 private:
-    template <class Event, class Member>
-    void Send(Member member)
+    template <class Event, class Member> void Send(Member member)
     {
         QMimeData data;
         Event event(QPoint(5, 5), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -46,8 +45,7 @@ public:
     void Drop() { Send<QDropEvent>(&Tree::dropEvent); }
 
 private:
-    template <class Event, class Member>
-    void Send(Member member)
+    template <class Event, class Member> void Send(Member member)
     {
         QMimeData data;
         Event event(QPoint(5, 5), Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -116,7 +114,8 @@ void DropViewsTest::movesAndDropsAreTold()
 {
     Table table;
     table.setModel(&m_model);
-    QSignalSpy tableStart(&table, &MTableView::startDragging), tableEnd(&table, &MTableView::endDragging);
+    QSignalSpy tableStart(&table, &MTableView::startDragging),
+        tableEnd(&table, &MTableView::endDragging);
     table.Move();
     QCOMPARE(tableStart.size(), 1);
     table.Drop();
@@ -235,7 +234,8 @@ void DropViewsTest::theStyleOfTheApplicationSurvives()
         QVERIFY(table.style() != tree.style());
         QCOMPARE(table.style()->parent(), &table);
         QCOMPARE(style->proxy(), proxy);
-        QCOMPARE(table.style()->pixelMetric(QStyle::PM_ButtonMargin), style->pixelMetric(QStyle::PM_ButtonMargin));
+        QCOMPARE(table.style()->pixelMetric(QStyle::PM_ButtonMargin),
+                 style->pixelMetric(QStyle::PM_ButtonMargin));
     }
     QVERIFY(style);
     QCOMPARE(style->proxy(), proxy);

@@ -31,7 +31,10 @@ public:
 
 protected:
     QVariant _ItemIndexToData(int index) const override { return QString("mode%1").arg(index); }
-    int _DataToItemIndex(const QVariant& data) const override { return data.toString().mid(4).toInt(); }
+    int _DataToItemIndex(const QVariant& data) const override
+    {
+        return data.toString().mid(4).toInt();
+    }
 };
 
 class Pending : public ColorEditDelegate
@@ -41,8 +44,7 @@ public:
     using ColorEditDelegate::m_pending_action;
 };
 
-template <class Editor>
-Editor* EditorOf(const Form& form, int row)
+template <class Editor> Editor* EditorOf(const Form& form, int row)
 {
     return qobject_cast<Editor*>(form.Editor(row));
 }
@@ -147,7 +149,8 @@ void ItemDelegatesTest::aCheckBoxWritesAtOnce()
     QFETCH(bool, inverted);
     Value value(true);
     Form form;
-    form.AddItem("Row", inverted ? CheckBoxInvertedDelegate::GetInstance() : CheckBoxDelegate::GetInstance())
+    form.AddItem("Row", inverted ? CheckBoxInvertedDelegate::GetInstance()
+                                 : CheckBoxDelegate::GetInstance())
         ->SetDataProvider(&value);
     form.CreateEditors();
     auto* const box = EditorOf<QCheckBox>(form, 0);
@@ -171,13 +174,15 @@ void ItemDelegatesTest::aClickBesideTheBoxToggles()
     QFETCH(bool, inverted);
     Value value(true);
     Form form;
-    TreeEditItem* const item = form.AddItem(
-        "Row", inverted ? CheckBoxInvertedDelegate::GetInstance() : CheckBoxDelegate::GetInstance());
+    TreeEditItem* const item =
+        form.AddItem("Row", inverted ? CheckBoxInvertedDelegate::GetInstance()
+                                     : CheckBoxDelegate::GetInstance());
     item->SetDataProvider(&value);
     const auto send = [&form](int column, QEvent::Type type) {
         QMouseEvent event(type, QPoint(1, 1), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         QAbstractItemDelegate* const delegate = form.itemDelegate();
-        return delegate->editorEvent(&event, form.model(), form.viewOptions(), form.Cell(0, column));
+        return delegate->editorEvent(&event, form.model(), form.viewOptions(),
+                                     form.Cell(0, column));
     };
     QVERIFY(!send(1, QEvent::MouseButtonPress));
     QVERIFY(!send(0, QEvent::MouseButtonRelease));
@@ -406,9 +411,14 @@ void ItemDelegatesTest::shownValuesAreNotWrittenBack()
     QFETCH(QVariant, first);
     QFETCH(QVariant, second);
     const std::function<TreeItemDelegateBase*()> makers[] = {
-        [] { return new CheckBoxDelegate; }, [] { return new CheckBoxInvertedDelegate; },
-        [] { return new ComboBoxDelegate({"a", "b"}); }, [] { return new ColorEditDelegate; },
-        [] { return new SpinBoxDelegate(0, 10); }, [] { return new DoubleSpinBoxDelegate(0.0, 10.0); }};
+        [] { return new CheckBoxDelegate; },
+        [] { return new CheckBoxInvertedDelegate; },
+        [] {
+            return new ComboBoxDelegate({"a", "b"});
+        },
+        [] { return new ColorEditDelegate; },
+        [] { return new SpinBoxDelegate(0, 10); },
+        [] { return new DoubleSpinBoxDelegate(0.0, 10.0); }};
     Value value(first);
     Form form;
     TreeEditItem* const item = form.AddItem("Row", makers[kind]());

@@ -342,7 +342,8 @@ void SmallWidgetsTest::theSwitchIsPainted()
     QFETCH(bool, on);
     QFETCH(QColor, track);
     QFETCH(QSize, size);
-    const std::unique_ptr<MSwitcher> switcher(track.isValid() ? new MSwitcher(track) : new MSwitcher);
+    const std::unique_ptr<MSwitcher> switcher(track.isValid() ? new MSwitcher(track)
+                                                              : new MSwitcher);
     switcher->resize(size);
     Picture(*switcher);
     switcher->setToggle(on);
@@ -468,7 +469,8 @@ void SmallWidgetsTest::theToolTipHasItsCells()
     tooltip.setProperty("tooltip", message);
     QString expected = "<table cellspacing=16><tr>";
     if (image)
-        expected += "<td valign=\"middle\"><img src='data:/image/png;base64, " + bytes.toBase64() + "'></img></td>";
+        expected += "<td valign=\"middle\"><img src='data:/image/png;base64, " + bytes.toBase64() +
+                    "'></img></td>";
     if (!message.isEmpty())
         expected += "<td align=\"left\" valign=\"top\">" + message + "</td>";
     expected += "</tr></table>";
@@ -484,7 +486,8 @@ void SmallWidgetsTest::theToolTipKeepsWhatLooksLikeAMark()
     ExposedTooltip tooltip;
     tooltip.setMessage("100 %1 %2");
     QCOMPARE(tooltip._FormHtmlTooltipString(),
-             QString("<table cellspacing=16><tr><td align=\"left\" valign=\"top\">100 %1 %2</td></tr></table>"));
+             QString("<table cellspacing=16><tr><td align=\"left\" valign=\"top\">100 %1 "
+                     "%2</td></tr></table>"));
 }
 
 void SmallWidgetsTest::theToolTipComesWithThePointer()

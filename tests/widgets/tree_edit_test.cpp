@@ -67,7 +67,8 @@ void TreeEditTest::theViewIsSetUp()
     QCOMPARE(edit.selectionBehavior(), QAbstractItemView::SelectItems);
     QCOMPARE(edit.header()->sectionResizeMode(0), QHeaderView::ResizeToContents);
     QVERIFY(edit.header()->stretchLastSection() && edit.header()->isHidden());
-    QCOMPARE(edit.editTriggers(), QAbstractItemView::EditTriggers(QAbstractItemView::AllEditTriggers));
+    QCOMPARE(edit.editTriggers(),
+             QAbstractItemView::EditTriggers(QAbstractItemView::AllEditTriggers));
     QCOMPARE(edit.frameStyle(), 0);
     QVERIFY(edit.allColumnsShowFocus() && edit.tabKeyNavigation());
     QVERIFY(qobject_cast<SettingsItemsModel*>(edit.model()));
@@ -249,11 +250,13 @@ void TreeEditTest::rowsComeAndGoAsAnnounced()
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);
     Form form;
-    QAbstractItemModelTester tester(form.model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QAbstractItemModelTester tester(form.model(),
+                                    QAbstractItemModelTester::FailureReportingMode::Fatal);
     QVector<TreeEditItemBase*> items;
     for (int step = 0; step < 400; ++step) {
         const int kind = random.bounded(4);
-        TreeEditItemBase* const any = items.isEmpty() ? nullptr : items[random.bounded(items.size())];
+        TreeEditItemBase* const any =
+            items.isEmpty() ? nullptr : items[random.bounded(items.size())];
         if (kind == 0 && items.size() < 60) {
             const QString name = QString::number(step);
             if (!any || random.bounded(3) == 0)
@@ -447,7 +450,8 @@ void TreeEditTest::theTitleIsSelectedAtTheTopLevel()
     QSignalSpy spy(form.selectionModel(), &QItemSelectionModel::selectionChanged);
     form.selectionModel()->setCurrentIndex(form.Cell(0), QItemSelectionModel::NoUpdate);
     const int topLevel = spy.size();
-    form.selectionModel()->setCurrentIndex(form.Cell(0, 1, form.Cell(1, 0)), QItemSelectionModel::NoUpdate);
+    form.selectionModel()->setCurrentIndex(form.Cell(0, 1, form.Cell(1, 0)),
+                                           QItemSelectionModel::NoUpdate);
     QCOMPARE(spy.size(), topLevel);
     QVERIFY(form.currentIndex().isValid());
 }
@@ -491,7 +495,8 @@ void TreeEditTest::rowsHaveTheirLines()
             for (int x = 0; x < 100; ++x) {
                 const bool bottom = y == 24 && x >= 5 && x < 85;
                 const bool left = column == 1 && x == 5 && y >= 5 && y < 25;
-                QCOMPARE(image.pixelColor(x, y), bottom || left ? QColor(10, 200, 30) : QColor(Qt::white));
+                QCOMPARE(image.pixelColor(x, y),
+                         bottom || left ? QColor(10, 200, 30) : QColor(Qt::white));
             }
         }
     }
@@ -523,7 +528,8 @@ void TreeEditTest::theCurrentTitleIsLit()
 void TreeEditTest::aDisabledTitleIsPale()
 {
     Form form;
-    TreeEditItem* const item = form.AddItem(QString(8, QChar(0x2588)), CheckBoxDelegate::GetInstance());
+    TreeEditItem* const item =
+        form.AddItem(QString(8, QChar(0x2588)), CheckBoxDelegate::GetInstance());
     QPalette palette = form.palette();
     palette.setColor(QPalette::Text, Qt::blue);
     palette.setColor(QPalette::Mid, QColor(230, 120, 10));

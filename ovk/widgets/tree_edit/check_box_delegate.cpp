@@ -57,8 +57,8 @@ bool CheckBoxDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
                                    const QStyleOptionViewItem& option, const QModelIndex& index)
 {
     const TreeEditItemBase* const item = TreeEdit::GetItem(index);
-    if (event->type() == QEvent::MouseButtonRelease && index.column() == 1 && item
-        && item->IsEnabled()) {
+    if (event->type() == QEvent::MouseButtonRelease && index.column() == 1 && item &&
+        item->IsEnabled()) {
         model->setData(index, !item->GetData().toBool(), Qt::EditRole);
         return true;
     }

@@ -25,7 +25,8 @@ public:
 
 protected:
     /// What an editor does once it has its colour.
-    enum PendingAction : int {
+    enum PendingAction : int
+    {
         paNone = 0,
         paDialog = 1,
         paPopup = 2

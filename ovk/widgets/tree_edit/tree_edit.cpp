@@ -94,8 +94,8 @@ QModelIndex TreeEdit::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
 {
     const QModelIndex present = currentIndex();
     const QModelIndex result = QTreeView::moveCursor(action, modifiers);
-    if ((action == MoveNext || action == MovePrevious) && result.parent() == present.parent()
-        && result.row() == present.row()) {
+    if ((action == MoveNext || action == MovePrevious) && result.parent() == present.parent() &&
+        result.row() == present.row()) {
         _HandFocusOn(action == MoveNext);
         return QModelIndex();
     }

@@ -113,8 +113,9 @@ void TreeItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
             painter->drawLine(option.rect.topLeft(), option.rect.bottomLeft());
         painter->restore();
         if (option.state.testFlag(QStyle::State_Active) && _IsCurrentTitle(index)) {
-            painter->fillRect(option.rect, option.palette.color(QPalette::Highlight)
-                                               .lighter(g_current_lightness));
+            painter->fillRect(
+                option.rect,
+                option.palette.color(QPalette::Highlight).lighter(g_current_lightness));
         }
     }
 
