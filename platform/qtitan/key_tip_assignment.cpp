@@ -57,8 +57,8 @@ QString normalized(const QString& text)
     return result;
 }
 
-/// The characters of a title in the order in which they are tried: first of the title, first of each
-/// further word, then the rest. Digits are left to the quick access bar.
+/// The characters of a title in the order in which they are tried: first of the title, first of
+/// each further word, then the rest. Digits are left to the quick access bar.
 QString candidates(const QString& title)
 {
     QString initials;

@@ -14,7 +14,9 @@ namespace {
 class BorrowedWidgetAction : public QWidgetAction
 {
 public:
-    BorrowedWidgetAction(QWidget* widget, QObject* parent) : QWidgetAction(parent), m_widget(widget) {}
+    BorrowedWidgetAction(QWidget* widget, QObject* parent) : QWidgetAction(parent), m_widget(widget)
+    {
+    }
 
     ~BorrowedWidgetAction() override
     {

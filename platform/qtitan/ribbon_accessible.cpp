@@ -47,8 +47,8 @@ public:
         case QAccessible::Accelerator: {
             const QString letter = mnemonicOf(m_page->title());
             return letter.isEmpty()
-                ? QString()
-                : QKeySequence(Qt::ALT).toString(QKeySequence::NativeText) + letter;
+                       ? QString()
+                       : QKeySequence(Qt::ALT).toString(QKeySequence::NativeText) + letter;
         }
         default:
             return QString();
@@ -107,7 +107,9 @@ private:
 class AccessibleTabBar : public QAccessibleWidget
 {
 public:
-    explicit AccessibleTabBar(RibbonTabBar* bar) : QAccessibleWidget(bar, QAccessible::PageTabList) {}
+    explicit AccessibleTabBar(RibbonTabBar* bar) : QAccessibleWidget(bar, QAccessible::PageTabList)
+    {
+    }
 
     ~AccessibleTabBar() override
     {
@@ -168,11 +170,14 @@ private:
 class AccessibleGroup : public QAccessibleWidget
 {
 public:
-    explicit AccessibleGroup(RibbonGroup* group) : QAccessibleWidget(group, QAccessible::Grouping) {}
+    explicit AccessibleGroup(RibbonGroup* group) : QAccessibleWidget(group, QAccessible::Grouping)
+    {
+    }
 
     QString text(QAccessible::Text type) const override
     {
-        return type == QAccessible::Name ? plainText(group()->title()) : QAccessibleWidget::text(type);
+        return type == QAccessible::Name ? plainText(group()->title())
+                                         : QAccessibleWidget::text(type);
     }
 
     QAccessible::State state() const override
@@ -229,7 +234,9 @@ public:
 class AccessiblePage : public QAccessibleWidget
 {
 public:
-    explicit AccessiblePage(RibbonPage* page) : QAccessibleWidget(page, QAccessible::PropertyPage) {}
+    explicit AccessiblePage(RibbonPage* page) : QAccessibleWidget(page, QAccessible::PropertyPage)
+    {
+    }
 
     QString text(QAccessible::Text type) const override
     {

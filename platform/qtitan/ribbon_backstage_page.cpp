@@ -91,9 +91,10 @@ void RibbonBackstageButton::paintEvent(QPaintEvent* event)
     option.state.setFlag(RibbonState::Pressed, isDown());
     option.state.setFlag(RibbonState::Checked, isChecked());
     if (menu())
-        option.menu = popupMode() == MenuButtonPopup ? RibbonMenuKind::Split : RibbonMenuKind::Whole;
-    const bool plain = !option.has(RibbonState::Hover) && !option.has(RibbonState::Pressed)
-        && !option.has(RibbonState::Checked);
+        option.menu =
+            popupMode() == MenuButtonPopup ? RibbonMenuKind::Split : RibbonMenuKind::Whole;
+    const bool plain = !option.has(RibbonState::Hover) && !option.has(RibbonState::Pressed) &&
+                       !option.has(RibbonState::Checked);
     if (!m_flat && plain) {
         const RibbonTheme& theme = RibbonTheme::current();
         RibbonPainter::drawLook(painter, rect(), theme[Element::PushButton], theme.cornerRadius());

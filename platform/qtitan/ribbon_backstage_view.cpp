@@ -220,7 +220,8 @@ void RibbonBackstageView::actionEvent(QActionEvent* event)
         entry.page = d->inserting;
         if (!action->isSeparator()) {
             entry.row = new RibbonBackstageRow(action, this);
-            connect(entry.row, &QAbstractButton::clicked, action, [this, action] { d->rowClicked(action); });
+            connect(entry.row, &QAbstractButton::clicked, action,
+                    [this, action] { d->rowClicked(action); });
             entry.row->show();
         }
         d->entries.insert(d->find(event->before()), entry);
@@ -300,16 +301,18 @@ bool RibbonBackstageView::focusNextPrevChild(bool next)
     for (QAbstractButton* row : rows)
         stops.append(row);
     if (d->active) {
-        for (QWidget* w = d->active->nextInFocusChain(); w && w != d->active; w = w->nextInFocusChain())
-            if (d->active->isAncestorOf(w) && (w->focusPolicy() & Qt::TabFocus) && w->isVisible()
-                && w->isEnabled() && !w->focusProxy())
+        for (QWidget* w = d->active->nextInFocusChain(); w && w != d->active;
+             w = w->nextInFocusChain())
+            if (d->active->isAncestorOf(w) && (w->focusPolicy() & Qt::TabFocus) && w->isVisible() &&
+                w->isEnabled() && !w->focusProxy())
                 stops.append(w);
     }
     if (stops.isEmpty())
         return true;
     const int index = stops.indexOf(QApplication::focusWidget());
     const int count = stops.size();
-    const int target = index < 0 ? (next ? 0 : count - 1) : (index + (next ? 1 : count - 1)) % count;
+    const int target =
+        index < 0 ? (next ? 0 : count - 1) : (index + (next ? 1 : count - 1)) % count;
     stops.at(target)->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     return true;
 }
@@ -399,7 +402,8 @@ void RibbonBackstageViewPrivate::layout()
     scroll = qBound(0, scroll, maximumScroll);
 
     int y = -scroll;
-    backButton->setGeometry(directed(QRect(0, y, column, metrics.backstageBackRow), width, direction));
+    backButton->setGeometry(
+        directed(QRect(0, y, column, metrics.backstageBackRow), width, direction));
     y += metrics.backstageBackRow + metrics.px(8);
     for (Entry& entry : entries) {
         const bool visible = entry.action->isVisible();
@@ -414,7 +418,8 @@ void RibbonBackstageViewPrivate::layout()
             y += height;
     }
     if (active)
-        active->setGeometry(directed(QRect(column, 0, qMax(0, width - column), q->height()), width, direction));
+        active->setGeometry(
+            directed(QRect(column, 0, qMax(0, width - column), q->height()), width, direction));
 }
 
 void RibbonBackstageViewPrivate::openPage(RibbonBackstagePage* page)
@@ -453,8 +458,8 @@ void RibbonBackstageViewPrivate::moveRow(int step)
     for (int i = 0; i < rows.size(); ++i)
         if (rows.at(i)->hasFocus())
             index = i;
-    const int target = index < 0 ? (step > 0 ? 0 : rows.size() - 1)
-                                 : (index + step + rows.size()) % rows.size();
+    const int target =
+        index < 0 ? (step > 0 ? 0 : rows.size() - 1) : (index + step + rows.size()) % rows.size();
     rows.at(target)->setFocus(Qt::TabFocusReason);
     const QRect rect = rows.at(target)->geometry();
     if (rect.bottom() >= q->height())

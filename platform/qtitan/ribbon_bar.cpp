@@ -348,8 +348,8 @@ bool RibbonBar::eventFilter(QObject* watched, QEvent* event)
 
 bool RibbonBar::focusNextPrevChild(bool next)
 {
-    return RibbonKeyboard::moveFocus(QApplication::focusWidget(), next)
-        || QWidget::focusNextPrevChild(next);
+    return RibbonKeyboard::moveFocus(QApplication::focusWidget(), next) ||
+           QWidget::focusNextPrevChild(next);
 }
 
 void RibbonBar::changeEvent(QEvent* event)

@@ -22,7 +22,8 @@ bool hasNativeNeighbour(const QWidget* window, const QWidget* bar)
 {
     const QList<QWidget*> children = window->findChildren<QWidget*>();
     return std::any_of(children.begin(), children.end(), [bar](const QWidget* child) {
-        return !child->isWindow() && child->internalWinId() && child != bar && !bar->isAncestorOf(child);
+        return !child->isWindow() && child->internalWinId() && child != bar &&
+               !bar->isAncestorOf(child);
     });
 }
 
@@ -82,7 +83,8 @@ void RibbonBarPrivate::commandRan()
             group->hidePopup();
     // The command may be in the middle of a click of a button on the page.
     if (peeking)
-        QMetaObject::invokeMethod(q, [this] { endPeek(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            q, [this] { endPeek(); }, Qt::QueuedConnection);
 }
 
 void RibbonBarPrivate::beginPeek()
@@ -132,17 +134,17 @@ bool RibbonBarPrivate::filterPeek(QObject* watched, QEvent* event)
             return false;
         // Menus and drop-down lists that were opened from the page are part of it, and the tabs
         // decide for themselves.
-        const bool inside = widget == area || area->isAncestorOf(widget) || widget == tabBar
-            || tabBar->isAncestorOf(widget) || QApplication::activePopupWidget()
-            || ribbonBarOf(widget) == q;
+        const bool inside = widget == area || area->isAncestorOf(widget) || widget == tabBar ||
+                            tabBar->isAncestorOf(widget) || QApplication::activePopupWidget() ||
+                            ribbonBarOf(widget) == q;
         if (!inside)
             endPeek();
         return false;
     }
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
-        if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape || keyTips->isActive()
-            || QApplication::activePopupWidget() || !qobject_cast<QWidget*>(watched))
+        if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape || keyTips->isActive() ||
+            QApplication::activePopupWidget() || !qobject_cast<QWidget*>(watched))
             return false;
         if (event->type() == QEvent::ShortcutOverride) {
             event->accept();

@@ -21,8 +21,9 @@ int RibbonBarPrivate::captionHeight() const
     const RibbonMetrics& metrics = RibbonMetrics::of(q);
     if (frameThemed)
         return qMax(metrics.captionHeight,
-                    quickAccessVisible ? RibbonQuickAccessBarPrivate::get(quickAccess)->fullSize().height()
-                                       : 0);
+                    quickAccessVisible
+                        ? RibbonQuickAccessBarPrivate::get(quickAccess)->fullSize().height()
+                        : 0);
     if (!quickAccessVisible)
         return 0;
     return qMax(metrics.quickAccessHeight,
@@ -115,8 +116,9 @@ void RibbonBarPrivate::layout()
         const int title = frameThemed ? qMin(metrics.px(80), width / 4) : 0;
         const int room = qMax(button.width(), caption_right - caption_left - title);
         const int taken = bar->fitInto(room, button.width());
-        bar->placeIn(static_cast<RibbonQuickAccessClip*>(quickAccessClip),
-                     directed(QRect(caption_left, 0, taken, caption_row.height()), width, direction));
+        bar->placeIn(
+            static_cast<RibbonQuickAccessClip*>(quickAccessClip),
+            directed(QRect(caption_left, 0, taken, caption_row.height()), width, direction));
         overflow->setVisible(quickAccess->hasOverflow());
         put(overflow, QRect(caption_left + taken, (caption_row.height() - button.height()) / 2,
                             button.width(), button.height()));
@@ -125,7 +127,8 @@ void RibbonBarPrivate::layout()
     }
 
     // The corner gives way before the tabs become unreadable, beginning with its first button.
-    const int button_height = qMin(metrics.minimizeButton.height(), tab_row.height() - metrics.px(2));
+    const int button_height =
+        qMin(metrics.minimizeButton.height(), tab_row.height() - metrics.px(2));
     for (const Corner& entry : corner)
         entry.button->setDisplaySize(entry.button->wantedSize() == RibbonItemSize::Large
                                          ? RibbonItemSize::Text
@@ -133,8 +136,8 @@ void RibbonBarPrivate::layout()
     int room = qMax(0, width - tab_left - qMin(tabBar->usableWidth(), width / 2));
     int x = width - metrics.px(2);
     for (auto it = corner.rbegin(); it != corner.rend(); ++it) {
-        const int button_width = qMax(it->button->widthFor(it->button->displaySize()),
-                                      metrics.minimizeButton.width());
+        const int button_width =
+            qMax(it->button->widthFor(it->button->displaySize()), metrics.minimizeButton.width());
         const bool fits = it->action->isVisible() && button_width <= room;
         it->button->setVisible(fits);
         if (!fits)
@@ -278,9 +281,9 @@ QVector<RibbonBarPrivate::ContextHeading> RibbonBarPrivate::contextHeadings() co
         const RibbonPage* first = tabs.at(i);
         QRect rect;
         int end = i;
-        while (end < tabs.size() && tabs.at(end)->isContextual() == first->isContextual()
-               && tabs.at(end)->contextTitle() == first->contextTitle()
-               && tabs.at(end)->contextColor() == first->contextColor())
+        while (end < tabs.size() && tabs.at(end)->isContextual() == first->isContextual() &&
+               tabs.at(end)->contextTitle() == first->contextTitle() &&
+               tabs.at(end)->contextColor() == first->contextColor())
             rect |= tabBar->tabRect(end++);
         i = end;
         if (!first->isContextual() || rect.isEmpty())
@@ -289,9 +292,9 @@ QVector<RibbonBarPrivate::ContextHeading> RibbonBarPrivate::contextHeadings() co
         rect.setTop(RibbonMetrics::of(q).px(2));
         rect.setBottom(captionHeight() - 1);
         // Buttons of the quick access bar are more use than a heading behind them.
-        const bool covered = (quickAccessVisible && rect.intersects(quickAccessClip->geometry()))
-            || (!overflow->isHidden() && rect.intersects(overflow->geometry()))
-            || (caption && rect.intersects(caption->geometry()));
+        const bool covered = (quickAccessVisible && rect.intersects(quickAccessClip->geometry())) ||
+                             (!overflow->isHidden() && rect.intersects(overflow->geometry())) ||
+                             (caption && rect.intersects(caption->geometry()));
         if (!covered)
             headings.append({rect, plainText(first->contextTitle()), first->contextColor()});
     }
@@ -314,13 +317,14 @@ void RibbonBarPrivate::watchWindow()
     if (!handle)
         return;
     const auto relayout = [this] { relayoutAll(); };
-    screenConnection = QObject::connect(handle, &QWindow::screenChanged, q, [this, relayout](QScreen*) {
-        watchWindow();
-        relayout();
-    });
+    screenConnection =
+        QObject::connect(handle, &QWindow::screenChanged, q, [this, relayout](QScreen*) {
+            watchWindow();
+            relayout();
+        });
     if (handle->screen())
-        dpiConnection = QObject::connect(handle->screen(), &QScreen::logicalDotsPerInchChanged, q,
-                                         relayout);
+        dpiConnection =
+            QObject::connect(handle->screen(), &QScreen::logicalDotsPerInchChanged, q, relayout);
 }
 
 } // namespace Qtitan

@@ -126,8 +126,8 @@ RibbonButtonOption RibbonButton::optionFor(RibbonItemSize size) const
         break;
     case RibbonItemSize::Text:
         option.style = toolButtonStyle() == Qt::ToolButtonTextOnly || icon().isNull()
-            ? Qt::ToolButtonTextOnly
-            : Qt::ToolButtonTextBesideIcon;
+                           ? Qt::ToolButtonTextOnly
+                           : Qt::ToolButtonTextBesideIcon;
         break;
     case RibbonItemSize::Icon:
         option.style = Qt::ToolButtonIconOnly;

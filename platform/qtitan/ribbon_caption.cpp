@@ -54,8 +54,7 @@ void RibbonCaptionWidget::paintEvent(QPaintEvent*)
 }
 
 RibbonCaptionBox::RibbonCaptionBox(QWidget* parent)
-    : QWidget(parent),
-      m_minimize(new RibbonCaptionWidget(RibbonCaptionButton::Minimize, this)),
+    : QWidget(parent), m_minimize(new RibbonCaptionWidget(RibbonCaptionButton::Minimize, this)),
       m_maximize(new RibbonCaptionWidget(RibbonCaptionButton::Maximize, this)),
       m_close(new RibbonCaptionWidget(RibbonCaptionButton::Close, this))
 {
@@ -66,8 +65,9 @@ RibbonCaptionBox::RibbonCaptionBox(QWidget* parent)
     connect(m_minimize, &QAbstractButton::clicked, this, [this] { window()->showMinimized(); });
     connect(m_maximize, &QAbstractButton::clicked, this,
             [this] { window()->setWindowState(window()->windowState() ^ Qt::WindowMaximized); });
-    connect(m_close, &QAbstractButton::clicked, this, [this] { window()->close(); },
-            Qt::QueuedConnection);
+    connect(
+        m_close, &QAbstractButton::clicked, this, [this] { window()->close(); },
+        Qt::QueuedConnection);
 }
 
 QSize RibbonCaptionBox::sizeHint() const
@@ -98,7 +98,8 @@ void RibbonCaptionBox::resizeEvent(QResizeEvent*)
     for (RibbonCaptionWidget* button : {m_minimize, m_maximize, m_close}) {
         if (button->isHidden())
             continue;
-        button->setGeometry(directed(QRect(x, 0, width, height()), this->width(), layoutDirection()));
+        button->setGeometry(
+            directed(QRect(x, 0, width, height()), this->width(), layoutDirection()));
         x += width;
     }
 }
@@ -128,8 +129,8 @@ void RibbonBarPrivate::setFrameThemed(bool themed)
 
 void RibbonBar::mousePressEvent(QMouseEvent* event)
 {
-    if (!d->frameThemed || event->button() != Qt::LeftButton
-        || !d->captionRect().contains(event->pos())) {
+    if (!d->frameThemed || event->button() != Qt::LeftButton ||
+        !d->captionRect().contains(event->pos())) {
         event->ignore();
         return;
     }
@@ -139,8 +140,8 @@ void RibbonBar::mousePressEvent(QMouseEvent* event)
 
 void RibbonBar::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!d->captionPressed
-        || (event->pos() - d->pressedAt).manhattanLength() < QApplication::startDragDistance())
+    if (!d->captionPressed ||
+        (event->pos() - d->pressedAt).manhattanLength() < QApplication::startDragDistance())
         return;
     QWidget* top = window();
     QWindow* handle = top->windowHandle();
@@ -164,8 +165,8 @@ void RibbonBar::mouseReleaseEvent(QMouseEvent*)
 
 void RibbonBar::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (!d->frameThemed || event->button() != Qt::LeftButton
-        || !d->captionRect().contains(event->pos())) {
+    if (!d->frameThemed || event->button() != Qt::LeftButton ||
+        !d->captionRect().contains(event->pos())) {
         event->ignore();
         return;
     }

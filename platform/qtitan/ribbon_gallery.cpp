@@ -39,8 +39,9 @@ void RibbonGalleryButton::paintEvent(QPaintEvent*)
     // "More": the arrow under a line.
     RibbonPainter::drawGalleryButton(painter, option, Qt::DownArrow);
     const int size = qMax(1, qRound(5 * option.scale));
-    painter.fillRect(option.rect.center().x() - size / 2, option.rect.center().y() - qRound(4 * option.scale),
-                     size, qMax(1, qRound(option.scale)),
+    painter.fillRect(option.rect.center().x() - size / 2,
+                     option.rect.center().y() - qRound(4 * option.scale), size,
+                     qMax(1, qRound(option.scale)),
                      RibbonPainter::textColor(Element::ScrollButton, option));
 }
 
@@ -203,9 +204,11 @@ QSize RibbonGallery::sizeHint() const
 QSize RibbonGallery::minimumSizeHint() const
 {
     // One lonely cell on a ribbon group would say nothing about the choice.
-    const int count = d->isInRibbon() ? qMax(d->minimumCount, qMin(3, d->maximumCount)) : d->minimumCount;
+    const int count =
+        d->isInRibbon() ? qMax(d->minimumCount, qMin(3, d->maximumCount)) : d->minimumCount;
     const int width = d->widthFor(count);
-    return QSize(width, d->isInRibbon() ? RibbonMetrics::of(this).largeHeight : d->highestCell() + 4);
+    return QSize(width,
+                 d->isInRibbon() ? RibbonMetrics::of(this).largeHeight : d->highestCell() + 4);
 }
 
 bool RibbonGallery::hasHeightForWidth() const
@@ -222,7 +225,8 @@ int RibbonGallery::heightForWidth(int width) const
                                                    d->maximumCount, d->headingHeight(), d->labels);
     int height = geometry.height;
     if (d->maximumRows > 0 && geometry.rowCount > d->maximumRows)
-        height = qMin(height, d->maximumRows * d->highestCell() + (d->labels ? d->headingHeight() : 0));
+        height =
+            qMin(height, d->maximumRows * d->highestCell() + (d->labels ? d->headingHeight() : 0));
     return height + frame;
 }
 
@@ -234,7 +238,8 @@ bool RibbonGallery::event(QEvent* event)
         const RibbonGalleryItem* item = itemAt(help->pos());
         if (item && !(item->toolTip().isEmpty() && item->caption().isEmpty()))
             RibbonToolTip::showToolTip(help->globalPos() + QPoint(2, 20),
-                                       item->toolTip().isEmpty() ? item->caption() : item->toolTip(),
+                                       item->toolTip().isEmpty() ? item->caption()
+                                                                 : item->toolTip(),
                                        QString(), QIcon(), this);
         else
             RibbonToolTip::hideToolTip();
@@ -245,7 +250,8 @@ bool RibbonGallery::event(QEvent* event)
         break;
     case QEvent::FocusIn:
         if (static_cast<QFocusEvent*>(event)->reason() == Qt::TabFocusReason && d->hovered < 0)
-            d->setHovered(d->checked && d->group ? d->group->indexOf(d->checked) : d->firstCell(), true);
+            d->setHovered(d->checked && d->group ? d->group->indexOf(d->checked) : d->firstCell(),
+                          true);
         update();
         break;
     case QEvent::FocusOut:

@@ -42,15 +42,14 @@ void RibbonGalleryItem::draw(QPainter* painter, const QStyleOption& option) cons
     QRect icon = rect;
     if (!m_caption.isEmpty()) {
         icon.setBottom(rect.bottom() - metrics.height());
-        const ThemeLook& look = RibbonTheme::current()[option.state & QStyle::State_Selected
-                                                           ? Element::GalleryHover
-                                                       : option.state & QStyle::State_On
-                                                           ? Element::GallerySelected
-                                                           : Element::Gallery];
+        const ThemeLook& look =
+            RibbonTheme::current()[option.state & QStyle::State_Selected ? Element::GalleryHover
+                                   : option.state & QStyle::State_On     ? Element::GallerySelected
+                                                                         : Element::Gallery];
         painter->setPen(enabled ? look.text : look.disabled);
-        const QRect text = m_icon.isNull()
-            ? rect
-            : QRect(rect.left(), icon.bottom() + 1, rect.width(), metrics.height());
+        const QRect text =
+            m_icon.isNull() ? rect
+                            : QRect(rect.left(), icon.bottom() + 1, rect.width(), metrics.height());
         painter->drawText(text, Qt::AlignCenter | Qt::TextSingleLine,
                           metrics.elidedText(m_caption, Qt::ElideRight, text.width()));
     }

@@ -66,8 +66,8 @@ int galleryNeighbour(const GalleryGeometry& geometry, int index, int key)
     for (int i = 0; i < count; ++i) {
         if (row_of(i) != wanted || wanted < 0)
             continue;
-        const int distance
-            = std::abs(geometry.rects[static_cast<std::size_t>(i)].center().x() - center);
+        const int distance =
+            std::abs(geometry.rects[static_cast<std::size_t>(i)].center().x() - center);
         if (best < 0 || distance < best_distance) {
             best = i;
             best_distance = distance;

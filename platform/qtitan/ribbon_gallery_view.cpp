@@ -57,8 +57,8 @@ int RibbonGalleryPrivate::barWidth() const
 {
     if (isInRibbon())
         return RibbonMetrics::of(q).px(15);
-    const bool shown = policy == Qt::ScrollBarAlwaysOn
-        || (policy == Qt::ScrollBarAsNeeded && maximumRows > 0);
+    const bool shown =
+        policy == Qt::ScrollBarAlwaysOn || (policy == Qt::ScrollBarAsNeeded && maximumRows > 0);
     return shown ? q->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, q) : 0;
 }
 
@@ -89,7 +89,8 @@ const GalleryGeometry& RibbonGalleryPrivate::geometry() const
     const int width = viewRect().width();
     if (layoutWidth != width) {
         layoutWidth = width;
-        layout = layoutGallery(cells(), width, maximumCount, headingHeight(), labels && !isInRibbon());
+        layout =
+            layoutGallery(cells(), width, maximumCount, headingHeight(), labels && !isInRibbon());
     }
     return layout;
 }
@@ -123,8 +124,10 @@ void RibbonGalleryPrivate::updateChildren()
         up->setAccessibleName(RibbonGallery::tr("Row up"));
         down->setAccessibleName(RibbonGallery::tr("Row down"));
         more->setAccessibleName(RibbonGallery::tr("More"));
-        QObject::connect(up, &QAbstractButton::clicked, q, [this] { setOffset(offset - highestCell()); });
-        QObject::connect(down, &QAbstractButton::clicked, q, [this] { setOffset(offset + highestCell()); });
+        QObject::connect(up, &QAbstractButton::clicked, q,
+                         [this] { setOffset(offset - highestCell()); });
+        QObject::connect(down, &QAbstractButton::clicked, q,
+                         [this] { setOffset(offset + highestCell()); });
         QObject::connect(more, &QAbstractButton::clicked, q, [this] { openPopup(); });
     }
     if (up) {
@@ -132,7 +135,8 @@ void RibbonGalleryPrivate::updateChildren()
         int y = 0;
         for (int i = 0; i < 3; ++i) {
             const int bottom = (i + 1) * q->height() / 3;
-            buttons[i]->setGeometry(directed(QRect(bar.left(), y, width, bottom - y), q->width(), direction));
+            buttons[i]->setGeometry(
+                directed(QRect(bar.left(), y, width, bottom - y), q->width(), direction));
             buttons[i]->setVisible(in_ribbon);
             y = bottom;
         }
@@ -140,11 +144,12 @@ void RibbonGalleryPrivate::updateChildren()
         down->setEnabled(offset < maximumOffset());
     }
 
-    const bool scrolls = !in_ribbon && width > 0
-        && (policy == Qt::ScrollBarAlwaysOn || maximumOffset() > 0);
+    const bool scrolls =
+        !in_ribbon && width > 0 && (policy == Qt::ScrollBarAlwaysOn || maximumOffset() > 0);
     if (scrolls && !scrollBar) {
         scrollBar = new QScrollBar(Qt::Vertical, q);
-        QObject::connect(scrollBar, &QScrollBar::valueChanged, q, [this](int value) { setOffset(value); });
+        QObject::connect(scrollBar, &QScrollBar::valueChanged, q,
+                         [this](int value) { setOffset(value); });
     }
     if (scrollBar) {
         scrollBar->setVisible(scrolls);
@@ -230,10 +235,11 @@ void RibbonGalleryPrivate::openPopup()
             auto* gallery = new RibbonGallery(ownPopup);
             gallery->setObjectName(QStringLiteral("popupGallery"));
             ownPopup->addWidget(gallery);
-            QObject::connect(gallery, &RibbonGallery::itemClicked, q, [this](RibbonGalleryItem* item) {
-                q->setCheckedItem(item);
-                Q_EMIT q->itemClicked(item);
-            });
+            QObject::connect(gallery, &RibbonGallery::itemClicked, q,
+                             [this](RibbonGalleryItem* item) {
+                                 q->setCheckedItem(item);
+                                 Q_EMIT q->itemClicked(item);
+                             });
             QObject::connect(gallery, &RibbonGallery::itemHovered, q, &RibbonGallery::itemHovered);
         }
         menu = ownPopup;

@@ -265,9 +265,9 @@ bool RibbonGroup::event(QEvent* event)
     }
     case QEvent::KeyPress: {
         auto* key = static_cast<QKeyEvent*>(event);
-        const bool opens = key->key() == Qt::Key_Space || key->key() == Qt::Key_Return
-            || key->key() == Qt::Key_Enter || key->key() == Qt::Key_F4
-            || (key->key() == Qt::Key_Down && (key->modifiers() & Qt::AltModifier));
+        const bool opens = key->key() == Qt::Key_Space || key->key() == Qt::Key_Return ||
+                           key->key() == Qt::Key_Enter || key->key() == Qt::Key_F4 ||
+                           (key->key() == Qt::Key_Down && (key->modifiers() & Qt::AltModifier));
         if (d->collapsed && opens) {
             showPopup();
             if (d->popup) {
@@ -365,11 +365,11 @@ int RibbonGroupPrivate::collapsedWidth() const
         const RibbonMetrics& metrics = RibbonMetrics::of(q);
         int text = 0;
         const QFontMetrics font = q->fontMetrics();
-        const QStringList lines
-            = RibbonPainter::splitText(plainText(title), q->font(), metrics.px(9));
+        const QStringList lines =
+            RibbonPainter::splitText(plainText(title), q->font(), metrics.px(9));
         for (int i = 0; i < lines.size(); ++i)
-            text = qMax(text, font.horizontalAdvance(lines.at(i))
-                            + (i + 1 == lines.size() && i > 0 ? metrics.px(9) : 0));
+            text = qMax(text, font.horizontalAdvance(lines.at(i)) +
+                                  (i + 1 == lines.size() && i > 0 ? metrics.px(9) : 0));
         collapsedCache = qMax(metrics.collapsedMinWidth, text + 2 * metrics.px(5));
     }
     return collapsedCache;

@@ -133,8 +133,9 @@ RibbonGroupGeometry layoutRibbonGroup(const std::vector<RibbonLayoutItem>& items
     }
     geometry.width = columns.width();
 
-    // Buttons with text in a column are equally wide, so that their grounds make one block under the
-    // pointer. Icons alone keep to themselves, or they would drift into the middle of a wide column.
+    // Buttons with text in a column are equally wide, so that their grounds make one block under
+    // the pointer. Icons alone keep to themselves, or they would drift into the middle of a wide
+    // column.
     const auto grows = [&](std::size_t i) {
         return items[i].kind == RibbonLayoutItem::Kind::Button && sizes[i] == RibbonItemSize::Text;
     };
@@ -170,8 +171,8 @@ std::vector<RibbonGroupStep> ribbonGroupSteps(const std::vector<RibbonLayoutItem
             continue;
         }
         std::size_t begin = end;
-        while (begin > 0 && end - begin < LinesPerColumn
-               && isLargeButton(items[begin - 1], sizes[begin - 1]))
+        while (begin > 0 && end - begin < LinesPerColumn &&
+               isLargeButton(items[begin - 1], sizes[begin - 1]))
             --begin;
         std::vector<RibbonItemSize> smaller = sizes;
         std::fill(smaller.begin() + static_cast<std::ptrdiff_t>(begin),
@@ -190,8 +191,8 @@ std::vector<RibbonGroupStep> ribbonGroupSteps(const std::vector<RibbonLayoutItem
         for (std::size_t i = begin; i < end; ++i)
             if (shrinks(items[i], sizes[i]))
                 smaller[i] = RibbonItemSize::Icon;
-        if (smaller != sizes
-            && tryStep(steps, smaller, RibbonGroupStep::IconOnly, items, metrics, minimumWidth))
+        if (smaller != sizes &&
+            tryStep(steps, smaller, RibbonGroupStep::IconOnly, items, metrics, minimumWidth))
             sizes = smaller;
         end = begin;
     }

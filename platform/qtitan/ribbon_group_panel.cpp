@@ -115,7 +115,8 @@ void RibbonGroupPanel::removeItem(const QAction* action)
     invalidate();
     if (item.button)
         delete item.button;
-    else if (auto* widget_action = qobject_cast<QWidgetAction*>(item.action); widget_action && item.widget)
+    else if (auto* widget_action = qobject_cast<QWidgetAction*>(item.action);
+             widget_action && item.widget)
         widget_action->releaseWidget(item.widget);
 }
 
@@ -194,8 +195,8 @@ std::vector<RibbonLayoutItem> RibbonGroupPanel::layoutItems(bool all_sizes) cons
                 entry.minWidth = item.widget->minimumSizeHint().width();
             // A pixel too high for a line still reads as a line.
             entry.lines = qobject_cast<RibbonGallery*>(item.widget)
-                ? 3
-                : qBound(1, (hint.height() - line / 4 + line - 1) / line, 3);
+                              ? 3
+                              : qBound(1, (hint.height() - line / 4 + line - 1) / line, 3);
         } else {
             entry.kind = RibbonLayoutItem::Kind::Separator;
         }
@@ -223,8 +224,9 @@ int RibbonGroupPanel::fullWidth() const
         std::vector<RibbonItemSize> sizes;
         for (const RibbonLayoutItem& item : items)
             sizes.push_back(item.wanted);
-        m_fullWidth = qMax(layoutRibbonGroup(items, sizes, layoutMetrics()).width, minimumContentWidth())
-            + 2 * RibbonMetrics::of(this).groupPadding;
+        m_fullWidth =
+            qMax(layoutRibbonGroup(items, sizes, layoutMetrics()).width, minimumContentWidth()) +
+            2 * RibbonMetrics::of(this).groupPadding;
     }
     return m_fullWidth;
 }
@@ -315,8 +317,8 @@ void RibbonGroupPanel::place()
 QRect RibbonGroupPanel::widgetRect(const Item& item)
 {
     const int room = item.rect.height();
-    const bool grows = item.widget->sizePolicy().expandingDirections() & Qt::Vertical
-        || qobject_cast<RibbonGallery*>(item.widget);
+    const bool grows = item.widget->sizePolicy().expandingDirections() & Qt::Vertical ||
+                       qobject_cast<RibbonGallery*>(item.widget);
     // Fields one below the other keep their frames apart.
     const int air = 2 * RibbonMetrics::of(item.widget).px(1);
     const int height = grows ? room : qMin(room - air, item.widget->sizeHint().height());
@@ -335,7 +337,8 @@ QRect RibbonGroupPanel::launcherRect() const
     const QRect strip = titleRect();
     const QSize size = metrics.launcher;
     const QRect rect(strip.right() - size.width() - metrics.px(1),
-                     strip.top() + (strip.height() - size.height()) / 2, size.width(), size.height());
+                     strip.top() + (strip.height() - size.height()) / 2, size.width(),
+                     size.height());
     return directed(rect, width(), layoutDirection());
 }
 

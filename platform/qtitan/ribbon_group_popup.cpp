@@ -40,7 +40,8 @@ void RibbonGroupPopup::openAt(const QRect& button)
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     const QRect room = screen->availableGeometry();
-    QPoint place(layoutDirection() == Qt::RightToLeft ? button.right() + 1 - width() : button.left(),
+    QPoint place(layoutDirection() == Qt::RightToLeft ? button.right() + 1 - width()
+                                                      : button.left(),
                  button.bottom() + 1);
     if (place.y() + height() > room.bottom() + 1)
         place.setY(button.top() - height());

@@ -95,14 +95,16 @@ void RibbonKeyTips::collectBar()
     const RibbonBarPrivate* bar = RibbonBarPrivate::get(m_bar);
     if (bar->systemButton && bar->systemButton->isVisible())
         add(bar->systemButton, bar->systemButton->text(),
-            bar->wantedKeyTips.value(bar->systemButton->defaultAction()), KeyTipRequest::SystemButton);
+            bar->wantedKeyTips.value(bar->systemButton->defaultAction()),
+            KeyTipRequest::SystemButton);
     if (bar->quickAccessVisible) {
         const QList<QAction*> hidden = bar->quickAccess->overflowActions();
         for (QAction* action : bar->quickAccess->actions()) {
             QWidget* widget = bar->quickAccess->widgetForAction(action);
             if (!widget || !action->isVisible() || action->isSeparator() || hidden.contains(action))
                 continue;
-            add(widget, action->iconText(), bar->wantedKeyTips.value(action), KeyTipRequest::QuickAccess);
+            add(widget, action->iconText(), bar->wantedKeyTips.value(action),
+                KeyTipRequest::QuickAccess);
         }
         if (bar->overflow->isVisible())
             add(bar->overflow, bar->overflow->accessibleName(), QStringLiteral("00"),
@@ -163,7 +165,8 @@ void RibbonKeyTips::collectBackstage()
     const RibbonBarPrivate* bar = RibbonBarPrivate::get(m_bar);
     if (!bar->backstage)
         return;
-    const QList<QAbstractButton*> rows = RibbonBackstageViewPrivate::get(bar->backstage)->rowButtons();
+    const QList<QAbstractButton*> rows =
+        RibbonBackstageViewPrivate::get(bar->backstage)->rowButtons();
     for (QAbstractButton* row : rows)
         if (row->isVisible())
             add(row, plainText(row->text()), mnemonicOf(row->text()), KeyTipRequest::Ordinary);
@@ -184,13 +187,14 @@ QRect RibbonKeyTips::badgeRect(const Tip& tip, const QWidget* parent) const
     const QSize size = RibbonPainter::keyTipSize(tip.text, m_bar->font());
     QRect rect(QPoint(), size);
     const auto* button = qobject_cast<const RibbonButton*>(tip.widget.data());
-    const bool stacked = m_level != Level::Bar && m_level != Level::Backstage
-        && element.height() <= 2 * metrics.lineHeight && (button || element.width() > metrics.lineHeight);
+    const bool stacked = m_level != Level::Bar && m_level != Level::Backstage &&
+                         element.height() <= 2 * metrics.lineHeight &&
+                         (button || element.width() > metrics.lineHeight);
     if (stacked) {
         // Over the icon: the text beside it stays readable.
         const int x = metrics.px(2) + metrics.smallIcon / 2;
-        rect.moveCenter(QPoint(parent->layoutDirection() == Qt::RightToLeft
-                                       || m_bar->layoutDirection() == Qt::RightToLeft
+        rect.moveCenter(QPoint(parent->layoutDirection() == Qt::RightToLeft ||
+                                       m_bar->layoutDirection() == Qt::RightToLeft
                                    ? element.right() - x
                                    : element.left() + x,
                                element.bottom() - size.height() / 2 + metrics.px(2)));

@@ -182,8 +182,8 @@ bool RibbonKeyTips::windowEvent(QEvent* event)
     switch (event->type()) {
     case QEvent::ShortcutOverride: {
         auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_Alt && key->modifiers() == Qt::AltModifier && !key->isAutoRepeat()
-            && !isActive() && !QApplication::activePopupWidget())
+        if (key->key() == Qt::Key_Alt && key->modifiers() == Qt::AltModifier &&
+            !key->isAutoRepeat() && !isActive() && !QApplication::activePopupWidget())
             altTracking(true);
         break;
     }
@@ -196,7 +196,8 @@ bool RibbonKeyTips::windowEvent(QEvent* event)
             return isActive();
         }
         // Alt and a letter at once, which nobody else wanted.
-        if (key->modifiers() == Qt::AltModifier && key->key() >= Qt::Key_0 && key->key() <= Qt::Key_Z) {
+        if (key->modifiers() == Qt::AltModifier && key->key() >= Qt::Key_0 &&
+            key->key() <= Qt::Key_Z) {
             altTracking(false);
             start();
             if (isActive() && type(QString(QChar(key->key()))))

@@ -328,8 +328,8 @@ bool RibbonKeyboard::handleKey(QWidget* from, QKeyEvent* event)
             switch (event->key()) {
             case Qt::Key_Left:
             case Qt::Key_Right:
-                moveFocus(from,
-                          (event->key() == Qt::Key_Right) == (from->layoutDirection() == Qt::LeftToRight));
+                moveFocus(from, (event->key() == Qt::Key_Right) ==
+                                    (from->layoutDirection() == Qt::LeftToRight));
                 return true;
             case Qt::Key_Down:
                 d->tabBar->setFocus(Qt::TabFocusReason);

@@ -19,7 +19,8 @@ int RibbonMetrics::px(int length) const
     return length <= 0 ? length : qMax(1, qRound(length * scale));
 }
 
-RibbonMetrics RibbonMetrics::compute(int fontHeight, int averageCharWidth, qreal logicalDpi, bool flat)
+RibbonMetrics RibbonMetrics::compute(int fontHeight, int averageCharWidth, qreal logicalDpi,
+                                     bool flat)
 {
     ++g_computations;
     RibbonMetrics m;
@@ -81,12 +82,13 @@ const RibbonMetrics& RibbonMetrics::of(const QWidget* widget)
 {
     static QHash<quint64, RibbonMetrics> cache;
     const RibbonTheme::Family family = RibbonTheme::current().family();
-    const bool flat = family == RibbonTheme::Family::Office2010 || family == RibbonTheme::Family::Office2013;
+    const bool flat =
+        family == RibbonTheme::Family::Office2010 || family == RibbonTheme::Family::Office2013;
     const QFontMetrics font = widget->fontMetrics();
     const int dpi = widget->logicalDpiY();
     const int char_width = font.averageCharWidth();
-    const quint64 key = (quint64(font.height()) << 40) | (quint64(char_width) << 24)
-        | (quint64(dpi) << 1) | quint64(flat);
+    const quint64 key = (quint64(font.height()) << 40) | (quint64(char_width) << 24) |
+                        (quint64(dpi) << 1) | quint64(flat);
     auto it = cache.constFind(key);
     if (it == cache.constEnd())
         it = cache.insert(key, compute(font.height(), char_width, dpi, flat));
@@ -100,10 +102,10 @@ int RibbonMetrics::computations()
 
 bool RibbonMetrics::operator==(const RibbonMetrics& other) const
 {
-    return qFuzzyCompare(scale, other.scale) && lineHeight == other.lineHeight
-        && largeHeight == other.largeHeight && groupTitleHeight == other.groupTitleHeight
-        && tabHeight == other.tabHeight && tabMinText == other.tabMinText
-        && pageHeight == other.pageHeight && smallIcon == other.smallIcon;
+    return qFuzzyCompare(scale, other.scale) && lineHeight == other.lineHeight &&
+           largeHeight == other.largeHeight && groupTitleHeight == other.groupTitleHeight &&
+           tabHeight == other.tabHeight && tabMinText == other.tabMinText &&
+           pageHeight == other.pageHeight && smallIcon == other.smallIcon;
 }
 
 } // namespace Qtitan

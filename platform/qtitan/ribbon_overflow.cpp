@@ -87,9 +87,7 @@ void RibbonOverflowButton::paintEvent(QPaintEvent*)
 }
 
 RibbonOverflowPopup::RibbonOverflowPopup(RibbonQuickAccessBar* bar, RibbonOverflowButton* button)
-    : QWidget(button, Qt::Popup | Qt::FramelessWindowHint),
-      m_bar(bar),
-      m_button(button),
+    : QWidget(button, Qt::Popup | Qt::FramelessWindowHint), m_bar(bar), m_button(button),
       m_clip(new QWidget(this))
 {
     setObjectName(QStringLiteral("quickAccessPopup"));
@@ -115,8 +113,10 @@ void RibbonOverflowPopup::open()
     const QRect button(m_button->mapToGlobal(QPoint(0, 0)), m_button->size());
     QScreen* screen = QGuiApplication::screenAt(button.center());
     const QRect room = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
-    const int x = layoutDirection() == Qt::RightToLeft ? button.right() + 1 - width() : button.left();
-    move(qBound(room.left(), x, qMax(room.left(), room.right() + 1 - width())), button.bottom() + 1);
+    const int x =
+        layoutDirection() == Qt::RightToLeft ? button.right() + 1 - width() : button.left();
+    move(qBound(room.left(), x, qMax(room.left(), room.right() + 1 - width())),
+         button.bottom() + 1);
     show();
 }
 

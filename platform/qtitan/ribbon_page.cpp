@@ -316,7 +316,9 @@ void RibbonPagePrivate::place()
         RibbonGroupPrivate* gd = RibbonGroupPrivate::get(shown.at(i));
         int width = gd->panel->fullWidth();
         if (steps[static_cast<std::size_t>(i)] > 0)
-            width = gd->reductionSteps()[static_cast<std::size_t>(steps[static_cast<std::size_t>(i)])].second;
+            width =
+                gd->reductionSteps()[static_cast<std::size_t>(steps[static_cast<std::size_t>(i)])]
+                    .second;
         const QRect rect(x, metrics.pageTop, width, metrics.groupHeightFor(titlesVisible));
         shown.at(i)->setGeometry(directed(rect, q->width(), q->layoutDirection()));
         if (!gd->collapsed) {

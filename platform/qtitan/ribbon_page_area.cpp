@@ -174,8 +174,8 @@ bool RibbonPageArea::event(QEvent* event)
 
 bool RibbonPageArea::focusNextPrevChild(bool next)
 {
-    return RibbonKeyboard::moveFocus(QApplication::focusWidget(), next)
-        || QWidget::focusNextPrevChild(next);
+    return RibbonKeyboard::moveFocus(QApplication::focusWidget(), next) ||
+           QWidget::focusNextPrevChild(next);
 }
 
 void RibbonPageArea::resizeEvent(QResizeEvent*)
@@ -191,8 +191,8 @@ void RibbonPageArea::paintEvent(QPaintEvent*)
     option.state.setFlag(RibbonState::Hover, false);
     option.state.setFlag(RibbonState::Peek, isPeeking());
     const RibbonBarPrivate* bar = RibbonBarPrivate::get(m_bar);
-    option.anchor = bar->currentTabRect().translated(
-        m_bar->mapToGlobal(QPoint(0, 0)) - mapToGlobal(QPoint(0, 0)));
+    option.anchor = bar->currentTabRect().translated(m_bar->mapToGlobal(QPoint(0, 0)) -
+                                                     mapToGlobal(QPoint(0, 0)));
     if (bar->current)
         option.contextColor = bar->current->contextColor();
     RibbonPainter::drawPage(painter, option);

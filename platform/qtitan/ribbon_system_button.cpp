@@ -48,8 +48,8 @@ void RibbonSystemButton::toggleBackstage()
 
 bool RibbonSystemButton::isRound() const
 {
-    return toolButtonStyle() == Qt::ToolButtonFollowStyle
-        && RibbonTheme::current().family() == RibbonTheme::Family::Office2007;
+    return toolButtonStyle() == Qt::ToolButtonFollowStyle &&
+           RibbonTheme::current().family() == RibbonTheme::Family::Office2007;
 }
 
 QSize RibbonSystemButton::sizeHint() const
@@ -58,16 +58,16 @@ QSize RibbonSystemButton::sizeHint() const
     if (isRound()) {
         const RibbonBarPrivate* bar = RibbonBarPrivate::get(m_bar);
         const int diameter = bar->captionHeight() > 0
-            ? bar->captionHeight() + bar->tabRowHeight() - metrics.px(6)
-            : bar->tabRowHeight();
+                                 ? bar->captionHeight() + bar->tabRowHeight() - metrics.px(6)
+                                 : bar->tabRowHeight();
         return QSize(diameter, diameter);
     }
     const QString text = defaultAction() ? defaultAction()->iconText() : plainText(this->text());
     int width = fontMetrics().horizontalAdvance(text) + 2 * metrics.px(14);
     if (toolButtonStyle() != Qt::ToolButtonTextOnly && !icon().isNull())
         width = text.isEmpty() || toolButtonStyle() == Qt::ToolButtonIconOnly
-            ? metrics.smallIcon + 2 * metrics.px(14)
-            : width + metrics.smallIcon + metrics.px(4);
+                    ? metrics.smallIcon + 2 * metrics.px(14)
+                    : width + metrics.smallIcon + metrics.px(4);
     return QSize(qMax(width, metrics.systemButtonMinWidth), metrics.tabHeight);
 }
 

@@ -107,8 +107,8 @@ int RibbonTabBar::fullWidth() const
     const RibbonTabMetrics metrics = tabMetrics();
     const std::vector<int>& titles = titleWidths();
     const int count = static_cast<int>(titles.size());
-    return std::accumulate(titles.begin(), titles.end(), 0) + count * 2 * metrics.padding
-        + qMax(0, count - 1) * metrics.spacing;
+    return std::accumulate(titles.begin(), titles.end(), 0) + count * 2 * metrics.padding +
+           qMax(0, count - 1) * metrics.spacing;
 }
 
 int RibbonTabBar::usableWidth() const
@@ -172,9 +172,9 @@ int RibbonTabBar::tabAt(const QPoint& position) const
 bool RibbonTabBar::isElided(int index) const
 {
     const RibbonTabGeometry& geometry = geometryOfTabs();
-    return index >= 0 && index < m_pages.size()
-        && geometry.tabs[static_cast<std::size_t>(index)].textWidth
-        < titleWidths()[static_cast<std::size_t>(index)];
+    return index >= 0 && index < m_pages.size() &&
+           geometry.tabs[static_cast<std::size_t>(index)].textWidth <
+               titleWidths()[static_cast<std::size_t>(index)];
 }
 
 void RibbonTabBar::setOffset(int offset)
@@ -256,8 +256,8 @@ bool RibbonTabBar::event(QEvent* event)
     case QEvent::ShortcutOverride: {
         // Keys of the walk are ours while the focus is on the tabs.
         const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Escape || key == Qt::Key_Return || key == Qt::Key_Enter
-            || key == Qt::Key_Space)
+        if (key == Qt::Key_Escape || key == Qt::Key_Return || key == Qt::Key_Enter ||
+            key == Qt::Key_Space)
             event->accept();
         break;
     }
@@ -362,9 +362,9 @@ void RibbonTabBar::paintEvent(QPaintEvent*)
             const bool selected = i == current && (!bar->minimized || bar->peeking);
             option.text = plainText(page->title());
             if (isElided(i))
-                option.text = fontMetrics().elidedText(
-                    option.text, Qt::ElideRight,
-                    geometry.tabs[static_cast<std::size_t>(i)].textWidth);
+                option.text =
+                    fontMetrics().elidedText(option.text, Qt::ElideRight,
+                                             geometry.tabs[static_cast<std::size_t>(i)].textWidth);
             option.contextColor = page->contextColor();
             option.state.setFlag(RibbonState::Checked, selected);
             option.state.setFlag(RibbonState::Hover, i == m_hovered);
@@ -372,9 +372,8 @@ void RibbonTabBar::paintEvent(QPaintEvent*)
             RibbonPainter::drawTab(painter, option);
             if (geometry.padding <= tabMetrics().minPadding && i + 1 < m_pages.size()) {
                 RibbonPaintOption line = base;
-                const int x = layoutDirection() == Qt::RightToLeft
-                    ? option.rect.left() - 1
-                    : option.rect.right() + 1;
+                const int x = layoutDirection() == Qt::RightToLeft ? option.rect.left() - 1
+                                                                   : option.rect.right() + 1;
                 line.rect = QRect(x, 0, 1, height());
                 RibbonPainter::drawTabSeparator(painter, line);
             }

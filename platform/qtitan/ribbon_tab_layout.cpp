@@ -68,8 +68,8 @@ RibbonTabGeometry layoutRibbonTabs(const std::vector<int>& titles, int available
     geometry.contentWidth = x - metrics.spacing;
     geometry.scrolls = geometry.contentWidth > available;
     if (geometry.scrolls)
-        geometry.maxScroll
-            = std::max(0, geometry.contentWidth - std::max(1, available - 2 * metrics.scrollButton));
+        geometry.maxScroll =
+            std::max(0, geometry.contentWidth - std::max(1, available - 2 * metrics.scrollButton));
     return geometry;
 }
 

@@ -37,10 +37,11 @@ QSize textSize(const QString& text, const QFont& font, int width)
         return QSize(0, 0);
     const QFontMetrics metrics(font);
     const int flags = Qt::AlignLeft | Qt::TextExpandTabs | (width > 0 ? Qt::TextWordWrap : 0);
-    QSize size = metrics
-                     .boundingRect(QRect(0, 0, width > 0 ? width : QWIDGETSIZE_MAX, QWIDGETSIZE_MAX),
-                                   flags, text)
-                     .size();
+    QSize size =
+        metrics
+            .boundingRect(QRect(0, 0, width > 0 ? width : QWIDGETSIZE_MAX, QWIDGETSIZE_MAX), flags,
+                          text)
+            .size();
     if (width <= 0 || size.width() <= width)
         return size;
     // Blanks at the end of a line hang over; only a word that is too long may widen the tip.
@@ -189,7 +190,9 @@ RibbonToolTip::Layout RibbonToolTip::layoutContents() const
     Layout layout;
     int limit = metrics.toolTipTextWidth;
     if (g_wrapMode == WideWrap)
-        limit = (screen() ? screen() : QGuiApplication::primaryScreen())->availableGeometry().width() / 2;
+        limit =
+            (screen() ? screen() : QGuiApplication::primaryScreen())->availableGeometry().width() /
+            2;
     else if (g_wrapMode == NoWrap)
         limit = 0;
 
@@ -215,7 +218,8 @@ RibbonToolTip::Layout RibbonToolTip::layoutContents() const
         const int height = qMax(icon.height(), title.height());
         const int text_left = margin + (icon.isEmpty() ? 0 : icon.width() + gap);
         layout.icon = QRect(margin, y + (height - icon.height()) / 2, icon.width(), icon.height());
-        layout.title = QRect(text_left, y + (height - title.height()) / 2, title.width(), title.height());
+        layout.title =
+            QRect(text_left, y + (height - title.height()) / 2, title.width(), title.height());
         width = text_left + title.width();
         y += height;
     } else {
@@ -247,7 +251,8 @@ bool RibbonToolTip::eventFilter(QObject* watched, QEvent* event)
         break;
     case QEvent::KeyPress: {
         const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key != Qt::Key_Shift && key != Qt::Key_Control && key != Qt::Key_Alt && key != Qt::Key_Meta)
+        if (key != Qt::Key_Shift && key != Qt::Key_Control && key != Qt::Key_Alt &&
+            key != Qt::Key_Meta)
             hideToolTip();
         break;
     }
@@ -288,10 +293,12 @@ void RibbonToolTip::paintEvent(QPaintEvent*)
     RibbonPainter::drawToolTipPanel(painter, option);
 
     const Layout layout = layoutContents();
-    const auto place = [&](const QRect& rect) { return directed(rect, width(), layoutDirection()); };
+    const auto place = [&](const QRect& rect) {
+        return directed(rect, width(), layoutDirection());
+    };
     const QColor color = RibbonPainter::textColor(Element::ToolTip, option);
-    const int alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignTop
-        | Qt::TextExpandTabs | (layout.textWidth > 0 ? Qt::TextWordWrap : 0);
+    const int alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignTop |
+                          Qt::TextExpandTabs | (layout.textWidth > 0 ? Qt::TextWordWrap : 0);
     painter.setLayoutDirection(layoutDirection());
     if (!m_icon.isNull())
         DrawHelpers::drawIcon(painter, place(layout.icon), m_icon, layout.icon.size(),

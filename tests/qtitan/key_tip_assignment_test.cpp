@@ -31,7 +31,8 @@ private Q_SLOTS:
 
     void theSecondOfTwoTakesAnotherOfItsLetters()
     {
-        const QStringList tips = assignKeyTips({Title("Home"), Title("Help Center"), Title("Edit")});
+        const QStringList tips =
+            assignKeyTips({Title("Home"), Title("Help Center"), Title("Edit")});
         QCOMPARE(tips.at(0), QStringLiteral("H"));
         QCOMPARE(tips.at(1), QStringLiteral("C"));
         QCOMPARE(tips.at(2), QStringLiteral("E"));
@@ -57,7 +58,8 @@ private Q_SLOTS:
 
     void whatTheHostWantsComesFirst()
     {
-        const QStringList tips = assignKeyTips({Title("Home"), Title("View", "h"), Title("Zoom", "h")});
+        const QStringList tips =
+            assignKeyTips({Title("Home"), Title("View", "h"), Title("Zoom", "h")});
         QCOMPARE(tips.at(1), QStringLiteral("H"));
         QCOMPARE(tips.at(0), QStringLiteral("O"));
         QCOMPARE(tips.at(2), QStringLiteral("Z"));
@@ -87,7 +89,8 @@ private Q_SLOTS:
 
     void typingFiltersAndThenChooses()
     {
-        const QStringList tips{QStringLiteral("H"), QStringLiteral("ZA"), QStringLiteral("ZB"), QString()};
+        const QStringList tips{QStringLiteral("H"), QStringLiteral("ZA"), QStringLiteral("ZB"),
+                               QString()};
         QCOMPARE(matchKeyTips(tips, QStringLiteral("h")).chosen, 0);
         QCOMPARE(matchKeyTips(tips, QStringLiteral("z")).chosen, -1);
         QCOMPARE(matchKeyTips(tips, QStringLiteral("z")).matches, (std::vector<int>{1, 2}));

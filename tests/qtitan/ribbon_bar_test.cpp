@@ -27,8 +27,8 @@ void DoubleClickTab(const Window& w, int index)
     const QPoint place = TabCenter(w, index);
     QTest::mousePress(w.TabBar(), Qt::LeftButton, Qt::NoModifier, place);
     QTest::mouseRelease(w.TabBar(), Qt::LeftButton, Qt::NoModifier, place);
-    QMouseEvent second(QEvent::MouseButtonDblClick, place, w.TabBar()->mapToGlobal(place), Qt::LeftButton,
-                       Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent second(QEvent::MouseButtonDblClick, place, w.TabBar()->mapToGlobal(place),
+                       Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(w.TabBar(), &second);
     QTest::mouseRelease(w.TabBar(), Qt::LeftButton, Qt::NoModifier, place);
 }
@@ -299,7 +299,8 @@ private Q_SLOTS:
         Window w(1, 1);
         w.bar->setMinimized(true);
         ClickTab(w, 0);
-        QTest::mouseClick(w.Area(), Qt::LeftButton, Qt::NoModifier, QPoint(w.Area()->width() - 20, 20));
+        QTest::mouseClick(w.Area(), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(w.Area()->width() - 20, 20));
         QVERIFY(w.bar->isPeeking());
     }
 
@@ -419,7 +420,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("themed");
         for (const bool rtl : {false, true})
             for (const bool themed : {false, true})
-                QTest::addRow("%s%s", rtl ? "right to left" : "left to right", themed ? ", own frame" : "")
+                QTest::addRow("%s%s", rtl ? "right to left" : "left to right",
+                              themed ? ", own frame" : "")
                     << rtl << themed;
     }
 
@@ -437,7 +439,8 @@ private Q_SLOTS:
             w.bar->quickAccessBar()->addAction(ribbon_test::MakeIcon(), QStringLiteral("Quick"));
         Window::Settle();
         QList<QRect> rects;
-        for (QWidget* child : w.bar->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        for (QWidget* child :
+             w.bar->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
             if (!child->isVisible() || child->geometry().isEmpty())
                 continue;
             for (const QRect& rect : qAsConst(rects))
@@ -456,8 +459,8 @@ private Q_SLOTS:
     void contextualTabsHaveTheirColour()
     {
         Window w(1, 1);
-        RibbonPage* page = w.bar->addContextualPage(QStringLiteral("Format"), QStringLiteral("Picture Tools"),
-                                                    Qt::red);
+        RibbonPage* page = w.bar->addContextualPage(QStringLiteral("Format"),
+                                                    QStringLiteral("Picture Tools"), Qt::red);
         QVERIFY(page->isContextual());
         QCOMPARE(page->contextTitle(), QStringLiteral("Picture Tools"));
         QVERIFY(!w.bar->getPage(0)->isContextual());
@@ -473,7 +476,8 @@ private Q_SLOTS:
         auto* tabs = static_cast<RibbonTabBar*>(w.TabBar());
         QVERIFY(tabs->tabRect(0).left() > tabs->tabRect(1).right());
         QVERIFY(w.Group(0)->x() > w.Group(1)->geometry().right());
-        QVERIFY(w.Button(0)->mapTo(&w.window, QPoint()).x() > w.Button(1)->mapTo(&w.window, QPoint()).x());
+        QVERIFY(w.Button(0)->mapTo(&w.window, QPoint()).x() >
+                w.Button(1)->mapTo(&w.window, QPoint()).x());
     }
 
     void theContextMenuMinimises()
@@ -488,7 +492,8 @@ private Q_SLOTS:
             menu->actions().first()->trigger();
             menu->close();
         });
-        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), w.bar->mapToGlobal(QPoint(5, 5)));
+        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5),
+                                w.bar->mapToGlobal(QPoint(5, 5)));
         QCoreApplication::sendEvent(w.bar, &event);
         QVERIFY(shown);
         QVERIFY(w.bar->isMinimized());
@@ -500,7 +505,8 @@ private Q_SLOTS:
         w.bar->setContextMenuPolicy(Qt::CustomContextMenu);
         QSignalSpy spy(w.bar, &QWidget::customContextMenuRequested);
         QWidget* button = w.Button(0);
-        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), button->mapToGlobal(QPoint(5, 5)));
+        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5),
+                                button->mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(button, &event);
         QCOMPARE(spy.count(), 1);
     }

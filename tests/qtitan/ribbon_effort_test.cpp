@@ -39,7 +39,9 @@ class RibbonEffortTest : public QObject
 private Q_SLOTS:
     void hiddenPagesCostNothingAtTheStart()
     {
-        { Window warm(1, 1); }
+        {
+            Window warm(1, 1);
+        }
         const Effort effort;
         Window w(20, 4, QSize(4000, 400));
         QCOMPARE(effort.Layouts(), 1);

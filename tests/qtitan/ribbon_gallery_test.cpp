@@ -208,7 +208,8 @@ private Q_SLOTS:
         QSignalSpy spy(gallery, &RibbonGallery::itemClicked);
         menu->popup(QPoint(50, 50));
         QVERIFY(gallery->isVisible());
-        QTest::mouseClick(gallery, Qt::LeftButton, Qt::NoModifier, gallery->itemRect(p.group.item(4)).center());
+        QTest::mouseClick(gallery, Qt::LeftButton, Qt::NoModifier,
+                          gallery->itemRect(p.group.item(4)).center());
         QCOMPARE(spy.count(), 1);
         QVERIFY(!menu->isVisible());
     }
@@ -278,7 +279,8 @@ private Q_SLOTS:
         auto* menu = qobject_cast<OfficePopupMenu*>(QApplication::activePopupWidget());
         QVERIFY(menu);
         auto* all = menu->findChild<RibbonGallery*>();
-        QTest::mouseClick(all, Qt::LeftButton, Qt::NoModifier, all->itemRect(items.item(11)).center());
+        QTest::mouseClick(all, Qt::LeftButton, Qt::NoModifier,
+                          all->itemRect(items.item(11)).center());
         QCOMPARE(spy.count(), 1);
         QCOMPARE(gallery->checkedItem(), items.item(11));
         QVERIFY(!menu->isVisible());

@@ -84,8 +84,9 @@ class RibbonGroupLayoutTest : public QObject
 private Q_SLOTS:
     void smallButtonsStackThreeToAColumn()
     {
-        const RibbonGroupGeometry geometry
-            = Layout({Button(Size::Text), Button(Size::Text, 60, 100), Button(Size::Text), Button(Size::Icon)});
+        const RibbonGroupGeometry geometry =
+            Layout({Button(Size::Text), Button(Size::Text, 60, 100), Button(Size::Text),
+                    Button(Size::Icon)});
         QCOMPARE(geometry.rects[0], QRect(0, 0, 100, 22));
         QCOMPARE(geometry.rects[1], QRect(0, 22, 100, 22));
         QCOMPARE(geometry.rects[2], QRect(0, 44, 100, 22));
@@ -95,8 +96,8 @@ private Q_SLOTS:
 
     void aLargeButtonTakesTheFullHeightAndAColumnOfItsOwn()
     {
-        const RibbonGroupGeometry geometry
-            = Layout({Button(Size::Icon), Button(Size::Large), Button(Size::Icon)});
+        const RibbonGroupGeometry geometry =
+            Layout({Button(Size::Icon), Button(Size::Large), Button(Size::Icon)});
         QCOMPARE(geometry.rects[0], QRect(0, 0, 22, 22));
         QCOMPARE(geometry.rects[1], QRect(23, 0, 60, 66));
         QCOMPARE(geometry.rects[2], QRect(84, 0, 22, 22));
@@ -104,7 +105,8 @@ private Q_SLOTS:
 
     void aSeparatorEndsAColumnAndIsSpacingEnough()
     {
-        const RibbonGroupGeometry geometry = Layout({Button(Size::Icon), Separator(), Button(Size::Icon)});
+        const RibbonGroupGeometry geometry =
+            Layout({Button(Size::Icon), Separator(), Button(Size::Icon)});
         QCOMPARE(geometry.rects[1], QRect(22, 0, 7, 66));
         QCOMPARE(geometry.rects[2], QRect(29, 0, 22, 22));
         QCOMPARE(geometry.columns[1], -1);
@@ -113,7 +115,8 @@ private Q_SLOTS:
 
     void iconsUnderAWideWidgetKeepTheirWidth()
     {
-        const RibbonGroupGeometry geometry = Layout({Widget(130, 1), Button(Size::Icon), Button(Size::Icon)});
+        const RibbonGroupGeometry geometry =
+            Layout({Widget(130, 1), Button(Size::Icon), Button(Size::Icon)});
         QCOMPARE(geometry.rects[1], QRect(0, 22, 22, 22));
         QCOMPARE(geometry.rects[2], QRect(0, 44, 22, 22));
         QCOMPARE(geometry.width, 130);
@@ -121,14 +124,12 @@ private Q_SLOTS:
 
     void aWidgetOfTwoLinesLeavesRoomForOneButton()
     {
-        const RibbonGroupGeometry geometry = Layout({Widget(50, 2), Button(Size::Icon), Button(Size::Icon)});
+        const RibbonGroupGeometry geometry =
+            Layout({Widget(50, 2), Button(Size::Icon), Button(Size::Icon)});
         QCOMPARE(geometry.columns, (std::vector<int>{0, 0, 1}));
     }
 
-    void anEmptyGroupHasNoWidth()
-    {
-        QCOMPARE(Layout({}).width, 0);
-    }
+    void anEmptyGroupHasNoWidth() { QCOMPARE(Layout({}).width, 0); }
 
     void threeLargeNeighboursBecomeOneColumnFromTheRight()
     {
@@ -136,8 +137,9 @@ private Q_SLOTS:
         const std::vector<RibbonGroupStep> steps = ribbonGroupSteps(items, metrics, 0);
         QCOMPARE(steps[0].width, 7 * 60 + 6);
         QCOMPARE(steps[1].stage, RibbonGroupStep::Small);
-        QCOMPARE(steps[1].sizes, (std::vector<Size>{Size::Large, Size::Large, Size::Large, Size::Large,
-                                                    Size::Text, Size::Text, Size::Text}));
+        QCOMPARE(steps[1].sizes,
+                 (std::vector<Size>{Size::Large, Size::Large, Size::Large, Size::Large, Size::Text,
+                                    Size::Text, Size::Text}));
         QCOMPARE(steps[2].sizes[0], Size::Large);
         QCOMPARE(steps[2].sizes[1], Size::Text);
         // The first alone would be wider as a small button with text.
@@ -157,14 +159,15 @@ private Q_SLOTS:
 
     void aButtonWithoutAnIconKeepsItsText()
     {
-        const std::vector<RibbonGroupStep> steps
-            = ribbonGroupSteps({Button(Size::Text, 60, 80, 0)}, metrics, 0);
+        const std::vector<RibbonGroupStep> steps =
+            ribbonGroupSteps({Button(Size::Text, 60, 80, 0)}, metrics, 0);
         QCOMPARE(int(steps.size()), 1);
     }
 
     void aGalleryGivesWidthBeforeTheGroupBecomesAButton()
     {
-        const std::vector<RibbonGroupStep> steps = ribbonGroupSteps({Widget(300, 3, 120)}, metrics, 0);
+        const std::vector<RibbonGroupStep> steps =
+            ribbonGroupSteps({Widget(300, 3, 120)}, metrics, 0);
         QCOMPARE(int(steps.size()), 2);
         QCOMPARE(steps[1].width, 120);
     }
@@ -191,7 +194,8 @@ private Q_SLOTS:
                     QVERIFY(steps[s].width < steps[s - 1].width);
                     QVERIFY(steps[s].stage >= steps[s - 1].stage);
                 }
-                const RibbonGroupGeometry geometry = layoutRibbonGroup(items, steps[s].sizes, metrics);
+                const RibbonGroupGeometry geometry =
+                    layoutRibbonGroup(items, steps[s].sizes, metrics);
                 QCOMPARE(geometry.width, steps[s].width);
                 for (std::size_t i = 0; i < items.size(); ++i) {
                     const QRect& rect = geometry.rects[i];

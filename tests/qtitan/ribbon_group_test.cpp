@@ -111,13 +111,15 @@ private Q_SLOTS:
     {
         Window w(1, 1);
         QAction action(MakeIcon(), QStringLiteral("Run"), nullptr);
-        w.Group()->addAction(&action, Qt::ToolButtonTextBesideIcon, nullptr, QToolButton::MenuButtonPopup);
+        w.Group()->addAction(&action, Qt::ToolButtonTextBesideIcon, nullptr,
+                             QToolButton::MenuButtonPopup);
         Window::Settle();
         int runs = 0;
         connect(&action, &QAction::triggered, this, [&runs] { ++runs; });
         QToolButton* button = w.Group()->buttonForAction(&action);
         for (const int x : {2, button->width() / 2, button->width() - 2})
-            QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(x, button->height() / 2));
+            QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier,
+                              QPoint(x, button->height() / 2));
         QCOMPARE(runs, 3);
     }
 
@@ -126,9 +128,12 @@ private Q_SLOTS:
         QTest::addColumn<int>("style");
         QTest::addColumn<QPointF>("main");
         QTest::addColumn<QPointF>("menu");
-        QTest::newRow("large") << int(Qt::ToolButtonTextUnderIcon) << QPointF(0.9, 0.2) << QPointF(0.2, 0.9);
-        QTest::newRow("small") << int(Qt::ToolButtonTextBesideIcon) << QPointF(0.2, 0.9) << QPointF(0.95, 0.2);
-        QTest::newRow("icon") << int(Qt::ToolButtonIconOnly) << QPointF(0.2, 0.5) << QPointF(0.9, 0.5);
+        QTest::newRow("large") << int(Qt::ToolButtonTextUnderIcon) << QPointF(0.9, 0.2)
+                               << QPointF(0.2, 0.9);
+        QTest::newRow("small") << int(Qt::ToolButtonTextBesideIcon) << QPointF(0.2, 0.9)
+                               << QPointF(0.95, 0.2);
+        QTest::newRow("icon") << int(Qt::ToolButtonIconOnly) << QPointF(0.2, 0.5)
+                              << QPointF(0.9, 0.5);
     }
 
     void theHalvesOfASplitButtonDoTheirOwn()
@@ -169,8 +174,9 @@ private Q_SLOTS:
         Window w(1, 1);
         QMenu popup;
         popup.addAction(QStringLiteral("Other"));
-        QAction* action = w.Group()->addAction(MakeIcon(), QStringLiteral("Menu"), Qt::ToolButtonFollowStyle,
-                                               &popup, QToolButton::InstantPopup);
+        QAction* action =
+            w.Group()->addAction(MakeIcon(), QStringLiteral("Menu"), Qt::ToolButtonFollowStyle,
+                                 &popup, QToolButton::InstantPopup);
         Window::Settle();
         int opened = 0;
         connect(&popup, &QMenu::aboutToShow, this, [&] {
@@ -237,8 +243,8 @@ private Q_SLOTS:
         RibbonGroup group;
         QAction own(QStringLiteral("Run"));
         group.addAction(&own, Qt::ToolButtonTextBesideIcon);
-        const QPointer<QAction> made
-            = group.addAction(QIcon(), QStringLiteral("Made"), Qt::ToolButtonTextBesideIcon);
+        const QPointer<QAction> made =
+            group.addAction(QIcon(), QStringLiteral("Made"), Qt::ToolButtonTextBesideIcon);
         const QPointer<QAction> separator = group.addSeparator();
         const QPointer<QWidget> widget = new QSpinBox;
         group.addWidget(widget);
@@ -455,7 +461,8 @@ private Q_SLOTS:
     {
         Window w(1, 0, QSize(300, 400));
         for (int i = 0; i < 8; ++i)
-            w.bar->currentPage()->addGroup(QStringLiteral("A very long title"))
+            w.bar->currentPage()
+                ->addGroup(QStringLiteral("A very long title"))
                 ->addAction(MakeIcon(), QStringLiteral("Button"), Qt::ToolButtonTextUnderIcon);
         Window::Settle();
         for (RibbonGroup* group : w.bar->currentPage()->groups())

@@ -19,7 +19,8 @@ struct Keys : Window
         bar->addSystemButton(QIcon(), QStringLiteral("File"));
         bar->showQuickAccess(true);
         for (int i = 0; i < 11; ++i)
-            bar->quickAccessBar()->addAction(ribbon_test::MakeIcon(), QStringLiteral("Quick %1").arg(i));
+            bar->quickAccessBar()->addAction(ribbon_test::MakeIcon(),
+                                             QStringLiteral("Quick %1").arg(i));
         bar->getPage(0)->setTitle(QStringLiteral("Home"));
         if (pages > 1)
             bar->getPage(1)->setTitle(QStringLiteral("View"));
@@ -119,7 +120,9 @@ private Q_SLOTS:
         w.bar->showKeyTips();
         QCOMPARE(w.TipOf(w.bar->getSystemButton()), QStringLiteral("F"));
         const QList<QAction*> quick = w.bar->quickAccessBar()->actions();
-        const auto tip = [&](int i) { return w.TipOf(w.bar->quickAccessBar()->widgetForAction(quick.at(i))); };
+        const auto tip = [&](int i) {
+            return w.TipOf(w.bar->quickAccessBar()->widgetForAction(quick.at(i)));
+        };
         QCOMPARE(tip(0), QStringLiteral("1"));
         QCOMPARE(tip(8), QStringLiteral("9"));
         QCOMPARE(tip(9), QStringLiteral("09"));

@@ -16,7 +16,8 @@ void Drag(QWidget* widget, const QPoint& from, const QPoint& to)
     const QPoint end = start + (to - from);
     const auto send = [widget](QEvent::Type type, const QPoint& global, Qt::MouseButtons buttons) {
         QMouseEvent event(type, widget->mapFromGlobal(global), global,
-                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons, Qt::NoModifier);
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons,
+                          Qt::NoModifier);
         QCoreApplication::sendEvent(widget, &event);
     };
     send(QEvent::MouseButtonPress, start, Qt::LeftButton);
@@ -115,11 +116,16 @@ private Q_SLOTS:
         QTest::addColumn<QPointF>("at");
         QTest::addColumn<QPoint>("by");
         QTest::addColumn<QRect>("change"); // of left, top, right, bottom
-        QTest::newRow("right") << QPointF(1, 0.5) << QPoint(30, 7) << QRect(QPoint(0, 0), QPoint(30, 0));
-        QTest::newRow("left") << QPointF(0, 0.5) << QPoint(-30, 7) << QRect(QPoint(-30, 0), QPoint(0, 0));
-        QTest::newRow("bottom") << QPointF(0.5, 1) << QPoint(9, 20) << QRect(QPoint(0, 0), QPoint(0, 20));
-        QTest::newRow("top") << QPointF(0.5, 0) << QPoint(9, -20) << QRect(QPoint(0, -20), QPoint(0, 0));
-        QTest::newRow("corner") << QPointF(1, 1) << QPoint(10, 20) << QRect(QPoint(0, 0), QPoint(10, 20));
+        QTest::newRow("right") << QPointF(1, 0.5) << QPoint(30, 7)
+                               << QRect(QPoint(0, 0), QPoint(30, 0));
+        QTest::newRow("left") << QPointF(0, 0.5) << QPoint(-30, 7)
+                              << QRect(QPoint(-30, 0), QPoint(0, 0));
+        QTest::newRow("bottom") << QPointF(0.5, 1) << QPoint(9, 20)
+                                << QRect(QPoint(0, 0), QPoint(0, 20));
+        QTest::newRow("top") << QPointF(0.5, 0) << QPoint(9, -20)
+                             << QRect(QPoint(0, -20), QPoint(0, 0));
+        QTest::newRow("corner") << QPointF(1, 1) << QPoint(10, 20)
+                                << QRect(QPoint(0, 0), QPoint(10, 20));
     }
 
     void pullingAnEdgeResizes()
@@ -147,7 +153,8 @@ private Q_SLOTS:
         send(QEvent::MouseButtonPress, start, Qt::LeftButton);
         send(QEvent::MouseMove, start + by, Qt::LeftButton);
         send(QEvent::MouseButtonRelease, start + by, Qt::NoButton);
-        QCOMPARE(w.window.geometry(), before.adjusted(change.left(), change.top(), change.right(), change.bottom()));
+        QCOMPARE(w.window.geometry(),
+                 before.adjusted(change.left(), change.top(), change.right(), change.bottom()));
         send(QEvent::MouseMove, w.window.mapToGlobal(QPoint(200, 200)), Qt::NoButton);
         QVERIFY(!QGuiApplication::overrideCursor());
     }

@@ -43,7 +43,8 @@ private Q_SLOTS:
 
     void thenTheWidestTitlesAreElidedUntilTheyAreEqual()
     {
-        const RibbonTabGeometry geometry = layoutRibbonTabs({30, 100, 80}, 30 + 2 * 60 + 24 + 4, metrics);
+        const RibbonTabGeometry geometry =
+            layoutRibbonTabs({30, 100, 80}, 30 + 2 * 60 + 24 + 4, metrics);
         QCOMPARE(TextWidths(geometry), (std::vector<int>{30, 60, 60}));
         QVERIFY(geometry.elided && !geometry.scrolls);
     }
@@ -106,8 +107,8 @@ private Q_SLOTS:
                     cap = geometry.tabs[i].textWidth;
                 }
             }
-            QVERIFY(geometry.padding == metrics.padding || !geometry.elided
-                    || geometry.padding == metrics.minPadding);
+            QVERIFY(geometry.padding == metrics.padding || !geometry.elided ||
+                    geometry.padding == metrics.minPadding);
         }
     }
 };

@@ -79,7 +79,8 @@ private Q_SLOTS:
     {
         QWidget widget;
         const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-        RibbonToolTip* tip = Show(QStringLiteral("Title"), longText, QIcon(), &widget, room.bottomRight());
+        RibbonToolTip* tip =
+            Show(QStringLiteral("Title"), longText, QIcon(), &widget, room.bottomRight());
         QVERIFY(room.contains(QRect(tip->pos(), tip->size())));
         tip = Show(QStringLiteral("Title"), longText, QIcon(), &widget, QPoint(-500, -500));
         QVERIFY(room.contains(QRect(tip->pos(), tip->size())));
@@ -88,7 +89,8 @@ private Q_SLOTS:
     void itGoes_data()
     {
         QTest::addColumn<QString>("by");
-        for (const char* by : {"leaving the widget", "a click", "a key", "its widget", "its widget hidden"})
+        for (const char* by :
+             {"leaving the widget", "a click", "a key", "its widget", "its widget hidden"})
             QTest::newRow(by) << QString::fromLatin1(by);
     }
 
@@ -156,8 +158,9 @@ private Q_SLOTS:
     void richTextIsLaidOut()
     {
         QWidget widget;
-        RibbonToolTip* tip = Show(QStringLiteral("Title"), QStringLiteral("<b>Bold</b><br>second<br>third"),
-                                  QIcon(), &widget);
+        RibbonToolTip* tip =
+            Show(QStringLiteral("Title"), QStringLiteral("<b>Bold</b><br>second<br>third"), QIcon(),
+                 &widget);
         QVERIFY(tip->height() > 4 * tip->fontMetrics().height());
         QVERIFY(!tip->grab().isNull());
     }
