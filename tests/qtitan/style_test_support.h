@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QColor>
+#include <QFont>
 #include <QImage>
 #include <QPainter>
 #include <QVector>
@@ -38,6 +39,14 @@ inline QVector<QColor> Accents()
 }
 
 constexpr int ThemeCount = 11;
+
+/// The font of painted texts, the same on every system that has it.
+inline QFont TestFont()
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(12);
+    return font;
+}
 
 /// A picture of that size in logical pixels, made by `draw`.
 inline QImage Picture(const QSize& size, qreal ratio, const QColor& ground,
