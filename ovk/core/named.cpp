@@ -1,6 +1,19 @@
 #include "ovk/core/named.h"
 
+#include "named_p.h"
+
 namespace ovk {
+
+namespace {
+
+quint64 g_renames = 0;
+
+} // namespace
+
+quint64 impl::CountOfRenames()
+{
+    return g_renames;
+}
 
 Named::Named(const QString& name) : m_name(name)
 {
@@ -14,8 +27,10 @@ Named::~Named() = default;
 
 Named& Named::operator=(const Named& other)
 {
-    if (this != &other)
+    if (this != &other) {
         m_name = other.m_name;
+        ++g_renames;
+    }
     return *this;
 }
 
@@ -32,6 +47,7 @@ const QString& Named::GetName() const
 void Named::_SetName(const QString& name)
 {
     m_name = name;
+    ++g_renames;
 }
 
 } // namespace ovk

@@ -48,7 +48,7 @@ void Preference<QByteArray>::_DoSave(QXmlStreamWriter& writer)
 
 void Preference<QByteArray>::_DoLoad(QXmlStreamReader& reader)
 {
-    SetData(QByteArray::fromBase64(reader.readElementText().toUtf8()));
+    SetData(QByteArray::fromBase64(ReadTextElement(reader).toUtf8()));
 }
 
 void Preference<QByteArray>::_DoRestoreDefault()
@@ -66,7 +66,7 @@ void Preference<QStringList>::_DoSave(QXmlStreamWriter& writer)
 {
     writer.writeStartElement(GetName());
     for (const QString& item : GetData())
-        writer.writeTextElement(QStringLiteral("item"), WithoutForbiddenCharacters(item));
+        WriteTextElement(writer, QStringLiteral("item"), item);
     writer.writeEndElement();
 }
 
@@ -77,7 +77,7 @@ void Preference<QStringList>::_DoLoad(QXmlStreamReader& reader)
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
             if (reader.name() == QLatin1String("item"))
-                items.append(reader.readElementText());
+                items.append(ReadTextElement(reader));
             break;
         case QXmlStreamReader::EndElement:
         case QXmlStreamReader::StartDocument:

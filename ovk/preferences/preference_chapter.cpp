@@ -1,5 +1,6 @@
 #include "ovk/preferences/preference_chapter.h"
 
+#include "ovk/core/named_p.h"
 #include "ovk/preferences/preferences_controller.h"
 
 #include <QHash>
@@ -10,14 +11,18 @@
 
 namespace ovk {
 
-/// Which item is the first of its name. It is only as good as the names that it was made from, and
-/// these are compared before it is believed: an item may be renamed behind the chapter's back.
+/// Which item is the first of its name.
 struct PreferenceChapter::NameIndex
 {
-    /// The names as they were, which the keys below look into.
+    /// The names as they were, which the views below look into.
     QVector<QString> names;
+    /// The same, but null where an earlier item has the name.
+    QVector<QStringView> first_names;
     /// Positions and not items: those of a collection come and go.
-    QHash<QStringView, int> first;
+    QHash<QStringView, int> positions;
+    /// Behind the item that was found last: files mostly have the order of the items.
+    int next = 0;
+    quint64 renames = 0;
 };
 
 PreferenceChapter::PreferenceChapter(const QString& name)
@@ -61,8 +66,6 @@ void PreferenceChapter::_DoLoad(QXmlStreamReader& reader)
     // Elements of the chapter's own name are the same chapter, a level deeper. They are counted
     // and not recursed into: a file decides how many there are.
     int level = 0;
-    if (!_IsIndexed())
-        _Index();
     while (!reader.atEnd()) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         if (token == QXmlStreamReader::StartElement) {
@@ -96,44 +99,54 @@ PreferenceBasics* PreferenceChapter::_Find(const QString& name)
 {
     if (name == GetName())
         return this;
-    if (!_IsIndexed())
-        _Index();
     return _FindItem(name);
 }
 
 PreferenceBasics* PreferenceChapter::_FindItem(QStringView name)
 {
-    int position = mp_index->first.value(name, -1);
-    const auto is_stale = [&] { return position >= m_items.size() || m_items.at(position)->GetName() != name; };
-    if (position < 0 ? !_IsIndexed() : is_stale()) {
+    if (!_IsIndexed())
         _Index();
-        position = mp_index->first.value(name, -1);
-    }
-    return position < 0 ? nullptr : m_items.at(position);
+    NameIndex& index = *mp_index;
+    int position = index.next;
+    if (name.isEmpty() || position >= index.first_names.size() || index.first_names.at(position) != name)
+        position = index.positions.value(name, -1);
+    if (position < 0)
+        return nullptr;
+    index.next = position + 1;
+    return m_items.at(position);
 }
 
-bool PreferenceChapter::_IsIndexed() const
+bool PreferenceChapter::_IsIndexed()
 {
     if (!mp_index || mp_index->names.size() != m_items.size())
         return false;
+    const quint64 renames = impl::CountOfRenames();
+    if (mp_index->renames == renames)
+        return true;
     for (int i = 0; i < m_items.size(); ++i) {
-        // The index shares the text of a name, so that the same text is at the same place.
+        // The index shares the text of a name, so that the same name is at the same place.
         if (mp_index->names.at(i).constData() != m_items.at(i)->GetName().constData())
             return false;
     }
+    mp_index->renames = renames;
     return true;
 }
 
 void PreferenceChapter::_Index()
 {
     mp_index = std::make_unique<NameIndex>();
-    mp_index->names.reserve(m_items.size());
-    mp_index->first.reserve(m_items.size());
+    NameIndex& index = *mp_index;
+    index.renames = impl::CountOfRenames();
+    index.names.reserve(m_items.size());
+    index.first_names.reserve(m_items.size());
+    index.positions.reserve(m_items.size());
     for (int i = 0; i < m_items.size(); ++i) {
-        mp_index->names.append(m_items.at(i)->GetName());
-        const QStringView name = mp_index->names.last();
-        if (!mp_index->first.contains(name))
-            mp_index->first.insert(name, i);
+        index.names.append(m_items.at(i)->GetName());
+        const QStringView name = index.names.last();
+        const bool is_first = !index.positions.contains(name);
+        index.first_names.append(is_first ? name : QStringView());
+        if (is_first)
+            index.positions.insert(name, i);
     }
 }
 

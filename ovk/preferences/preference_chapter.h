@@ -48,7 +48,7 @@ private:
     struct NameIndex;
 
     PreferenceBasics* _FindItem(QStringView name);
-    bool _IsIndexed() const;
+    bool _IsIndexed();
     void _Index();
 
     QList<PreferenceBasics*> m_items;

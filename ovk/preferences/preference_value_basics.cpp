@@ -7,6 +7,7 @@
 #include "ovk/preferences/preferences_controller.h"
 
 #include <QString>
+#include <QStringList>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -50,6 +51,51 @@ QString WithoutForbiddenCharacters(const QString& text)
     return allowed;
 }
 
+QString ReadTextElement(QXmlStreamReader& reader)
+{
+    QString text;
+    if (!reader.isStartElement())
+        return text;
+    for (;;) {
+        switch (reader.readNext()) {
+        case QXmlStreamReader::Characters:
+        case QXmlStreamReader::EntityReference:
+            if (text.isEmpty())
+                text = reader.text().toString();
+            else
+                text += reader.text();
+            break;
+        case QXmlStreamReader::ProcessingInstruction:
+        case QXmlStreamReader::Comment:
+            break;
+        case QXmlStreamReader::EndElement:
+            return text;
+        default:
+            if (!reader.hasError())
+                reader.raiseError(QStringLiteral("Expected character data."));
+            return text;
+        }
+    }
+}
+
+void WriteTextElement(QXmlStreamWriter& writer, const QString& name, const QString& text)
+{
+    const QString allowed = WithoutForbiddenCharacters(text);
+    if (!allowed.contains(QLatin1Char('\r'))) {
+        writer.writeTextElement(name, allowed);
+        return;
+    }
+    // A reader takes a bare carriage return for a line feed.
+    writer.writeStartElement(name);
+    const QStringList parts = allowed.split(QLatin1Char('\r'));
+    for (int i = 0; i < parts.size(); ++i) {
+        if (i > 0)
+            writer.writeEntityReference(QStringLiteral("#13"));
+        writer.writeCharacters(parts.at(i));
+    }
+    writer.writeEndElement();
+}
+
 PreferenceValueBasics::PreferenceValueBasics(PreferenceChapter& parent, const QString& name)
     : PreferenceBasics(&parent, name)
 {
@@ -59,12 +105,12 @@ PreferenceValueBasics::~PreferenceValueBasics() = default;
 
 void PreferenceValueBasics::_DoSave(QXmlStreamWriter& writer)
 {
-    writer.writeTextElement(GetName(), WithoutForbiddenCharacters(_ToString()));
+    WriteTextElement(writer, GetName(), _ToString());
 }
 
 void PreferenceValueBasics::_DoLoad(QXmlStreamReader& reader)
 {
-    const QString text = reader.readElementText();
+    const QString text = ReadTextElement(reader);
     if (PreferencesController::GetInstance()->IsPreferenceLoadable(this))
         _FromString(text);
 }
