@@ -3,6 +3,7 @@
 #include <ovk/core/application.h>
 #include <ovk/core/application_controller.h>
 #include <ovk/core/convert.h>
+#include <ovk/core/enumerable.h>
 #include <ovk/core/export.h>
 #include <ovk/core/icons_controller.h>
 #include <ovk/core/named.h>
