@@ -6,6 +6,8 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QResizeEvent>
 
+#include <memory>
+
 namespace ovk {
 
 DockWindow::Impl::Impl() = default;
@@ -44,7 +46,10 @@ void DockWindow::Impl::SetTitleVisible(bool visible)
     if (visible == !title.isNull())
         return;
     if (!visible) {
-        delete title;
+        // Forgotten first: while it dies it is no title any more, and still sends events.
+        const std::unique_ptr<DockTitle> going(title);
+        title.clear();
+        going->removeEventFilter(this);
         return;
     }
     title = CreateTitle();
