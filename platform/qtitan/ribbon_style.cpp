@@ -191,6 +191,7 @@ int RibbonStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
     case SH_ToolTip_Mask:
     case SH_Menu_Mask:
     case SH_DockWidget_ButtonsHaveFrame:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_ScrollBar_Transient:
         return 0;
     case SH_ItemView_ShowDecorationSelected:
