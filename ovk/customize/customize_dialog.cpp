@@ -192,6 +192,10 @@ void UiCustomizeDialog::Impl::CreateButtons()
     mp_btn_style->setIcon(IconsController::Load(QStringLiteral("customizeUi")));
     mp_box->addButton(QDialogButtonBox::RestoreDefaults);
     TranslateButton(mp_box->button(QDialogButtonBox::RestoreDefaults));
+    // Return in a search edit must never throw the user's work away.
+    mp_box->button(QDialogButtonBox::Discard)->setAutoDefault(false);
+    mp_box->button(QDialogButtonBox::RestoreDefaults)->setAutoDefault(false);
+    mp_box->button(QDialogButtonBox::Ok)->setDefault(true);
 }
 
 void UiCustomizeDialog::Impl::Arrange()

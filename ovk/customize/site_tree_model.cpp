@@ -30,16 +30,6 @@ namespace ovk {
 
 namespace {
 
-/// Later rows first; rows of different parents by their parents.
-bool ComesFirst(const QModelIndex& a, const QModelIndex& b)
-{
-    const QModelIndex parent_a = a.parent();
-    const QModelIndex parent_b = b.parent();
-    if (parent_a == parent_b || !parent_a.isValid() || !parent_b.isValid())
-        return a.row() > b.row();
-    return ComesFirst(parent_a, parent_b);
-}
-
 bool IsOfOneKind(const ITreeItem& a, const ITreeItem& b)
 {
     return typeid(a) == typeid(b) ||
@@ -62,6 +52,15 @@ QString ButtonStyleName(int style)
 {
     const int row = std::abs(style % buttonStyles.size());
     return QCoreApplication::translate("buttonStyles", buttonStyles.at(row).toUtf8().constData());
+}
+
+bool SiteTreeModel::ComesFirst(const QModelIndex& a, const QModelIndex& b)
+{
+    const QModelIndex parent_a = a.parent();
+    const QModelIndex parent_b = b.parent();
+    if (parent_a == parent_b || !parent_a.isValid() || !parent_b.isValid())
+        return a.row() > b.row();
+    return ComesFirst(parent_a, parent_b);
 }
 
 SiteTreeModel::SiteTreeModel(int columns, QObject* parent)

@@ -105,6 +105,10 @@ public:
     /// Whether a drop is being carried out: what it inserts is not opened for renaming.
     bool IsDropping() const { return m_dropping; }
 
+    /// The order in which rows are taken out, so that none moves before its turn: later rows
+    /// first, rows of different parents by their parents.
+    static bool ComesFirst(const QModelIndex& a, const QModelIndex& b);
+
     /// What a node is to the drop rules.
     static NodeKind KindOf(ITreeItem* item);
 

@@ -25,16 +25,6 @@ bool HasSelectedAncestor(const QModelIndex& index, const QModelIndexList& select
     return false;
 }
 
-/// Later rows first, so that a removal moves none of those that follow.
-bool GoesFirst(const QModelIndex& a, const QModelIndex& b)
-{
-    const QModelIndex parent_a = a.parent();
-    const QModelIndex parent_b = b.parent();
-    if (parent_a == parent_b || !parent_a.isValid() || !parent_b.isValid())
-        return a.row() > b.row();
-    return GoesFirst(parent_a, parent_b);
-}
-
 } // namespace
 
 const UiCustomizeSitesWidget::Impl::Site* UiCustomizeSitesWidget::Impl::ActiveSite() const
@@ -190,7 +180,7 @@ void UiCustomizeSitesWidget::Impl::DeleteItems(const Site& site)
         if (!HasSelectedAncestor(index, selected))
             rows.append(index);
     }
-    std::stable_sort(rows.begin(), rows.end(), GoesFirst);
+    std::stable_sort(rows.begin(), rows.end(), SiteTreeModel::ComesFirst);
     // A live site may rebuild on a removal, so that plain indexes are not enough.
     QList<QPersistentModelIndex> going;
     for (const QModelIndex& row : rows)

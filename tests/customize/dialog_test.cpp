@@ -95,6 +95,7 @@ private Q_SLOTS:
     void init() { QDir(DataHome()).removeRecursively(); }
 
     void openingShowsTheDialogAndBlocksCommands();
+    void returnNeverThrowsWorkAway();
     void thereAreTwoPagesWithoutTheStyleCommand();
     void theFormHasItsWidgets();
     void everyActionHasItsText();
@@ -129,6 +130,21 @@ void CustomizeDialogTest::openingShowsTheDialogAndBlocksCommands()
     QVERIFY(!dialog.Button(QDialogButtonBox::Discard)->isEnabled());
     QCOMPARE(dialog.Find<QComboBox>("mp_combo_layout")->currentData().toString(), QStringLiteral("Model"));
     QCOMPARE(dialog.Find<QTabWidget>("mp_tabs_sites")->currentIndex(), 0);
+}
+
+void CustomizeDialogTest::returnNeverThrowsWorkAway()
+{
+    Dialog dialog;
+    dialog.Model()->AddPage(-1);
+    QVERIFY(dialog.Button(QDialogButtonBox::Ok)->isDefault());
+    for (QDialogButtonBox::StandardButton which :
+         {QDialogButtonBox::Discard, QDialogButtonBox::RestoreDefaults}) {
+        QVERIFY(!dialog.Button(which)->isDefault());
+        QVERIFY(!dialog.Button(which)->autoDefault());
+    }
+    const int pages = dialog.Ribbon()->GetChildCount();
+    QTest::keyClick(dialog.Find<QLineEdit>("mp_ed_search_basic"), Qt::Key_Return);
+    QCOMPARE(dialog.Ribbon()->GetChildCount(), pages);
 }
 
 void CustomizeDialogTest::thereAreTwoPagesWithoutTheStyleCommand()
