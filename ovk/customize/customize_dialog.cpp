@@ -276,6 +276,8 @@ void UiCustomizeDialog::Impl::Open()
     if (mp_style)
         mp_style->BeginEdit();
     UpdateDiscard();
+    // Not on the first button of the box, which resets everything.
+    mp_sites->GetWidget()->setFocus();
     show();
     raise();
     activateWindow();

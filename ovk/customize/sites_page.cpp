@@ -84,6 +84,7 @@ UiCustomizeSitesWidget::Impl::Impl(UiCustomizeSitesWidget& owner)
     : PimplBasics<UiCustomizeSitesWidget>(owner)
 {
     setupUi(this);
+    setFocusProxy(mp_ed_search_basic);
     const auto delete_from = [](auto& model) {
         return [&model](const QModelIndex& parent, int row) { model.DeleteRow(parent, row); };
     };
