@@ -90,8 +90,6 @@ void WorkArea::dragEnterEvent(QDragEnterEvent* event)
     IClipboardManager* manager = m_private->clipboard_manager;
     if (manager && manager->CanDropData(event->mimeData()))
         event->acceptProposedAction();
-    else
-        event->ignore();
 }
 
 void WorkArea::dropEvent(QDropEvent* event)

@@ -43,7 +43,11 @@ public:
     explicit RibbonBackstageBack(QWidget* parent);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void retranslate();
 };
 
 class OVK_TEST_EXPORT RibbonBackstageViewPrivate

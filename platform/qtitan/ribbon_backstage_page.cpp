@@ -155,8 +155,20 @@ RibbonBackstageBack::RibbonBackstageBack(QWidget* parent) : QAbstractButton(pare
     setObjectName(QStringLiteral("backstageBack"));
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
+    retranslate();
+}
+
+void RibbonBackstageBack::retranslate()
+{
     setText(tr("Back"));
     setToolTip(tr("Back"));
+}
+
+void RibbonBackstageBack::changeEvent(QEvent* event)
+{
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
 }
 
 void RibbonBackstageBack::paintEvent(QPaintEvent*)

@@ -184,6 +184,11 @@ bool RibbonBackstageView::event(QEvent* event)
         if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
             event->accept();
         break;
+    case QEvent::ScreenChangeInternal:
+        d->columnCache = -1;
+        d->layout();
+        update();
+        break;
     default:
         break;
     }

@@ -103,11 +103,9 @@ QToolButton* RibbonBar::buttonForAction(const QAction* action) const
 void RibbonBarPrivate::insertCorner(QAction* action, QAction* before)
 {
     auto* button = new RibbonButton(RibbonGround::Strip, this, q);
-    button->setToolButtonStyle(pending.action == action ? pending.style : Qt::ToolButtonIconOnly);
-    if (pending.action == action && pending.menu)
-        button->setMenu(pending.menu);
-    button->setPopupMode(QToolButton::InstantPopup);
-    button->setAction(action);
+    const bool known = pending.action == action;
+    button->setUp(action, known ? pending.style : Qt::ToolButtonIconOnly,
+                  QToolButton::InstantPopup, known ? pending.menu : nullptr);
     const auto it = std::find_if(corner.begin(), corner.end(),
                                  [before](const Corner& c) { return c.action == before; });
     corner.insert(it, {action, button});
@@ -201,6 +199,7 @@ void RibbonBar::setMinimized(bool minimized)
     if (d->minimized == minimized)
         return;
     d->endPeek();
+    d->hidePopups();
     d->minimized = minimized;
     d->area->setVisible(!minimized);
     d->heightChanged();
@@ -302,6 +301,9 @@ bool RibbonBar::event(QEvent* event)
         break;
     case QEvent::LayoutRequest:
         d->layout();
+        break;
+    case QEvent::ScreenChangeInternal:
+        d->screenChanged();
         break;
     case QEvent::WindowTitleChange:
         update();

@@ -1,10 +1,9 @@
 #include "ribbon_backstage.h"
 #include "ribbon_bar_p.h"
-#include "ribbon_group.h"
 #include "ribbon_key_tips_p.h"
 #include "ribbon_metrics_p.h"
-#include "ribbon_page.h"
 #include "ribbon_page_area_p.h"
+#include "ribbon_page_p.h"
 #include "ribbon_tab_bar_p.h"
 #include "ribbon_util_p.h"
 
@@ -76,11 +75,15 @@ void RibbonBarPrivate::wheel(QWheelEvent* event)
     makeCurrent(tabs.at(qBound(0, index - steps, tabs.size() - 1)));
 }
 
-void RibbonBarPrivate::commandRan()
+void RibbonBarPrivate::hidePopups()
 {
     if (current)
-        for (RibbonGroup* group : current->groups())
-            group->hidePopup();
+        RibbonPagePrivate::get(current)->hidePopups();
+}
+
+void RibbonBarPrivate::commandRan()
+{
+    hidePopups();
     // The command may be in the middle of a click of a button on the page.
     if (peeking)
         QMetaObject::invokeMethod(
@@ -111,9 +114,7 @@ void RibbonBarPrivate::endPeek()
         return;
     peeking = false;
     qApp->removeEventFilter(q);
-    if (current)
-        for (RibbonGroup* group : current->groups())
-            group->hidePopup();
+    hidePopups();
     const bool had_focus = area->isAncestorOf(QApplication::focusWidget());
     area->hide();
     area->setParent(q);

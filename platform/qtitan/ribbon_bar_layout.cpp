@@ -1,5 +1,6 @@
 #include "ribbon_backstage.h"
 #include "ribbon_bar_p.h"
+#include "ribbon_key_tips_p.h"
 #include "ribbon_metrics_p.h"
 #include "ribbon_page_area_p.h"
 #include "ribbon_page_p.h"
@@ -58,7 +59,7 @@ QRect RibbonBarPrivate::currentTabRect() const
 {
     if (!current || (minimized && !peeking))
         return QRect();
-    return tabBar->tabRect(current).translated(tabBar->pos());
+    return tabBar->visibleTabRect(current).translated(tabBar->pos());
 }
 
 QRect RibbonBarPrivate::backstageRect() const
@@ -190,6 +191,22 @@ void RibbonBarPrivate::relayoutAll()
     heightChanged();
 }
 
+void RibbonBarPrivate::screenChanged()
+{
+    if (destroying)
+        return;
+    keyTips->stop();
+    hidePopups();
+    tabBar->measureAnew();
+    RibbonQuickAccessBarPrivate::get(quickAccess)->fitIcons();
+    // Pages that are out of the bar come back with what they knew.
+    const QList<RibbonPage*> parked =
+        parking->findChildren<RibbonPage*>(QString(), Qt::FindDirectChildrenOnly);
+    for (RibbonPage* page : parked)
+        RibbonPagePrivate::get(page)->invalidateAll();
+    relayoutAll();
+}
+
 void RibbonBarPrivate::heightChanged()
 {
     if (destroying)
@@ -284,7 +301,7 @@ QVector<RibbonBarPrivate::ContextHeading> RibbonBarPrivate::contextHeadings() co
         while (end < tabs.size() && tabs.at(end)->isContextual() == first->isContextual() &&
                tabs.at(end)->contextTitle() == first->contextTitle() &&
                tabs.at(end)->contextColor() == first->contextColor())
-            rect |= tabBar->tabRect(end++);
+            rect |= tabBar->visibleTabRect(tabs.at(end++));
         i = end;
         if (!first->isContextual() || rect.isEmpty())
             continue;
@@ -316,15 +333,13 @@ void RibbonBarPrivate::watchWindow()
     QWindow* handle = window->windowHandle();
     if (!handle)
         return;
-    const auto relayout = [this] { relayoutAll(); };
-    screenConnection =
-        QObject::connect(handle, &QWindow::screenChanged, q, [this, relayout](QScreen*) {
-            watchWindow();
-            relayout();
-        });
+    screenConnection = QObject::connect(handle, &QWindow::screenChanged, q, [this](QScreen*) {
+        watchWindow();
+        screenChanged();
+    });
     if (handle->screen())
-        dpiConnection =
-            QObject::connect(handle->screen(), &QScreen::logicalDotsPerInchChanged, q, relayout);
+        dpiConnection = QObject::connect(handle->screen(), &QScreen::logicalDotsPerInchChanged, q,
+                                         [this] { screenChanged(); });
 }
 
 } // namespace Qtitan

@@ -52,6 +52,8 @@ public:
     void wheel(QWheelEvent* event);
     /// A command of the ribbon ran: a peek and the popup of a group go away.
     void commandRan();
+    /// Closes what groups of the current page have opened.
+    void hidePopups();
     void beginPeek();
     void endPeek();
     bool filterPeek(QObject* watched, QEvent* event);
@@ -60,6 +62,8 @@ public:
     // Layout (ribbon_bar_layout.cpp)
     void layout();
     void relayoutAll();
+    /// Another screen or another resolution: nothing that was measured holds any more.
+    void screenChanged();
     void heightChanged();
     void placeHolders();
     void placeArea();
@@ -145,6 +149,7 @@ public:
     void setKind(RibbonCaptionButton kind);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

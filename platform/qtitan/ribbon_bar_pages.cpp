@@ -1,8 +1,11 @@
 #include "ribbon_bar.h"
 #include "ribbon_bar_p.h"
+#include "ribbon_key_tips_p.h"
 #include "ribbon_page_area_p.h"
 #include "ribbon_page_p.h"
 #include "ribbon_tab_bar_p.h"
+
+#include <algorithm>
 
 namespace Qtitan {
 
@@ -87,6 +90,8 @@ void RibbonBarPrivate::takeOut(RibbonPage* page)
 {
     const int index = pages.indexOf(page);
     RibbonPagePrivate* pd = RibbonPagePrivate::get(page);
+    keyTips->stop();
+    pd->hidePopups();
     const bool hidden = page->isHidden();
     const bool explicitly = page->testAttribute(Qt::WA_WState_ExplicitShowHide);
     pages.removeAt(index);
@@ -111,8 +116,10 @@ void RibbonBarPrivate::pageGone(RibbonPage* page)
     const int index = pages.indexOf(page);
     if (index < 0)
         return;
-    pages.removeAt(index);
     RibbonPagePrivate* pd = RibbonPagePrivate::get(page);
+    keyTips->stop();
+    pd->hidePopups();
+    pages.removeAt(index);
     RibbonPageHolder* holder = pd->holder;
     pd->holder = nullptr;
     pd->bar = nullptr;
@@ -135,6 +142,9 @@ QList<RibbonPage*> RibbonBarPrivate::shownPages() const
     for (RibbonPage* page : pages)
         if (!page->isHidden())
             shown.append(page);
+    // Tabs of contexts come and go: behind the others they move nothing.
+    std::stable_partition(shown.begin(), shown.end(),
+                          [](const RibbonPage* page) { return !page->isContextual(); });
     return shown;
 }
 
@@ -163,6 +173,7 @@ void RibbonBarPrivate::pageVisibilityChanged(RibbonPage* page)
 {
     if (destroying)
         return;
+    keyTips->stop();
     tabsChanged();
     if (page->isHidden() && page == current)
         makeCurrent(nearestShown(pages.indexOf(page) + 1));
@@ -174,6 +185,8 @@ void RibbonBarPrivate::makeCurrent(RibbonPage* page)
 {
     if (page == current)
         return;
+    if (current)
+        RibbonPagePrivate::get(current)->hidePopups();
     RibbonPageHolder* old = current ? RibbonPagePrivate::get(current)->holder : nullptr;
     current = page;
     // The new page is there before the old one goes, or the ground would flash between them.

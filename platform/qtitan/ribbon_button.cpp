@@ -15,6 +15,8 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 
+#include <utility>
+
 namespace Qtitan {
 namespace {
 
@@ -35,12 +37,18 @@ RibbonButton::RibbonButton(RibbonGround ground, RibbonButtonHost* host, QWidget*
 
 RibbonButton::~RibbonButton() = default;
 
-void RibbonButton::setAction(QAction* action)
+void RibbonButton::setUp(QAction* action, Qt::ToolButtonStyle style, ToolButtonPopupMode mode,
+                         QMenu* menu)
 {
-    // An action with a menu of its own makes the button change its mode.
-    const ToolButtonPopupMode mode = popupMode();
+    // What is being made has no size that could change.
+    RibbonButtonHost* host = std::exchange(m_host, nullptr);
+    setToolButtonStyle(style);
+    if (menu)
+        setMenu(menu);
     setDefaultAction(action);
+    // Last: an action with a menu of its own makes the button change its mode.
     setPopupMode(mode);
+    m_host = host;
     contentsChanged();
 }
 
@@ -150,8 +158,8 @@ int RibbonButton::widthFor(RibbonItemSize size) const
         RibbonButtonOption option = optionFor(size);
         option.rect = QRect(0, 0, 0, option.large ? metrics.largeHeight : metrics.lineHeight);
         width = RibbonPainter::buttonWidth(option);
-        if (option.large)
-            width = qMax(width, metrics.largeMinWidth);
+        // A label that is longer than any should be is elided rather than given the whole page.
+        width = qBound(option.large ? metrics.largeMinWidth : 0, width, metrics.maxButtonWidth);
     }
     return width;
 }

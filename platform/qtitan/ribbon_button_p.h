@@ -30,8 +30,8 @@ public:
     RibbonButton(RibbonGround ground, RibbonButtonHost* host, QWidget* parent);
     ~RibbonButton() override;
 
-    /// setDefaultAction, after which the button knows what it was measured for.
-    void setAction(QAction* action);
+    /// Gives the button all that a host says of it, at once.
+    void setUp(QAction* action, Qt::ToolButtonStyle style, ToolButtonPopupMode mode, QMenu* menu);
     /// The size that the style asks for.
     RibbonItemSize wantedSize() const;
     RibbonItemSize displaySize() const { return m_size; }

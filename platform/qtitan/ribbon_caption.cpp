@@ -44,6 +44,13 @@ void RibbonCaptionWidget::setKind(RibbonCaptionButton kind)
     update();
 }
 
+void RibbonCaptionWidget::changeEvent(QEvent* event)
+{
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setKind(m_kind);
+}
+
 void RibbonCaptionWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);

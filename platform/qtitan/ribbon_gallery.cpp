@@ -246,6 +246,7 @@ bool RibbonGallery::event(QEvent* event)
         return true;
     }
     case QEvent::ParentChange:
+    case QEvent::ScreenChangeInternal:
         d->invalidate();
         break;
     case QEvent::FocusIn:
@@ -273,6 +274,9 @@ void RibbonGallery::changeEvent(QEvent* event)
     case QEvent::StyleChange:
     case QEvent::LayoutDirectionChange:
         d->invalidate();
+        break;
+    case QEvent::LanguageChange:
+        d->retranslate();
         break;
     default:
         break;

@@ -46,6 +46,7 @@ public:
     const GalleryGeometry& geometry() const;
     void invalidate();
     void updateChildren();
+    void retranslate();
     void setOffset(int offset);
     int maximumOffset() const;
     QRect cellRect(int index) const;

@@ -109,6 +109,15 @@ int RibbonGalleryPrivate::maximumOffset() const
     return qMax(0, geometry().height - viewRect().height());
 }
 
+void RibbonGalleryPrivate::retranslate()
+{
+    if (!up)
+        return;
+    up->setAccessibleName(RibbonGallery::tr("Row up"));
+    down->setAccessibleName(RibbonGallery::tr("Row down"));
+    more->setAccessibleName(RibbonGallery::tr("More"));
+}
+
 void RibbonGalleryPrivate::updateChildren()
 {
     offset = qBound(0, offset, maximumOffset());
@@ -121,9 +130,7 @@ void RibbonGalleryPrivate::updateChildren()
         up = new RibbonGalleryButton(Qt::UpArrow, q);
         down = new RibbonGalleryButton(Qt::DownArrow, q);
         more = new RibbonGalleryButton(Qt::NoArrow, q);
-        up->setAccessibleName(RibbonGallery::tr("Row up"));
-        down->setAccessibleName(RibbonGallery::tr("Row down"));
-        more->setAccessibleName(RibbonGallery::tr("More"));
+        retranslate();
         QObject::connect(up, &QAbstractButton::clicked, q,
                          [this] { setOffset(offset - highestCell()); });
         QObject::connect(down, &QAbstractButton::clicked, q,

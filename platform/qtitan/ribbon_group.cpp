@@ -130,25 +130,31 @@ void RibbonGroup::clear()
 QWidget* RibbonGroup::widgetForAction(const QAction* action) const
 {
     const int index = d->panel->indexOf(action);
-    return index < 0 ? nullptr : d->panel->items()[static_cast<std::size_t>(index)].widget;
+    if (index < 0)
+        return nullptr;
+    d->panel->button(index);
+    return d->panel->items()[static_cast<std::size_t>(index)].widget;
 }
 
 QToolButton* RibbonGroup::buttonForAction(const QAction* action) const
 {
-    const int index = d->panel->indexOf(action);
-    return index < 0 ? nullptr : d->panel->items()[static_cast<std::size_t>(index)].button;
+    return d->panel->button(d->panel->indexOf(action));
 }
 
 Qt::ToolButtonStyle RibbonGroup::styleForAction(const QAction* action) const
 {
-    const QToolButton* button = buttonForAction(action);
-    return button ? button->toolButtonStyle() : Qt::ToolButtonTextBesideIcon;
+    const int index = d->panel->indexOf(action);
+    if (index < 0)
+        return Qt::ToolButtonTextBesideIcon;
+    const RibbonGroupPanel::Item& item = d->panel->items()[static_cast<std::size_t>(index)];
+    return item.button ? item.button->toolButtonStyle() : item.style;
 }
 
 void RibbonGroup::setStyleForAction(const QAction* action, Qt::ToolButtonStyle style)
 {
-    if (auto* button = static_cast<RibbonButton*>(buttonForAction(action)))
-        button->setWantedStyle(style);
+    const int index = d->panel->indexOf(action);
+    if (index >= 0)
+        d->panel->setStyle(index, style);
 }
 
 bool RibbonGroup::isOptionButtonVisible() const
@@ -222,8 +228,7 @@ void RibbonGroup::actionEvent(QActionEvent* event)
         break;
     case QEvent::ActionChanged:
         // Buttons follow their actions by themselves; separators and widgets do not.
-        if (!buttonForAction(event->action()))
-            d->panel->invalidate();
+        d->actionChanged(event->action());
         break;
     default:
         break;
@@ -325,30 +330,47 @@ void RibbonGroup::paintEvent(QPaintEvent*)
 
 void RibbonGroupPrivate::insertAction(QAction* action, QAction* before)
 {
+    using Kind = RibbonGroupPanel::Item::Kind;
     RibbonGroupPanel::Item item;
     item.action = action;
-    item.separator = action->isSeparator();
-    if (auto* widget_action = qobject_cast<QWidgetAction*>(action))
+    if (action->isSeparator())
+        item.kind = Kind::Separator;
+    else if (auto* widget_action = qobject_cast<QWidgetAction*>(action))
         item.widget = widget_action->requestWidget(panel);
-    if (!item.widget && !action->isSeparator()) {
-        item.button = new RibbonButton(RibbonGround::Page, panel, panel);
-        item.widget = item.button;
-        if (pending.action == action) {
-            item.button->setToolButtonStyle(pending.style);
-            item.button->setPopupMode(pending.mode);
-            if (pending.menu)
-                item.button->setMenu(pending.menu);
-        } else {
-            item.button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-            item.button->setPopupMode(QToolButton::MenuButtonPopup);
-        }
-        item.button->setAction(action);
-        QObject::connect(item.button, &QToolButton::triggered, q, [this] {
-            if (RibbonBar* bar = ribbonBarOf(q))
-                RibbonBarPrivate::get(bar)->commandRan();
-        });
+    if (item.widget)
+        item.kind = Kind::Widget;
+    if (pending.action == action) {
+        item.style = pending.style;
+        item.mode = pending.mode;
+        item.menu = pending.menu;
     }
     panel->insertItem(before ? panel->indexOf(before) : -1, item);
+}
+
+void RibbonGroupPrivate::actionChanged(const QAction* action)
+{
+    const int index = panel->indexOf(action);
+    if (index < 0)
+        return;
+    const RibbonGroupPanel::Item& item = panel->items()[static_cast<std::size_t>(index)];
+    // Buttons follow their actions by themselves, and one that was not made yet cannot have been
+    // laid out.
+    if (item.kind != RibbonGroupPanel::Item::Kind::Button)
+        panel->invalidate();
+}
+
+void RibbonGroupPrivate::invalidateAll()
+{
+    collapsedCache = -1;
+    panel->invalidateAll();
+}
+
+/// Tips of elements that go would stay on the screen.
+void RibbonGroupPrivate::stopKeyTips()
+{
+    RibbonBar* bar = page ? page->ribbonBar() : nullptr;
+    if (bar && bar->isKeyTipsVisible())
+        bar->hideKeyTips();
 }
 
 void RibbonGroupPrivate::panelChanged()
@@ -370,6 +392,7 @@ int RibbonGroupPrivate::collapsedWidth() const
         for (int i = 0; i < lines.size(); ++i)
             text = qMax(text, font.horizontalAdvance(lines.at(i)) +
                                   (i + 1 == lines.size() && i > 0 ? metrics.px(9) : 0));
+        text = qMin(text, metrics.maxTitleWidth);
         collapsedCache = qMax(metrics.collapsedMinWidth, text + 2 * metrics.px(5));
     }
     return collapsedCache;

@@ -54,6 +54,10 @@ public:
     void setTitleVisible(bool visible);
     void popupHidden();
     void insertAction(QAction* action, QAction* before);
+    void actionChanged(const QAction* action);
+    /// Forgets everything that was measured.
+    void invalidateAll();
+    void stopKeyTips();
 
     RibbonGroup* const q;
     RibbonGroupPanel* panel = nullptr;

@@ -1,5 +1,6 @@
 #include "ribbon_group_panel_p.h"
 
+#include "ribbon_bar_p.h"
 #include "ribbon_gallery.h"
 #include "ribbon_group.h"
 #include "ribbon_group_p.h"
@@ -21,6 +22,7 @@ namespace {
 
 int g_computations = 0;
 int g_placements = 0;
+int g_buttonsMade = 0;
 
 QSize wantedSize(const QWidget* widget)
 {
@@ -29,7 +31,8 @@ QSize wantedSize(const QWidget* widget)
 
 bool isShown(const RibbonGroupPanel::Item& item)
 {
-    return item.action->isVisible() && (item.separator || item.widget);
+    return item.action->isVisible() &&
+           (item.kind != RibbonGroupPanel::Item::Kind::Widget || item.widget);
 }
 
 } // namespace
@@ -102,7 +105,48 @@ void RibbonGroupPanel::insertItem(int index, const Item& item)
     m_items.insert(m_items.begin() + index, item);
     if (item.widget && item.widget->parentWidget() != this)
         item.widget->setParent(this);
+    if (item.kind == Item::Kind::Button)
+        m_allMade = false;
     invalidate();
+}
+
+RibbonButton* RibbonGroupPanel::button(int index) const
+{
+    if (index < 0 || index >= static_cast<int>(m_items.size()))
+        return nullptr;
+    Item& item = m_items[static_cast<std::size_t>(index)];
+    if (item.kind != Item::Kind::Button || item.button)
+        return item.button;
+    ++g_buttonsMade;
+    auto* self = const_cast<RibbonGroupPanel*>(this);
+    item.button = new RibbonButton(RibbonGround::Page, self, self);
+    item.widget = item.button;
+    item.button->setUp(item.action, item.style, item.mode, item.menu);
+    RibbonGroup* group = m_group;
+    connect(item.button, &QToolButton::triggered, group, [group] {
+        if (RibbonBar* bar = ribbonBarOf(group))
+            RibbonBarPrivate::get(bar)->commandRan();
+    });
+    return item.button;
+}
+
+void RibbonGroupPanel::makeButtons() const
+{
+    if (m_allMade)
+        return;
+    for (int i = 0; i < static_cast<int>(m_items.size()); ++i)
+        button(i);
+    m_allMade = true;
+}
+
+void RibbonGroupPanel::setStyle(int index, Qt::ToolButtonStyle style)
+{
+    Item& item = m_items[static_cast<std::size_t>(index)];
+    item.style = style;
+    if (item.button)
+        item.button->setWantedStyle(style);
+    else if (item.kind == Item::Kind::Button)
+        invalidate();
 }
 
 void RibbonGroupPanel::removeItem(const QAction* action)
@@ -110,10 +154,11 @@ void RibbonGroupPanel::removeItem(const QAction* action)
     const int index = indexOf(action);
     if (index < 0)
         return;
+    RibbonGroupPrivate::get(m_group)->stopKeyTips();
     const Item item = m_items[static_cast<std::size_t>(index)];
     m_items.erase(m_items.begin() + index);
     invalidate();
-    if (item.button)
+    if (item.kind == Item::Kind::Button)
         delete item.button;
     else if (auto* widget_action = qobject_cast<QWidgetAction*>(item.action);
              widget_action && item.widget)
@@ -132,9 +177,9 @@ bool RibbonGroupPanel::isWorthPopup() const
     int count = 0;
     bool only_button = true;
     for (const Item& item : m_items)
-        if (item.widget && isShown(item)) {
+        if (item.kind != Item::Kind::Separator && isShown(item)) {
             ++count;
-            only_button = only_button && item.button;
+            only_button = only_button && item.kind == Item::Kind::Button;
         }
     return count > 1 || (count == 1 && !only_button);
 }
@@ -170,6 +215,7 @@ RibbonLayoutMetrics RibbonGroupPanel::layoutMetrics() const
 
 std::vector<RibbonLayoutItem> RibbonGroupPanel::layoutItems(bool all_sizes) const
 {
+    makeButtons();
     const int line = RibbonMetrics::of(this).lineHeight;
     std::vector<RibbonLayoutItem> result;
     result.reserve(m_items.size());
@@ -210,7 +256,10 @@ int RibbonGroupPanel::minimumContentWidth() const
     const RibbonMetrics& metrics = RibbonMetrics::of(this);
     if (!m_titleVisible)
         return metrics.lineHeight;
-    int width = fontMetrics().horizontalAdvance(plainText(m_group->title())) + metrics.px(6);
+    // A title that is longer than any should be is elided rather than given the whole page.
+    int width = qMin(fontMetrics().horizontalAdvance(plainText(m_group->title())),
+                     metrics.maxTitleWidth) +
+                metrics.px(6);
     if (m_launcher)
         // On both sides, so that the title stays in the middle.
         width += 2 * (metrics.launcher.width() + metrics.px(1));
@@ -255,6 +304,11 @@ int RibbonGroupPanel::computations()
 int RibbonGroupPanel::placements()
 {
     return g_placements;
+}
+
+int RibbonGroupPanel::buttonsMade()
+{
+    return g_buttonsMade;
 }
 
 void RibbonGroupPanel::setStep(int step)
@@ -350,6 +404,14 @@ void RibbonGroupPanel::invalidate()
     RibbonGroupPrivate::get(m_group)->panelChanged();
 }
 
+void RibbonGroupPanel::invalidateAll()
+{
+    for (const Item& item : m_items)
+        if (item.button)
+            item.button->invalidate();
+    invalidate();
+}
+
 void RibbonGroupPanel::buttonChanged()
 {
     invalidate();
@@ -361,7 +423,8 @@ bool RibbonGroupPanel::event(QEvent* event)
     case QEvent::LayoutRequest:
         // Also comes when children are merely shown; only another size hint is worth a layout.
         for (const Item& item : m_items)
-            if (item.widget && !item.button && item.hint != wantedSize(item.widget)) {
+            if (item.widget && item.kind == Item::Kind::Widget &&
+                item.hint != wantedSize(item.widget)) {
                 invalidate();
                 break;
             }
@@ -386,10 +449,7 @@ void RibbonGroupPanel::changeEvent(QEvent* event)
     case QEvent::FontChange:
     case QEvent::StyleChange:
     case QEvent::LayoutDirectionChange:
-        for (const Item& item : m_items)
-            if (item.button)
-                item.button->invalidate();
-        invalidate();
+        invalidateAll();
         break;
     default:
         break;
@@ -422,7 +482,7 @@ void RibbonGroupPanel::paintEvent(QPaintEvent*)
         RibbonPainter::drawGroupTitle(painter, title);
     }
     for (const Item& item : m_items) {
-        if (!item.separator || !isShown(item))
+        if (item.kind != Item::Kind::Separator || !isShown(item))
             continue;
         RibbonPaintOption separator = option;
         separator.rect = QRect(item.rect.center().x() - (metrics.separatorWidth - 1) / 2,

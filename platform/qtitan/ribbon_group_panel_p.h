@@ -5,6 +5,8 @@
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QWidget>
 
 #include <vector>
@@ -38,10 +40,15 @@ class OVK_TEST_EXPORT RibbonGroupPanel : public QWidget, public RibbonButtonHost
 public:
     struct Item
     {
+        enum class Kind { Button, Widget, Separator };
+        Kind kind = Kind::Button;
         QAction* action = nullptr;
-        QPointer<QWidget> widget;       ///< null for a separator
+        QPointer<QWidget> widget;       ///< null for a separator and for a button not made yet
         RibbonButton* button = nullptr; ///< the widget, when it is a button of ours
-        bool separator = false;
+        /// What the host asked for. A button takes it when it is made.
+        Qt::ToolButtonStyle style = Qt::ToolButtonTextBesideIcon;
+        QToolButton::ToolButtonPopupMode mode = QToolButton::MenuButtonPopup;
+        QPointer<QMenu> menu;
         mutable QSize hint;             ///< what a widget of the host's wanted when it was measured
         QRect rect;                     ///< as laid out; of a separator, where it is drawn
     };
@@ -54,6 +61,9 @@ public:
     void removeItem(const QAction* action);
     const std::vector<Item>& items() const { return m_items; }
     int indexOf(const QAction* action) const;
+    /// The button of an item, made now if it was not yet; null for widgets and separators.
+    RibbonButton* button(int index) const;
+    void setStyle(int index, Qt::ToolButtonStyle style);
     /// Whether one button for the whole panel would save anything: not for a single button.
     bool isWorthPopup() const;
 
@@ -74,12 +84,16 @@ public:
 
     /// Forgets widths; the page lays out anew.
     void invalidate();
+    /// Forgets those of the buttons too: they are measured anew.
+    void invalidateAll();
     void buttonChanged() override;
 
     /// How often the steps of all panels were computed, for tests.
     static int computations();
     /// How often the items of all panels were given their places, for tests.
     static int placements();
+    /// How many buttons all panels made, for tests.
+    static int buttonsMade();
 
 protected:
     bool event(QEvent* event) override;
@@ -88,6 +102,9 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// Buttons are made when they are first measured, that is, when their page is first laid out: a
+    /// profile has hundreds of them, most of which are not seen for hours.
+    void makeButtons() const;
     std::vector<RibbonLayoutItem> layoutItems(bool all_sizes) const;
     RibbonLayoutMetrics layoutMetrics() const;
     int minimumContentWidth() const;
@@ -98,7 +115,8 @@ private:
 
     RibbonGroup* m_group;
     RibbonLauncher* m_launcher = nullptr;
-    std::vector<Item> m_items;
+    mutable std::vector<Item> m_items;
+    mutable bool m_allMade = true;
     mutable std::vector<RibbonGroupStep> m_steps;
     mutable int m_fullWidth = -1;
     int m_step = 0;

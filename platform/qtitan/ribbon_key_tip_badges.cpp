@@ -180,7 +180,7 @@ QRect RibbonKeyTips::badgeRect(const Tip& tip, const QWidget* parent) const
     const RibbonMetrics& metrics = RibbonMetrics::of(m_bar);
     QRect element = tip.widget->rect();
     if (tip.isTab)
-        element = bar->tabBar->tabRect(tip.page.data());
+        element = bar->tabBar->visibleTabRect(tip.page.data());
     if (element.isEmpty())
         return QRect();
     element.translate(tip.widget->mapToGlobal(QPoint(0, 0)) - parent->mapToGlobal(QPoint(0, 0)));

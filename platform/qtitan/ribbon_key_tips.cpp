@@ -87,6 +87,9 @@ void RibbonKeyTips::choose(const Tip& tip)
             return;
         RibbonKeyboard::enter(m_bar);
         bar->makeCurrent(tip.page);
+        // Whoever heard of the new page may have changed the ribbon and thereby ended the walk.
+        if (!isActive() || !tip.page)
+            return;
         bar->beginPeek();
         enter(Level::Page);
         return;

@@ -45,6 +45,8 @@ RibbonMetrics RibbonMetrics::compute(int fontHeight, int averageCharWidth, qreal
     m.groupPadding = m.px(3);
     m.groupTop = m.px(3);
     m.groupHeight = m.largeHeight + m.groupTitleHeight + m.groupTop;
+    m.maxTitleWidth = m.px(320);
+    m.maxButtonWidth = m.px(360);
     m.groupSpacing = m.px(2);
     m.columnSpacing = m.px(1);
     m.pageMargin = m.px(2);

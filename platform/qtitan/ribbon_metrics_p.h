@@ -42,6 +42,8 @@ struct OVK_TEST_EXPORT RibbonMetrics
     int groupPadding = 3;       ///< left and right of the buttons of a group
     int groupTop = 3;           ///< above the buttons of a group
     int groupHeight = 87;       ///< buttons, title strip and groupTop
+    int maxTitleWidth = 320;    ///< of a group's title; a longer one is elided
+    int maxButtonWidth = 360;   ///< of a button; a longer label is elided
     int groupSpacing = 2;       ///< between groups
     int columnSpacing = 1;      ///< between columns of a group
     int pageMargin = 2;         ///< left and right of the groups

@@ -36,9 +36,21 @@ RibbonOverflowButton::RibbonOverflowButton(RibbonQuickAccessBar* bar, QWidget* p
     setObjectName(QStringLiteral("quickAccessOverflow"));
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
+    retranslate();
+    connect(this, &QAbstractButton::clicked, this, &RibbonOverflowButton::openPopup);
+}
+
+void RibbonOverflowButton::retranslate()
+{
     setToolTip(tr("More controls"));
     setAccessibleName(tr("More controls"));
-    connect(this, &QAbstractButton::clicked, this, &RibbonOverflowButton::openPopup);
+}
+
+void RibbonOverflowButton::changeEvent(QEvent* event)
+{
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
 }
 
 QSize RibbonOverflowButton::sizeHint() const

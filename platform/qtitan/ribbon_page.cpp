@@ -95,7 +95,6 @@ void RibbonPage::removeGroup(RibbonGroup* group)
     if (!group || !d->groups.contains(group))
         return;
     d->detach(group);
-    group->hidePopup();
     group->hide();
     group->setParent(nullptr);
 }
@@ -239,12 +238,15 @@ void RibbonPagePrivate::groupChanged()
 
 void RibbonPagePrivate::groupGone(RibbonGroup* group)
 {
+    RibbonGroupPrivate::get(group)->stopKeyTips();
     groups.removeOne(group);
     groupChanged();
 }
 
 void RibbonPagePrivate::detach(RibbonGroup* group)
 {
+    group->hidePopup();
+    RibbonGroupPrivate::get(group)->stopKeyTips();
     groups.removeOne(group);
     RibbonGroupPrivate::get(group)->page = nullptr;
     groupChanged();
@@ -252,7 +254,15 @@ void RibbonPagePrivate::detach(RibbonGroup* group)
 
 void RibbonPagePrivate::invalidateAll()
 {
+    for (RibbonGroup* group : qAsConst(groups))
+        RibbonGroupPrivate::get(group)->invalidateAll();
     groupChanged();
+}
+
+void RibbonPagePrivate::hidePopups()
+{
+    for (RibbonGroup* group : qAsConst(groups))
+        group->hidePopup();
 }
 
 void RibbonPagePrivate::setTitlesVisible(bool visible)

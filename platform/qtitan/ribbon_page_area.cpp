@@ -22,8 +22,21 @@ RibbonScrollButton::RibbonScrollButton(bool forward, QWidget* parent)
     setAutoRepeat(true);
     setAutoRepeatDelay(250);
     setAutoRepeatInterval(60);
-    setAccessibleName(forward ? QCoreApplication::translate("Qtitan::RibbonBar", "Scroll forward")
-                              : QCoreApplication::translate("Qtitan::RibbonBar", "Scroll back"));
+    retranslate();
+}
+
+void RibbonScrollButton::retranslate()
+{
+    setAccessibleName(m_forward
+                          ? QCoreApplication::translate("Qtitan::RibbonBar", "Scroll forward")
+                          : QCoreApplication::translate("Qtitan::RibbonBar", "Scroll back"));
+}
+
+void RibbonScrollButton::changeEvent(QEvent* event)
+{
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
 }
 
 void RibbonScrollButton::paintEvent(QPaintEvent*)

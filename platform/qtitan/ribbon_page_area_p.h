@@ -20,9 +20,12 @@ public:
     RibbonScrollButton(bool forward, QWidget* parent);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void retranslate();
+
     bool m_forward;
 };
 

@@ -22,8 +22,10 @@ public:
     /// A group is being deleted.
     void groupGone(RibbonGroup* group);
     void detach(RibbonGroup* group);
-    /// Forgets all widths of the page and its groups: the font or the theme changed.
+    /// Forgets all widths of the page, its groups and their buttons: the screen changed.
     void invalidateAll();
+    /// Closes what the groups have opened.
+    void hidePopups();
 
     /// Chooses how each group is shown in the given width. Returns the width that this takes.
     int reduceTo(int width);

@@ -91,8 +91,9 @@ RibbonButtonLayout LargeLayout(const RibbonButtonOption& option)
         QRect arrow(rect.left(), second, rect.width(), metrics.height());
         if (layout.lines.size() > 1) {
             // Behind the second line's text.
-            const int width = metrics.horizontalAdvance(layout.lines[1]);
             const int space = Px(option, ArrowSpace);
+            const int width =
+                std::min(metrics.horizontalAdvance(layout.lines[1]), rect.width() - space);
             const int left = rect.left() + (rect.width() - width - space) / 2;
             arrow = QRect(left + width, second, space, metrics.height());
             arrow = Visual(option, rect, arrow);

@@ -217,7 +217,8 @@ void RibbonPainter::drawCollapsedGroup(QPainter& painter, const RibbonPaintOptio
     for (int i = 0; i < lines.size(); ++i) {
         QRect line(body.left() + 1, text_top + i * metrics.height(), body.width() - 2, metrics.height());
         if (i == 1) {
-            const int width = metrics.horizontalAdvance(lines[1]) + Px(option, 9);
+            const int width =
+                std::min(metrics.horizontalAdvance(lines[1]) + Px(option, 9), line.width());
             const QRect block(line.left() + (line.width() - width) / 2, line.top(), width, line.height());
             const QRect text = Visual(option, block, block.adjusted(0, 0, -Px(option, 9), 0));
             const QRect arrow = Visual(option, block, QRect(block.right() - Px(option, 9) + 1, block.top(),

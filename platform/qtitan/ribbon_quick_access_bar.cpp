@@ -91,12 +91,12 @@ bool RibbonQuickAccessBar::event(QEvent* event)
     const bool result = QToolBar::event(event);
     switch (event->type()) {
     case QEvent::StyleChange:
-    case QEvent::ParentChange: {
-        const int icon = RibbonMetrics::of(this).smallIcon;
-        if (iconSize().width() != icon)
-            setIconSize(QSize(icon, icon));
+    case QEvent::ParentChange:
+        d->fitIcons();
         break;
-    }
+    case QEvent::LanguageChange:
+        setWindowTitle(tr("Quick Access Bar"));
+        break;
     case QEvent::LayoutRequest:
         if (RibbonBar* bar = ribbonBarOf(this))
             QApplication::postEvent(bar, new QEvent(QEvent::LayoutRequest));
@@ -117,6 +117,13 @@ void RibbonQuickAccessBar::actionEvent(QActionEvent* event)
 void RibbonQuickAccessBar::paintEvent(QPaintEvent*)
 {
     // The ground is the bar's row.
+}
+
+void RibbonQuickAccessBarPrivate::fitIcons()
+{
+    const int icon = RibbonMetrics::of(q).smallIcon;
+    if (q->iconSize().width() != icon)
+        q->setIconSize(QSize(icon, icon));
 }
 
 QSize RibbonQuickAccessBarPrivate::fullSize() const

@@ -40,11 +40,14 @@ public:
     bool isPopupVisible() const;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void retranslate();
+
     RibbonQuickAccessBar* m_bar;
     QPointer<RibbonOverflowPopup> m_popup;
 };
@@ -84,6 +87,8 @@ public:
     /// Lays the bar out at its full width inside its clip.
     void placeIn(RibbonQuickAccessClip* clip, const QRect& rect);
     QSize fullSize() const;
+    /// Gives the icons the size of the resolution.
+    void fitIcons();
 
     RibbonQuickAccessBar* const q;
     RibbonQuickAccessClip* clip = nullptr;

@@ -61,6 +61,12 @@ void RibbonTabBar::invalidate()
     update();
 }
 
+void RibbonTabBar::measureAnew()
+{
+    m_advances.clear();
+    invalidate();
+}
+
 const std::vector<int>& RibbonTabBar::titleWidths() const
 {
     if (!m_measured) {
@@ -107,8 +113,9 @@ int RibbonTabBar::fullWidth() const
     const RibbonTabMetrics metrics = tabMetrics();
     const std::vector<int>& titles = titleWidths();
     const int count = static_cast<int>(titles.size());
-    return std::accumulate(titles.begin(), titles.end(), 0) + count * 2 * metrics.padding +
-           qMax(0, count - 1) * metrics.spacing;
+    const int width = std::accumulate(titles.begin(), titles.end(), 0) +
+                      count * 2 * metrics.padding + qMax(0, count - 1) * metrics.spacing;
+    return qMin(width, QWIDGETSIZE_MAX);
 }
 
 int RibbonTabBar::usableWidth() const
@@ -157,6 +164,11 @@ QRect RibbonTabBar::tabRect(int index) const
 QRect RibbonTabBar::tabRect(const RibbonPage* page) const
 {
     return tabRect(m_pages.indexOf(const_cast<RibbonPage*>(page)));
+}
+
+QRect RibbonTabBar::visibleTabRect(const RibbonPage* page) const
+{
+    return tabRect(page) & viewRect();
 }
 
 int RibbonTabBar::tabAt(const QPoint& position) const
@@ -274,8 +286,7 @@ void RibbonTabBar::changeEvent(QEvent* event)
     case QEvent::FontChange:
     case QEvent::StyleChange:
     case QEvent::LayoutDirectionChange:
-        m_advances.clear();
-        invalidate();
+        measureAnew();
         break;
     default:
         break;

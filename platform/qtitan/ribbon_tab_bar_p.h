@@ -27,11 +27,15 @@ public:
     void setPages(const QList<RibbonPage*>& pages);
     /// Titles changed; measures and lays out anew.
     void invalidate();
+    /// The font or the resolution changed: forgets what was measured.
+    void measureAnew();
 
     int currentIndex() const;
     /// Where a tab is drawn; empty for one that is scrolled away or unknown.
     QRect tabRect(int index) const;
     QRect tabRect(const RibbonPage* page) const;
+    /// The part of a tab that is between the scroll buttons.
+    QRect visibleTabRect(const RibbonPage* page) const;
     /// The tab at a position, -1 for none.
     int tabAt(const QPoint& position) const;
     const RibbonTabGeometry& geometryOfTabs() const;

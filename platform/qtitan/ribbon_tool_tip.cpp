@@ -168,6 +168,7 @@ void RibbonToolTip::placeAt(const QPoint& position)
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     const QRect room = screen->availableGeometry();
+    resize(size().boundedTo(room.size()));
     QPoint place = position;
     if (layoutDirection() == Qt::RightToLeft)
         place.rx() -= width();

@@ -86,6 +86,8 @@ private Q_SLOTS:
         QAction action(QStringLiteral("Run"));
         group.addAction(&action, Qt::ToolButtonTextBesideIcon);
         group.addAction(&action, Qt::ToolButtonTextUnderIcon);
+        QCOMPARE(group.actions().size(), 1);
+        QCOMPARE(group.buttonForAction(&action)->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
         QCOMPARE(CountButtons(&group), 1);
         QCOMPARE(group.styleForAction(&action), Qt::ToolButtonTextUnderIcon);
     }
@@ -96,6 +98,30 @@ private Q_SLOTS:
         QVERIFY(!group.addAction(nullptr, Qt::ToolButtonIconOnly));
         QVERIFY(!group.addWidget(nullptr));
         QVERIFY(!group.widgetForAction(nullptr));
+    }
+
+    void aButtonIsMadeWithAllThatWasSaidOfItBefore()
+    {
+        RibbonGroup group;
+        QMenu menu;
+        auto gone = std::make_unique<QMenu>();
+        QAction first(MakeIcon(), QStringLiteral("First"), nullptr);
+        QAction second(MakeIcon(), QStringLiteral("Second"), nullptr);
+        group.addAction(&first, Qt::ToolButtonTextUnderIcon, &menu, QToolButton::InstantPopup);
+        group.addAction(&second, Qt::ToolButtonTextUnderIcon, gone.get());
+        QCOMPARE(CountButtons(&group), 0);
+        group.setStyleForAction(&first, Qt::ToolButtonIconOnly);
+        QCOMPARE(group.styleForAction(&first), Qt::ToolButtonIconOnly);
+        QCOMPARE(CountButtons(&group), 0);
+        gone.reset();
+        QCOMPARE(group.buttonForAction(&first)->toolButtonStyle(), Qt::ToolButtonIconOnly);
+        QCOMPARE(group.buttonForAction(&first)->menu(), &menu);
+        QCOMPARE(group.buttonForAction(&first)->popupMode(), QToolButton::InstantPopup);
+        QCOMPARE(CountButtons(&group), 1);
+        QVERIFY(!ButtonOf(&group, &second)->hasMenu());
+        group.buttonForAction(&second)->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        QCOMPARE(group.styleForAction(&second), Qt::ToolButtonTextOnly);
+        QVERIFY(group.sizeHint().width() > 0);
     }
 
     void clickingRunsTheAction()
@@ -298,6 +324,7 @@ private Q_SLOTS:
         const int before = CountButtons(w.Group());
         auto action = std::make_unique<QAction>(QStringLiteral("Short"));
         w.Group()->addAction(action.get(), Qt::ToolButtonTextBesideIcon);
+        Window::Settle();
         QCOMPARE(CountButtons(w.Group()), before + 1);
         action.reset();
         QCOMPARE(CountButtons(w.Group()), before);
