@@ -37,12 +37,12 @@ lacks() {
 }
 
 holds libovk1 '/libovk\.so\.1'
-lacks libovk1 '\.h$|\.cmake$|/bin/|libovk\.so( |$)'
+lacks libovk1 '\.h$|\.cmake$|/bin/|/libovk\.so( |$)'
 dpkg-deb --field "$(only libovk1)" Depends | grep -q libqt5widgets5 || fail "the library's dependencies were not computed"
 holds libovk-dev '/include/ovk/ovk\.h'
 holds libovk-dev '/OvkConfig\.cmake'
 holds libovk-dev '/libovk\.so'
-lacks libovk-dev '_p\.h$|libovk\.so\.'
+lacks libovk-dev '_p\.h$|/libovk\.so\.'
 dpkg-deb --field "$(only libovk-dev)" Depends | grep -q 'libovk1 (= ' || fail "the development files go with any library"
 holds ovk-tools '/usr/bin/ovk-profile'
 if grep -q Designer "$build/CPackConfig.cmake"; then
