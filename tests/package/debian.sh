@@ -45,7 +45,7 @@ holds libovk-dev '/libovk\.so'
 lacks libovk-dev '_p\.h$|/libovk\.so\.'
 dpkg-deb --field "$(only libovk-dev)" Depends | grep -q 'libovk1 (= ' || fail "the development files go with any library"
 holds ovk-tools '/usr/bin/ovk-profile'
-if grep -q Designer "$build/CPackConfig.cmake"; then
+if grep -q 'COMPONENTS_ALL .*Designer' "$build/CPackConfig.cmake"; then
     holds ovk-designer-plugin '/designer/'
 fi
 
