@@ -7,6 +7,7 @@
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QWheelEvent>
 
 namespace ovk {
 
@@ -16,6 +17,7 @@ public:
     explicit Impl(CheckComboBox& owner) : PimplBasics<CheckComboBox>(owner) {}
 
     void Toggle(int row);
+    void ShowText();
     void Update();
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
@@ -32,14 +34,19 @@ void CheckComboBox::Impl::Toggle(int row)
                           Qt::CheckStateRole);
 }
 
-void CheckComboBox::Impl::Update()
+void CheckComboBox::Impl::ShowText()
 {
     const QStringList items = _pr().checkedItems();
     _pr().setEditText(items.isEmpty() ? m_default_text : items.join(m_separator));
     // A text that is too long is read from its beginning.
     if (_pr().lineEdit())
         _pr().lineEdit()->setCursorPosition(0);
-    Q_EMIT _pr().checkedItemsChanged(items);
+}
+
+void CheckComboBox::Impl::Update()
+{
+    ShowText();
+    Q_EMIT _pr().checkedItemsChanged(_pr().checkedItems());
 }
 
 bool CheckComboBox::Impl::eventFilter(QObject* receiver, QEvent* event)
@@ -59,9 +66,7 @@ bool CheckComboBox::Impl::eventFilter(QObject* receiver, QEvent* event)
             _pr().QComboBox::hidePopup();
         if (key == Qt::Key_Return || key == Qt::Key_Enter)
             return true;
-        if (key == Qt::Key_Escape)
-            break;
-        return false;
+        break;
     }
     case QEvent::MouseButtonPress:
         break;
@@ -80,6 +85,8 @@ CheckComboBox::CheckComboBox(QWidget* parent)
     setModel(model);
     Impl* const impl = mp_impl.get();
     connect(this, QOverload<int>::of(&QComboBox::activated), impl, &Impl::Toggle);
+    // The base writes the text of the current row, whichever rows are checked.
+    connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), impl, &Impl::ShowText);
     connect(model, &CheckComboModel::checkStateChanged, impl, &Impl::Update);
     connect(model, &QAbstractItemModel::rowsInserted, impl, &Impl::Update);
     connect(model, &QAbstractItemModel::rowsRemoved, impl, &Impl::Update);
@@ -161,6 +168,12 @@ void CheckComboBox::setCheckedItems(const QStringList& items)
         const int row = findText(text, Qt::MatchCaseSensitive);
         setItemCheckState(row, row >= 0 ? Qt::Checked : Qt::Unchecked);
     }
+}
+
+void CheckComboBox::wheelEvent(QWheelEvent* event)
+{
+    // To the base a turn over the closed box activates the next row, which would check it.
+    event->ignore();
 }
 
 void CheckComboBox::hidePopup()

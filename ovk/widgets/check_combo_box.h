@@ -51,6 +51,10 @@ public Q_SLOTS:
     /// no row has are ignored.
     void setCheckedItems(const QStringList& items);
 
+protected:
+    /// Is left to whatever scrolls the box.
+    void wheelEvent(QWheelEvent* event) override;
+
 Q_SIGNALS:
     /// A row was checked, unchecked, inserted or removed, or the form of the text changed.
     void checkedItemsChanged(const QStringList& items);

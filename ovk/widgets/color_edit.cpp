@@ -1,8 +1,12 @@
 #include "ovk/widgets/color_edit.h"
 
+#include "color_text_p.h"
+#include "widget_accessibility_p.h"
+
 #include "ovk/widgets/dlg_select_color.h"
 #include "ovk/widgets/gallery_item_color.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QFontMetrics>
 #include <QPainter>
@@ -40,6 +44,7 @@ ColorEdit::ColorEdit(QWidget* parent)
     : QToolButton(parent), mp_gallery_group(std::make_unique<Qtitan::RibbonGalleryGroup>()),
       mp_gallery(std::make_unique<Qtitan::RibbonGallery>())
 {
+    InstallWidgetAccessibility();
     const int margin = style()->pixelMetric(QStyle::PM_ButtonMargin, nullptr, this) / 2;
     m_margins = QMargins(margin, margin, margin, margin);
     _createPopup();
@@ -206,6 +211,10 @@ void ColorEdit::setColor(const QColor& color)
         return;
     m_color = color;
     update();
+#ifndef QT_NO_ACCESSIBILITY
+    QAccessibleValueChangeEvent event(this, ColorText(m_color));
+    QAccessible::updateAccessibility(&event);
+#endif
     Q_EMIT colorChanged(m_color);
 }
 

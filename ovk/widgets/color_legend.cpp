@@ -1,10 +1,17 @@
 #include "ovk/widgets/color_legend.h"
 
+#include "color_text_p.h"
+#include "legend_reading_p.h"
+
+#include <QAccessible>
 #include <QApplication>
 #include <QFontMetrics>
-#include <QMouseEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
 
 namespace ovk {
 
@@ -20,6 +27,7 @@ QString LabelText(double value)
 ColorLegend::ColorLegend(QWidget* parent) : ColorMap(parent)
 {
     setMouseTracking(true);
+    setFocusPolicy(Qt::TabFocus);
     installEventFilter(this);
     SetColorsAndLabels({{0.0, Qt::white}, {0.5, Qt::red}, {1.0, Qt::black}});
     SetDrawMarks(false);
@@ -39,8 +47,8 @@ void ColorLegend::SetColorsAndLabels(const std::map<double, QColor>& colorsAndLa
     for (const auto& entry : m_colors_and_labels)
         colors.push_back(entry.second);
     setColors(colors);
-    const double first = m_colors_and_labels.begin()->first;
-    const double last = m_colors_and_labels.rbegin()->first;
+    const double first = GetFirstValue();
+    const double last = GetLastValue();
     // A single entry divides 0 by 0: the step is then no number, and there are no marks.
     const double step = (last - first) / (static_cast<double>(m_colors_and_labels.size()) - 1.0);
     setRange(static_cast<float>(first), static_cast<float>(last), static_cast<float>(step));
@@ -71,8 +79,8 @@ void ColorLegend::_SetColorSize(int size)
 QSize ColorLegend::_EstimateLabelsSize() const
 {
     const QFontMetrics metrics(QApplication::font());
-    const QRect first = metrics.boundingRect(LabelText(m_colors_and_labels.begin()->first));
-    const QRect last = metrics.boundingRect(LabelText(m_colors_and_labels.rbegin()->first));
+    const QRect first = metrics.boundingRect(LabelText(GetFirstValue()));
+    const QRect last = metrics.boundingRect(LabelText(GetLastValue()));
     return first.size().expandedTo(last.size());
 }
 
@@ -103,8 +111,8 @@ void ColorLegend::_DrawLabels(const QSize& size)
     m_labels_image.setDevicePixelRatio(ratio);
     m_labels_image.fill(Qt::transparent);
 
-    const QString first = LabelText(m_colors_and_labels.begin()->first);
-    const QString last = LabelText(m_colors_and_labels.rbegin()->first);
+    const QString first = LabelText(GetFirstValue());
+    const QString last = LabelText(GetLastValue());
     const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     const QRect rect(QPoint(0, 0), size);
     QPainter painter(&m_labels_image);
@@ -121,8 +129,8 @@ void ColorLegend::_DrawLabels(const QSize& size)
 
 double ColorLegend::_GetCurrentValue(const QPointF& position) const
 {
-    const double first = m_colors_and_labels.begin()->first;
-    const double last = m_colors_and_labels.rbegin()->first;
+    const double first = GetFirstValue();
+    const double last = GetLastValue();
     const double range = last - first;
     if (m_orientation == Vertical)
         return last - position.y() / (height() - 1) * range;
@@ -141,6 +149,105 @@ void ColorLegend::paintEvent(QPaintEvent*)
         painter.drawImage(0, m_offset + m_image.height(), m_labels_image);
         setMinimumHeight(labels.height() + m_offset + m_image.height());
     }
+    if (m_reading_shown && hasFocus())
+        _PaintReading(painter);
+}
+
+/// Seen on any colour: a light line between dark ones, and the frame of the focus.
+void ColorLegend::_PaintReading(QPainter& painter) const
+{
+    const QRect colors(QPoint(0, 0), m_image.size());
+    const QPoint at = _ReadingPoint();
+    QRect line = m_orientation == Vertical ? QRect(0, at.y(), colors.width(), 1)
+                                           : QRect(at.x(), 0, 1, colors.height());
+    QRect edges = m_orientation == Vertical ? line.adjusted(0, -1, 0, 1) : line.adjusted(-1, 0, 1, 0);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(colors.adjusted(0, 0, -1, -1));
+    painter.fillRect(edges & colors, Qt::black);
+    painter.fillRect(line & colors, Qt::white);
+}
+
+double ColorLegend::GetFirstValue() const
+{
+    return m_colors_and_labels.begin()->first;
+}
+
+double ColorLegend::GetLastValue() const
+{
+    return m_colors_and_labels.rbegin()->first;
+}
+
+double ColorLegend::GetReadingValue() const
+{
+    return GetFirstValue() + m_reading * (GetLastValue() - GetFirstValue());
+}
+
+void ColorLegend::SetReadingValue(double value)
+{
+    const double range = GetLastValue() - GetFirstValue();
+    const double reading = range > 0.0 ? (value - GetFirstValue()) / range : 0.0;
+    if (!std::isnan(reading))
+        _MoveReading(std::clamp(reading, 0.0, 1.0));
+}
+
+double ColorLegend::GetReadingStep() const
+{
+    return (GetLastValue() - GetFirstValue()) * g_reading_step;
+}
+
+QString ColorLegend::GetReadingText() const
+{
+    const QString value = LabelText(GetReadingValue());
+    const QPoint at = _ReadingPoint();
+    if (!m_image.valid(at))
+        return value;
+    return value + QLatin1String(", ") + ColorText(m_image.pixelColor(at));
+}
+
+QPoint ColorLegend::_ReadingPoint() const
+{
+    if (m_orientation == Vertical)
+        return QPoint(m_image.width() / 2, qRound((1.0 - m_reading) * (m_image.height() - 1)));
+    return QPoint(qRound(m_reading * (m_image.width() - 1)), m_image.height() / 2);
+}
+
+void ColorLegend::_MoveReading(double reading)
+{
+    m_reading = reading;
+    update();
+    if (m_reading_shown && hasFocus())
+        QToolTip::showText(mapToGlobal(_ReadingPoint()), LabelText(GetReadingValue()), this);
+#ifndef QT_NO_ACCESSIBILITY
+    QAccessibleValueChangeEvent event(this, GetReadingValue());
+    QAccessible::updateAccessibility(&event);
+#endif
+}
+
+void ColorLegend::keyPressEvent(QKeyEvent* event)
+{
+    const auto entries = static_cast<int>(m_colors_and_labels.size());
+    const std::optional<double> reading = MovedReading(m_reading, event->key(), entries);
+    if (!reading) {
+        ColorMap::keyPressEvent(event);
+        return;
+    }
+    m_reading_shown = true;
+    _MoveReading(*reading);
+}
+
+void ColorLegend::focusInEvent(QFocusEvent* event)
+{
+    ColorMap::focusInEvent(event);
+    // A pointer needs no mark: it reads where it is.
+    m_reading_shown = event->reason() != Qt::MouseFocusReason;
+    _MoveReading(m_reading);
+}
+
+void ColorLegend::focusOutEvent(QFocusEvent* event)
+{
+    ColorMap::focusOutEvent(event);
+    m_reading_shown = false;
+    QToolTip::hideText();
 }
 
 bool ColorLegend::eventFilter(QObject* object, QEvent* event)

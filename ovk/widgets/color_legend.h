@@ -28,6 +28,21 @@ public:
     /// The thickness of the colours, in pixels.
     int GetColorSize() const;
 
+    /// The smallest value.
+    double GetFirstValue() const;
+    /// The largest value.
+    double GetLastValue() const;
+    /// The value at which the legend is read from the keyboard; the first one at the start. It is
+    /// moved by the arrows, the page keys, Home and End, and shown while the legend has the focus.
+    double GetReadingValue() const;
+    /// Reads the legend at another value, at the nearest one that it has; one that is no number is
+    /// ignored.
+    void SetReadingValue(double value);
+    /// The amount by which an arrow key moves the reading.
+    double GetReadingStep() const;
+    /// The value at which the legend is read, and its colour in words.
+    QString GetReadingText() const;
+
     bool eventFilter(QObject* object, QEvent* event) override;
 
 protected:
@@ -45,11 +60,23 @@ protected:
 
     void _redraw(const QSize& size) override;
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
     int m_offset = 2;
     int m_color_size = 8;
     std::map<double, QColor> m_colors_and_labels;
     QImage m_labels_image;
+
+private:
+    QPoint _ReadingPoint() const;
+    void _MoveReading(double reading);
+    void _PaintReading(QPainter& painter) const;
+
+    /// A fraction of the length: 0 for the first value, 1 for the last.
+    double m_reading = 0.0;
+    bool m_reading_shown = false;
 };
 
 } // namespace ovk

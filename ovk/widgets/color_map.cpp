@@ -1,6 +1,7 @@
 #include "ovk/widgets/color_map.h"
 
 #include "color_marks_p.h"
+#include "widget_accessibility_p.h"
 
 #include <QEvent>
 #include <QLinearGradient>
@@ -18,7 +19,10 @@ constexpr int g_light_sum = 401;
 
 } // namespace
 
-ColorMap::ColorMap(QWidget* parent) : QWidget(parent), m_colors{Qt::gray, Qt::white} {}
+ColorMap::ColorMap(QWidget* parent) : QWidget(parent), m_colors{Qt::gray, Qt::white}
+{
+    InstallWidgetAccessibility();
+}
 
 ColorMap::~ColorMap() = default;
 

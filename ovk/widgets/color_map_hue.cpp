@@ -44,8 +44,8 @@ void ColorMapHue::_renderColors(QImage& image)
         const int saturation = m_interpolate_ls ? static_cast<int>(i * ds + s1) : g_full_saturation;
         const int lightness = m_interpolate_ls ? static_cast<int>(i * dl + l1) : g_middle_lightness;
         const QRgb color = QColor::fromHsl(hue, saturation, lightness, 255).rgb();
-        for (int x = 0; x < image.width(); ++x)
-            image.setPixel(x, height - 1 - i, color);
+        auto* const row = reinterpret_cast<QRgb*>(image.scanLine(height - 1 - i));
+        std::fill_n(row, image.width(), color);
     }
 }
 

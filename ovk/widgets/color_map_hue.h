@@ -9,6 +9,7 @@ namespace ovk {
 class OVK_EXPORT ColorMapHue : public ColorMap
 {
     Q_OBJECT
+    Q_PROPERTY(bool interpolateLS MEMBER m_interpolate_ls WRITE setInterpolateLS)
 
 public:
     /// Shows the whole spectrum.

@@ -64,6 +64,13 @@ void ColorMapHueWithLabels::_DrawLabels(const QSize& size)
 {
     const int width = _GetLabelsImageSize().width();
     ColorMapLabels::_DrawLabels(size);
+    if (!m_labels_image.isNull()) {
+        const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+        QPainter painter(&m_labels_image);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(QRect(QPoint(0, 0), _GetLabelsImageSize()),
+                         palette().color(group, QPalette::WindowText));
+    }
     // Labels that became wider or narrower, as the units changed, take the room from the scale.
     if (!m_redrawing && _GetLabelsImageSize().width() != width)
         _redraw(this->size());

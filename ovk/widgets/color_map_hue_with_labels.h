@@ -9,6 +9,7 @@ namespace ovk {
 class OVK_EXPORT ColorMapHueWithLabels : public ColorMapHue, public ColorMapLabels
 {
     Q_OBJECT
+    Q_PROPERTY(bool showUserUnits MEMBER m_show_user_units WRITE ShowUserUnits)
 
 public:
     /// The range is 1 to 10 in steps of 1.

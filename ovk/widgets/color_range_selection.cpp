@@ -1,5 +1,7 @@
 #include "ovk/widgets/color_range_selection.h"
 
+#include "widget_accessibility_p.h"
+
 #include "ovk/widgets/color_edit.h"
 #include "ovk/widgets/color_map_hue.h"
 
@@ -23,6 +25,7 @@ constexpr QSize g_least_scale_size(20, 100);
 ColorRangeSelection::ColorRangeSelection(QWidget* parent)
     : QWidget(parent), mp_start_edit(new ColorEdit(this)), mp_end_edit(new ColorEdit(this))
 {
+    InstallWidgetAccessibility();
     setWindowTitle(Translated(QT_TRANSLATE_NOOP("ColorRangeSelection", "Color Range")));
 
     auto* const scale = new ColorMapHue(this);
@@ -47,6 +50,10 @@ ColorRangeSelection::ColorRangeSelection(QWidget* parent)
                     2);
     layout->addWidget(mp_start_edit, 2, 1);
     layout->addWidget(startLabel, 2, 2);
+
+    // What an edit is for is told to those who cannot see it beside its label.
+    endLabel->setBuddy(mp_end_edit);
+    startLabel->setBuddy(mp_start_edit);
 
     connect(mp_start_edit, &ColorEdit::colorChanged, scale, &ColorMap::setStartColor);
     connect(mp_end_edit, &ColorEdit::colorChanged, scale, &ColorMap::setEndColor);

@@ -1,9 +1,12 @@
 #include "ovk/widgets/expander_button.h"
 
+#include "widget_accessibility_p.h"
+
 namespace ovk {
 
 ExpanderButton::ExpanderButton(const QString& text, QWidget* parent) : QToolButton(parent)
 {
+    InstallWidgetAccessibility();
     setAutoRaise(true);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setCheckable(true);

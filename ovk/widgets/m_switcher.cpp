@@ -1,8 +1,12 @@
 #include "ovk/widgets/m_switcher.h"
 
+#include "widget_accessibility_p.h"
+
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyleOptionFocusRect>
 
 namespace ovk {
 
@@ -27,6 +31,7 @@ MSwitcher::MSwitcher(QWidget* parent) : MSwitcher(QColor(g_track_color), parent)
 MSwitcher::MSwitcher(const QColor& trackColor, QWidget* parent)
     : QAbstractButton(parent), m_thumb_brush(QColor(g_thumb_off_color)), m_track_color(trackColor)
 {
+    InstallWidgetAccessibility();
     connect(&m_timer, &QTimer::timeout, this, &MSwitcher::timercall);
 }
 
@@ -43,6 +48,7 @@ void MSwitcher::setToggle(bool toggle)
         return;
     m_toggled = toggle;
     _MoveThumb();
+    _TellState();
 }
 
 bool MSwitcher::isDisable() const
@@ -87,9 +93,50 @@ void MSwitcher::mouseReleaseEvent(QMouseEvent* event)
         return;
     }
     event->accept();
+    _Switch();
+}
+
+void MSwitcher::_Switch()
+{
     m_toggled = !m_toggled;
     Q_EMIT toggled();
     _MoveThumb();
+    _TellState();
+}
+
+void MSwitcher::_TellState()
+{
+#ifndef QT_NO_ACCESSIBILITY
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+#endif
+}
+
+void MSwitcher::nextCheckState()
+{
+    if (!m_disabled)
+        _Switch();
+}
+
+void MSwitcher::keyPressEvent(QKeyEvent* event)
+{
+    // Not that of the base: its click has a signal that the mouse does not give.
+    if (event->key() != Qt::Key_Space && event->key() != Qt::Key_Select)
+        QAbstractButton::keyPressEvent(event);
+    else if (!m_disabled && !event->isAutoRepeat())
+        setDown(true);
+}
+
+void MSwitcher::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space && event->key() != Qt::Key_Select) {
+        QAbstractButton::keyReleaseEvent(event);
+    } else if (isDown() && !event->isAutoRepeat()) {
+        setDown(false);
+        _Switch();
+    }
 }
 
 void MSwitcher::enterEvent(QEvent*)
@@ -126,7 +173,8 @@ void MSwitcher::paintEvent(QPaintEvent*)
     QPainterPath track;
     track.addRoundedRect(QRectF(rect()).adjusted(m_margin, m_margin, -m_margin, -m_margin),
                          m_corner_radius, m_corner_radius, Qt::AbsoluteSize);
-    if (m_disabled) {
+    const bool disabled = m_disabled || !isEnabled();
+    if (disabled) {
         painter.setBrush(QColor(g_track_off_color));
         painter.setOpacity(g_track_disabled_opacity);
     } else {
@@ -136,9 +184,16 @@ void MSwitcher::paintEvent(QPaintEvent*)
     painter.drawPath(track.simplified());
 
     painter.setOpacity(1.0);
-    painter.setBrush(m_disabled ? QBrush(QColor(g_thumb_disabled_color)) : m_thumb_brush);
+    painter.setBrush(disabled ? QBrush(QColor(g_thumb_disabled_color)) : m_thumb_brush);
     painter.drawEllipse(
         QRectF(m_thumb_x - m_height / 2, m_thumb_y - m_height / 2, height(), height()));
+
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        option.backgroundColor = palette().color(QPalette::Window);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    }
 }
 
 } // namespace ovk

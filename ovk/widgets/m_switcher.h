@@ -9,10 +9,13 @@
 
 namespace ovk {
 
-/// A switch: a track on which a thumb moves to the right while it is on.
+/// A switch: a track on which a thumb moves to the right while it is on. To accessibility clients it
+/// is a check box.
 class OVK_EXPORT MSwitcher : public QAbstractButton
 {
     Q_OBJECT
+    Q_PROPERTY(bool toggle READ isToggled WRITE setToggle)
+    Q_PROPERTY(bool disable READ isDisable WRITE setDisable)
 
 public:
     /// Off, with a blue track.
@@ -34,6 +37,10 @@ public:
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 
+public Q_SLOTS:
+    /// Moves the thumb by a pixel; called by the timer of the movement.
+    void timercall();
+
 Q_SIGNALS:
     /// The user switched it.
     void toggled();
@@ -44,12 +51,16 @@ protected:
     void enterEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-
-private Q_SLOTS:
-    void timercall();
+    /// Space switches, as a release of the left button does.
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    /// click() switches too.
+    void nextCheckState() override;
 
 private:
+    void _Switch();
     void _MoveThumb();
+    void _TellState();
 
     bool m_disabled = false;
     bool m_toggled = false;

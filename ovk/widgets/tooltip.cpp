@@ -1,5 +1,7 @@
 #include "ovk/widgets/tooltip.h"
 
+#include "widget_accessibility_p.h"
+
 #include <QBuffer>
 #include <QCursor>
 #include <QEvent>
@@ -16,6 +18,7 @@ constexpr int g_quality = 100;
 
 Tooltip::Tooltip(QWidget* parent, Qt::WindowFlags flags) : QLabel(parent, flags)
 {
+    InstallWidgetAccessibility();
     installEventFilter(this);
 }
 

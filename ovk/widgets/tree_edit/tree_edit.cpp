@@ -65,6 +65,13 @@ void TreeEdit::CreateEditors()
     });
 }
 
+void TreeEdit::reset()
+{
+    QTreeView::reset();
+    if (m_editors_created)
+        CreateEditors();
+}
+
 void TreeEdit::rowsInserted(const QModelIndex& parent, int start, int end)
 {
     QTreeView::rowsInserted(parent, start, end);

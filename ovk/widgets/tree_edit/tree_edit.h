@@ -34,6 +34,9 @@ public:
     /// Goes to the first row that can be edited and edits it.
     void SetFirstActive();
 
+    /// Lets go of all editors, and opens them anew if they were open.
+    void reset() override;
+
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     bool event(QEvent* event) override;

@@ -5,6 +5,7 @@
 
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <memory>
 
 namespace ovk {
@@ -25,50 +26,72 @@ TreeEditItemBase::TreeEditItemBase(const QString& title, const QString& hint,
 
 TreeEditItemBase::~TreeEditItemBase()
 {
+    TreeEditItemBase* const parent = _GetParent();
+    // A view must let go of the row. Rows below one that goes need no word of their own.
+    const bool announced = parent && !parent->m_dying && m_visible && parent->_IsShownByModel();
+    if (announced) {
+        const int row = ITreeItem::GetIndexOf();
+        mp_model->beginRemoveRows(mp_model->_IndexOf(*parent), row, row);
+    }
+    m_dying = true;
     // The base does both by positions, among which hidden items would be missed.
     while (TreeItem<TreeEditItemBase>::GetChildCount() > 0)
         delete GetChildUnsafe(0);
-    if (TreeEditItemBase* const parent = _GetParent()) {
+    if (parent) {
         parent->_TakeFromList(parent->TreeItem<TreeEditItemBase>::GetIndexOf(this));
         SetParent(nullptr);
     }
+    if (announced)
+        mp_model->endRemoveRows();
+}
+
+const std::vector<TreeEditItemBase*>& TreeEditItemBase::_Shown() const
+{
+    if (m_shown_known)
+        return m_shown;
+    m_shown.clear();
+    for (int i = 0; i < TreeItem<TreeEditItemBase>::GetChildCount(); ++i) {
+        const TreeEditItemBase* const child = GetChildUnsafe(i);
+        if (!child->m_visible)
+            continue;
+        child->m_shown_position = static_cast<int>(m_shown.size());
+        m_shown.push_back(const_cast<TreeEditItemBase*>(child));
+    }
+    m_shown_known = true;
+    return m_shown;
 }
 
 int TreeEditItemBase::GetChildCount() const
 {
-    const int all = TreeItem<TreeEditItemBase>::GetChildCount();
-    if (m_counts_hidden)
-        return all;
-    int count = 0;
-    for (int i = 0; i < all; ++i)
-        count += GetChildUnsafe(i)->m_visible ? 1 : 0;
-    return count;
+    return m_counts_hidden ? TreeItem<TreeEditItemBase>::GetChildCount()
+                           : static_cast<int>(_Shown().size());
 }
 
 const ITreeItem* TreeEditItemBase::GetChild(int index) const
 {
-    const int position = index >= 0 ? _ListPosition(index) : -1;
-    return TreeItem<TreeEditItemBase>::GetChild(position);
+    const std::vector<TreeEditItemBase*>& shown = _Shown();
+    return index >= 0 && index < static_cast<int>(shown.size())
+               ? shown[static_cast<std::size_t>(index)]
+               : nullptr;
 }
 
 int TreeEditItemBase::GetIndexOf(ITreeItem* child) const
 {
-    int index = -1;
-    for (int i = 0; i < TreeItem<TreeEditItemBase>::GetChildCount(); ++i) {
-        const TreeEditItemBase* const own = GetChildUnsafe(i);
-        if (!own->m_visible)
-            continue;
-        ++index;
-        if (own == child)
-            break;
-    }
-    return index;
+    const std::vector<TreeEditItemBase*>& shown = _Shown();
+    const int last = static_cast<int>(shown.size()) - 1;
+    if (!child || child->GetParent() != this)
+        return last;
+    const int known = static_cast<const TreeEditItemBase*>(child)->m_shown_position;
+    return known >= 0 && known <= last && shown[static_cast<std::size_t>(known)] == child ? known
+                                                                                         : last;
 }
 
 /// The position in the list of all children; behind the last one if there is no such visible child.
 int TreeEditItemBase::_ListPosition(int visibleIndex) const
 {
     const int all = TreeItem<TreeEditItemBase>::GetChildCount();
+    if (visibleIndex >= static_cast<int>(_Shown().size()))
+        return all;
     for (int i = 0; i < all; ++i) {
         if (GetChildUnsafe(i)->m_visible && visibleIndex-- == 0)
             return i;
@@ -78,18 +101,44 @@ int TreeEditItemBase::_ListPosition(int visibleIndex) const
 
 TreeEditItemBase* TreeEditItemBase::_TakeFromList(int position)
 {
+    m_shown_known = false;
     const QScopedValueRollback<bool> counting(m_counts_hidden, true);
     return static_cast<TreeEditItemBase*>(TreeItem<TreeEditItemBase>::_RemoveChild(position));
 }
 
 void TreeEditItemBase::_InsertChild(int index, ITreeItem* child)
 {
-    TreeItem<TreeEditItemBase>::_InsertChild(_ListPosition(index), child);
+    auto* const item = static_cast<TreeEditItemBase*>(child);
+    const int row = std::min(index, static_cast<int>(_Shown().size()));
+    const bool announced = item->m_visible && _IsShownByModel();
+    if (announced)
+        mp_model->beginInsertRows(mp_model->_IndexOf(*this), row, row);
+    const int position = _ListPosition(index);
+    // The usual way to build a form is row by row, which must not take longer with each row.
+    if (item->m_visible && position == TreeItem<TreeEditItemBase>::GetChildCount()) {
+        item->m_shown_position = static_cast<int>(m_shown.size());
+        m_shown.push_back(item);
+    } else {
+        m_shown_known = false;
+    }
+    TreeItem<TreeEditItemBase>::_InsertChild(position, child);
+    // The caller does the same, too late for those who hear of the row.
+    child->SetParent(this);
+    if (announced)
+        mp_model->endInsertRows();
 }
 
 ITreeItem* TreeEditItemBase::_RemoveChild(int index)
 {
-    return IsValidIndex(index) ? _TakeFromList(_ListPosition(index)) : nullptr;
+    if (!IsValidIndex(index))
+        return nullptr;
+    const bool announced = _IsShownByModel();
+    if (announced)
+        mp_model->beginRemoveRows(mp_model->_IndexOf(*this), index, index);
+    ITreeItem* const child = _TakeFromList(_ListPosition(index));
+    if (announced)
+        mp_model->endRemoveRows();
+    return child;
 }
 
 QVariant TreeEditItemBase::GetData() const
@@ -120,6 +169,8 @@ const QString& TreeEditItemBase::GetTitle() const
 void TreeEditItemBase::SetTitle(const QString& title)
 {
     m_title = title;
+    if (mp_editor)
+        mp_editor->setAccessibleName(title);
     Updated();
 }
 
@@ -136,8 +187,15 @@ void TreeEditItemBase::SetHint(const QString& hint)
 void TreeEditItemBase::SetEditor(QWidget* editor)
 {
     mp_editor = editor;
-    if (editor && !m_enabled)
+    if (!editor)
+        return;
+    if (!m_enabled)
         editor->setEnabled(false);
+    // To those who cannot see it beside its title.
+    if (editor->accessibleName().isEmpty())
+        editor->setAccessibleName(m_title);
+    if (editor->accessibleDescription().isEmpty())
+        editor->setAccessibleDescription(m_hint);
 }
 
 QWidget* TreeEditItemBase::GetEditor() const
@@ -168,6 +226,13 @@ bool TreeEditItemBase::IsVisible() const
     return m_visible;
 }
 
+void TreeEditItemBase::_StoreVisible(bool visible)
+{
+    m_visible = visible;
+    if (TreeEditItemBase* const parent = _GetParent())
+        parent->m_shown_known = false;
+}
+
 void TreeEditItemBase::SetVisible(bool visible)
 {
     if (m_visible == visible)
@@ -175,20 +240,20 @@ void TreeEditItemBase::SetVisible(bool visible)
     const TreeEditItemBase* const parent = _GetParent();
     // Below a hidden row the model has no rows to tell of.
     if (!parent || !parent->_IsShownByModel()) {
-        m_visible = visible;
+        _StoreVisible(visible);
         return;
     }
     if (visible) {
-        m_visible = true;
+        _StoreVisible(true);
         const int row = ITreeItem::GetIndexOf();
-        m_visible = false;
+        _StoreVisible(false);
         mp_model->beginInsertRows(mp_model->_IndexOf(*parent), row, row);
-        m_visible = true;
+        _StoreVisible(true);
         mp_model->endInsertRows();
     } else {
         const int row = ITreeItem::GetIndexOf();
         mp_model->beginRemoveRows(mp_model->_IndexOf(*parent), row, row);
-        m_visible = false;
+        _StoreVisible(false);
         mp_model->endRemoveRows();
     }
 }
@@ -217,7 +282,7 @@ TreeEditItem* TreeEditItemBase::AddItem(const QString& title, TreeItemDelegateWr
 {
     auto item = std::make_unique<TreeEditItem>(title, std::move(delegate), *mp_model);
     TreeEditItem* const added = item.get();
-    _AppendAnnounced(item.release());
+    AppendChild(item.release());
     return added;
 }
 
@@ -225,20 +290,8 @@ TreeEditSectionItem* TreeEditItemBase::AddSection(const QString& title, const QS
 {
     auto item = std::make_unique<TreeEditSectionItem>(title, hint, *mp_model);
     TreeEditSectionItem* const added = item.get();
-    _AppendAnnounced(item.release());
+    AppendChild(item.release());
     return added;
-}
-
-void TreeEditItemBase::_AppendAnnounced(TreeEditItemBase* item)
-{
-    if (!_IsShownByModel()) {
-        AppendChild(item);
-        return;
-    }
-    const int row = GetChildCount();
-    mp_model->beginInsertRows(mp_model->_IndexOf(*this), row, row);
-    AppendChild(item);
-    mp_model->endInsertRows();
 }
 
 TreeItemDelegateBase* TreeEditItemBase::_GetDelegate() const

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <vector>
+
 namespace ovk {
 
 class IItemDataProvider;
@@ -14,7 +16,8 @@ class SettingsItemsModel;
 class TreeEditItem;
 class TreeEditSectionItem;
 
-/// A row of a TreeEdit. To the tree and its positions only visible rows count.
+/// A row of a TreeEdit. To the tree and its positions only visible rows count. Rows may come and go
+/// at any time: the view hears of each that is inserted, removed or deleted.
 class OVK_EXPORT TreeEditItemBase : public TreeItem<TreeEditItemBase>
 {
 public:
@@ -90,10 +93,11 @@ private:
     friend class SettingsItemsModel;
     friend class TreeItemDelegate;
 
+    const std::vector<TreeEditItemBase*>& _Shown() const;
     int _ListPosition(int visibleIndex) const;
     TreeEditItemBase* _TakeFromList(int position);
+    void _StoreVisible(bool visible);
     bool _IsShownByModel() const;
-    void _AppendAnnounced(TreeEditItemBase* item);
 
     QString m_title;
     QString m_hint;
@@ -104,6 +108,13 @@ private:
     QPointer<QWidget> mp_editor;
     /// While it is set, hidden children count too.
     bool m_counts_hidden = false;
+    /// It is being deleted, with all below it.
+    bool m_dying = false;
+    /// The visible children in order, made anew on demand: views ask for positions all the time.
+    mutable std::vector<TreeEditItemBase*> m_shown;
+    mutable bool m_shown_known = false;
+    /// The place among those of the parent; means nothing unless it is verified there.
+    mutable int m_shown_position = -1;
 };
 
 /// A row with a value.
