@@ -86,10 +86,13 @@ void DockDragController::End(const QPoint& pos)
         return;
     const DockCallbackScope scope(mp_manager);
     const QPointer<DockDragController> guard(this);
-    if (IDockDragTarget* const target = FindTarget(pos))
+    IDockDragTarget* const target = FindTarget(pos);
+    m_dropping = true;
+    if (target)
         target->OnDragDrop(*mp_widget, pos);
     if (!guard)
         return;
+    m_dropping = false;
     Reset();
     ClearPreviews();
 }
@@ -185,9 +188,13 @@ IDockDragTarget* DockDragController::FindTarget(const QPoint& pos) const
 
 bool DockDragController::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == mp_widget &&
-        (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::WindowBlocked))
-        Cancel();
+    if (watched == mp_widget) {
+        const QEvent::Type type = event->type();
+        // Closed by its owner, its last page gone, or away with all floating panels.
+        const bool gone = type == QEvent::Hide && !event->spontaneous() && !m_dropping;
+        if (gone || type == QEvent::WindowDeactivate || type == QEvent::WindowBlocked)
+            Cancel();
+    }
     return QObject::eventFilter(watched, event);
 }
 

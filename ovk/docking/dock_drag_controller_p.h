@@ -18,7 +18,8 @@ class DockWidget;
 class IDockDragTarget;
 
 /// Drives the drag of a panel: finds what lies under the cursor and calls the targets in their
-/// fixed order. Idle while there is no dragged panel.
+/// fixed order. Idle while there is no dragged panel; while it drops, the panel may hide on its way
+/// into its new place, else a panel that hides has ended its drag.
 class OVK_TEST_EXPORT DockDragController : public QObject
 {
     Q_OBJECT
@@ -64,6 +65,7 @@ private:
     QPointer<DockWidget> mp_widget;
     IDockDragTarget* mp_current = nullptr;
     WidgetAt m_widget_at;
+    bool m_dropping = false;
     mutable QPointer<QWidget> mp_found;
     mutable QElapsedTimer m_found_at;
 };

@@ -1,6 +1,7 @@
 #include "ovk/docking/dock_manager.h"
 
 #include "ovk/commands/ui_controller.h"
+#include "ovk/docking/dock_accessible_p.h"
 #include "ovk/docking/dock_drag_controller_p.h"
 #include "ovk/docking/dock_layout.h"
 #include "ovk/docking/dock_manager_p.h"
@@ -12,6 +13,7 @@
 
 #include <QtCore/QSet>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
 
 namespace ovk {
 
@@ -50,7 +52,8 @@ void DockManager::Impl::HidePanels(const QRect* limit)
 {
     const QList<DockWindow*> panels = floating;
     for (DockWindow* panel : panels) {
-        if (!panel->isVisible() || hidden.contains(panel))
+        // Hiding a page runs code of the host, which may close other panels.
+        if (!floating.contains(panel) || !panel->isVisible() || hidden.contains(panel))
             continue;
         if (limit && !panel->geometry().intersects(*limit))
             continue;
@@ -87,9 +90,15 @@ QString DockManager::Impl::UniqueName() const
     }
 }
 
-void DockManager::Impl::OnScreenRemoved()
+void DockManager::Impl::Watch(QScreen* screen)
 {
-    for (DockWindow* panel : qAsConst(floating)) {
+    connect(screen, &QScreen::geometryChanged, this, [this] { OnScreensChanged(); });
+}
+
+void DockManager::Impl::OnScreensChanged()
+{
+    const QList<DockWindow*> panels = floating;
+    for (DockWindow* panel : panels) {
         if (panel->isVisible())
             static_cast<DockWidget::Impl*>(panel->_pp())->BringOnScreen();
     }
@@ -147,11 +156,24 @@ DockCallbackScope::~DockCallbackScope()
 
 DockManager::DockManager(QWidget* parent) : DockArea(new Impl, parent)
 {
+    InstallDockAccessibility();
     setObjectName(QStringLiteral("manager.area"));
     Impl* const impl = _Impl();
     impl->manager = this;
     impl->controller = std::make_unique<DockDragController>(*this);
-    connect(qGuiApp, &QGuiApplication::screenRemoved, impl, [impl] { impl->OnScreenRemoved(); });
+    impl->screens = [] {
+        QList<QRect> rects;
+        const QList<QScreen*> screens = QGuiApplication::screens();
+        for (const QScreen* screen : screens)
+            rects.append(screen->geometry());
+        return rects;
+    };
+    connect(qGuiApp, &QGuiApplication::screenRemoved, impl, [impl] { impl->OnScreensChanged(); });
+    connect(qGuiApp, &QGuiApplication::screenAdded, impl,
+            [impl](QScreen* screen) { impl->Watch(screen); });
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (QScreen* screen : screens)
+        impl->Watch(screen);
 }
 
 DockManager::~DockManager()
@@ -226,8 +248,11 @@ void DockManager::ShowHidden()
 void DockManager::DisableFloating()
 {
     Impl* const impl = _Impl();
-    for (DockWindow* panel : qAsConst(impl->floating)) {
-        if (!panel->isVisible() || impl->disabled.contains(panel))
+    const QList<DockWindow*> panels = impl->floating;
+    for (DockWindow* panel : panels) {
+        // Its picture is painted by its page, which is the host's.
+        if (!impl->floating.contains(panel) || !panel->isVisible() ||
+            impl->disabled.contains(panel))
             continue;
         impl->disabled.append(panel);
         static_cast<DockWidget*>(panel)->SetEnabled(false);
@@ -293,7 +318,8 @@ int DockManager::CalcDockEdgeGap(Qt::Edge edge) const
     if (GetEdgeGapMode() == Pixels)
         return gap;
     const bool across_height = edge == Qt::TopEdge || edge == Qt::BottomEdge;
-    return (across_height ? height() : width()) * gap / 100;
+    const qint64 size = across_height ? height() : width();
+    return static_cast<int>(qBound<qint64>(-QWIDGETSIZE_MAX, size * gap / 100, QWIDGETSIZE_MAX));
 }
 
 DockManager::EdgeGapMode DockManager::GetEdgeGapMode() const

@@ -2,10 +2,13 @@
 
 #include <QtCore/QList>
 
+#include <functional>
 #include <memory>
 
 #include "ovk/docking/dock_area_p.h"
 #include "ovk/docking/dock_manager.h"
+
+class QScreen;
 
 namespace ovk {
 
@@ -26,8 +29,10 @@ public:
     void DeletePanel(DockWidget* panel);
     /// A name that no panel of the manager has, and none of the profile.
     QString UniqueName() const;
-    /// Brings back panels that a screen took with it when it was unplugged.
-    void OnScreenRemoved();
+    /// Brings back panels that lie on no screen any more: one was unplugged, or shrank.
+    void OnScreensChanged();
+    /// Listens to the size of a screen.
+    void Watch(QScreen* screen);
     /// States the rules between the lists, the flags of the panels and the sites. Empty if all
     /// hold, else what is wrong.
     QString CheckConsistency() const;
@@ -39,6 +44,8 @@ public:
     std::unique_ptr<DockDragController> controller;
     bool customization_enabled = true;
     int callback_depth = 0;
+    /// The geometries of all screens. Replaced in tests.
+    std::function<QList<QRect>()> screens;
 };
 
 /// While it lives, docking runs code of the host, or was entered from an event of one of its own

@@ -135,8 +135,7 @@ QSize DockToolboxSite::maximumSize() const
 void DockToolboxSite::setGeometry(const QRect& rect)
 {
     QBoxLayout::setGeometry(rect);
-    mp_impl->EnsureSpace(nullptr, 0);
-    mp_impl->ExpandForcedWidgets();
+    mp_impl->OnLaidOut();
 }
 
 DockLayout::Side DockToolboxSite::GetSide() const
@@ -166,9 +165,15 @@ DockSite* DockToolboxSite::GetDockSite() const
 
 void DockToolboxSite::Clear()
 {
+    QList<QPointer<DockWidget>> doomed;
     const QList<DockWidget*> panels = mp_impl->GetPanels();
     for (DockWidget* panel : panels)
-        mp_impl->GetManager()->_Impl()->DeletePanel(panel);
+        doomed.append(panel);
+    for (const QPointer<DockWidget>& panel : qAsConst(doomed)) {
+        // A page that comes back to its owner may take other panels along.
+        if (panel)
+            mp_impl->GetManager()->_Impl()->DeletePanel(panel);
+    }
     mp_impl->spacer->setMinimumSize(0, 0);
     _UpdateSizer();
 }

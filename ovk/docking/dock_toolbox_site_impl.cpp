@@ -65,6 +65,52 @@ bool DockToolboxSite::Impl::EnsureSpace(DockWidget* exclude, int needed)
     return plan.fits;
 }
 
+bool DockToolboxSite::Impl::MakeRoomFor(DockWidget& panel)
+{
+    const int needed = panel._Impl()->GetCurrentMin().height();
+    if (site->geometry().isNull()) {
+        // A layout for every panel that appears would be one too many for each of them. As long as
+        // nobody has to give way, the length of the last one is good enough.
+        if (m_known_length > 0 && m_known_area == GetArea()->size()) {
+            const QList<DockWidget*> panels = GetPanels();
+            const dock_space::Plan plan = dock_space::PlanSpace(
+                Describe(panels), m_known_length, panels.indexOf(&panel), needed);
+            if (plan.fits && plan.victims.empty())
+                return true;
+        }
+        EnsureLaidOut();
+    }
+    if (GetLength() == 0 && !IsAreaSized())
+        return true;
+    return EnsureSpace(&panel, needed);
+}
+
+void DockToolboxSite::Impl::OnLaidOut()
+{
+    m_known_length = GetLength();
+    m_known_area = GetArea()->size();
+    EnsureSpace(nullptr, 0);
+    ExpandForcedWidgets();
+    const QList<DockWidget*> panels = GetPanels();
+    UpdateExpandable(panels, Describe(panels));
+}
+
+void DockToolboxSite::Impl::UpdateExpandable(const QList<DockWidget*>& panels,
+                                             const dock_space::Panels& described)
+{
+    const int length = GetLength();
+    if (!site->IsVertical() || length == 0)
+        return;
+    const int minimal = dock_space::CalcFreeSpace(described, length, true).minimal;
+    for (int i = 0; i < panels.size(); ++i) {
+        const dock_space::Panel& panel = described[i];
+        // Its own title is there already.
+        const int room = minimal + (panel.visible ? panel.collapsed_min.height() : 0);
+        panels.at(i)->_Impl()->SetExpandAvailable(!panel.collapsed ||
+                                                  room >= panel.current_min.height());
+    }
+}
+
 void DockToolboxSite::Impl::ExpandForcedWidgets()
 {
     if (!site->IsVertical())
@@ -75,7 +121,6 @@ void DockToolboxSite::Impl::ExpandForcedWidgets()
     bool any_forced = false;
     for (int i = 0; i < panels.size(); ++i) {
         described[i].visible = panels.at(i)->isVisible();
-        described[i].forced = described[i].forced && described[i].collapsed;
         any_forced |= described[i].forced;
     }
     if (!any_forced)
@@ -92,7 +137,7 @@ void DockToolboxSite::Impl::ExpandForcedWidgets()
 
 Fit DockToolboxSite::Impl::CheckFit(DockWidget& panel) const
 {
-    if (panel.isHidden())
+    if (panel.isHidden() || (GetLength() == 0 && !IsAreaSized()))
         return Fit::FitsAsIs;
     const dock_space::Panel described = Describe({&panel}).front();
     if (site->IsVertical())
@@ -141,10 +186,22 @@ bool DockToolboxSite::Impl::HasVisibleItem() const
 void DockToolboxSite::Impl::EnsureLaidOut()
 {
     // Qt forgets the rectangle of a layout when the layout is invalidated.
-    if (!site->geometry().isNull())
+    if (!site->geometry().isNull() || !IsAreaSized())
         return;
     if (QLayout* const layout = GetArea()->layout())
         layout->activate();
+}
+
+bool DockToolboxSite::Impl::IsAreaSized() const
+{
+    const DockArea* const area = GetArea();
+    if (area->isVisible())
+        return true;
+    // In a window that was never shown the size of what a layout manages is a first guess.
+    const QWidget* const parent = area->isWindow() ? nullptr : area->parentWidget();
+    if (parent && parent->layout() && parent->layout()->indexOf(const_cast<DockArea*>(area)) >= 0)
+        return parent->isVisible();
+    return area->testAttribute(Qt::WA_Resized);
 }
 
 void DockToolboxSite::Impl::ApplyMinimized(DockWidget& panel) const

@@ -80,6 +80,9 @@ public:
     /// Makes room by collapsing panels other than `exclude`; false, and nothing changed, if that
     /// cannot be.
     bool EnsureSpace(DockWidget* exclude, int needed);
+    /// Makes room for a panel that appears or opens. A site of which nobody knows yet how long it
+    /// will be has room for everybody.
+    bool MakeRoomFor(DockWidget& panel);
     /// Opens what was collapsed for want of room, as far as there is room again.
     void ExpandForcedWidgets();
     dock_space::Fit CheckFit(DockWidget& panel) const;
@@ -89,8 +92,11 @@ public:
     void InvalidateSizes() { aggregate_valid = false; }
     /// Has the site any item on screen but its spacer?
     bool HasVisibleItem() const;
-    /// Brings a box that was not laid out, or just invalidated, up to date.
+    /// Brings a box that was not laid out, or just invalidated, up to date. Nothing while the area
+    /// has no size that means anything.
     void EnsureLaidOut();
+    /// The reaction of the site to its new geometry.
+    void OnLaidOut();
 
     void ResizeBy(int delta);
     void ApplyMinimized(DockWidget& panel) const;
@@ -104,9 +110,17 @@ public:
     QString CheckConsistency() const;
 
 private:
+    /// Has the area been given a size, by the screen, a layout or its owner?
+    bool IsAreaSized() const;
+    /// Tells folded panels whether there is room to open them.
+    void UpdateExpandable(const QList<DockWidget*>& panels, const dock_space::Panels& described);
     /// Sets `target` and gives the index of the box under the position of the area; -1 for none.
     int FindTarget(const QPoint& pos);
 
+    /// The length that the box had when its area was of that size: Qt forgets the rectangle of a
+    /// layout each time that anything in it changes.
+    int m_known_length = 0;
+    QSize m_known_area;
     mutable bool aggregate_valid = false;
     mutable QSize aggregate_min;
     mutable QSize aggregate_max;

@@ -189,13 +189,10 @@ void DockWidget::SetCollapsed(bool collapsed, bool forced)
     Impl* const impl = _Impl();
     if (!IsCollapsible())
         return;
-    if (!collapsed && GetToolboxSite()) {
-        DockToolboxSite::Impl* const site = GetToolboxSite()->_pp();
-        site->EnsureLaidOut();
-        if (!site->EnsureSpace(this, impl->GetCurrentMin().height()))
-            return;
-    }
+    if (!collapsed && GetToolboxSite() && !GetToolboxSite()->_pp()->MakeRoomFor(*this))
+        return;
     impl->forced_collapsed = forced;
+    impl->folded_for_room = false;
     if (impl->collapsed == collapsed)
         return;
     impl->collapsed = collapsed;

@@ -1,13 +1,12 @@
 #include "ovk/docking/dock_widget_p.h"
 
+#include "ovk/docking/dock_accessible_p.h"
 #include "ovk/docking/dock_drag_controller_p.h"
 #include "ovk/docking/dock_layout.h"
 #include "ovk/docking/dock_manager_p.h"
 #include "ovk/docking/dock_toolbox_site_p.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtGui/QGuiApplication>
-#include <QtGui/QScreen>
 
 namespace ovk {
 
@@ -137,13 +136,24 @@ void DockWidget::Impl::ProcessUpdate()
         FocusCurrentPage();
 }
 
-void DockWidget::Impl::UpdateTitle()
+QString DockWidget::Impl::TitleText() const
 {
-    QString text = forced_title;
     const IDockPage* const page = GetCurrentPage();
     if (page && (forced_title.isEmpty() || visible_pages.size() == 1))
-        text = WidgetOf(page)->windowTitle();
+        return WidgetOf(page)->windowTitle();
+    return forced_title;
+}
+
+void DockWidget::Impl::UpdateTitle()
+{
+    const QString text = TitleText();
+    if (title->GetTitle() == text)
+        return;
     title->SetTitle(text);
+    // What the window manager lists while the panel floats.
+    window->setWindowTitle(text);
+    tab_bar->setAccessibleName(text);
+    AnnounceDockName(*window);
 }
 
 void DockWidget::Impl::UpdateTitleButtons()
@@ -155,7 +165,10 @@ void DockWidget::Impl::UpdateTitleButtons()
     auto* const panel_title = qobject_cast<DockWidgetTitle*>(title.data());
     if (!panel_title)
         return;
-    panel_title->GetMinimizeButton()->SetCollapsed(collapsed);
+    if (panel_title->GetMinimizeButton()->IsCollapsed() != collapsed) {
+        panel_title->GetMinimizeButton()->SetCollapsed(collapsed);
+        AnnounceDockFolding(*window);
+    }
     panel_title->GetMinimizeButton()->setEnabled(collapsible && (!collapsed || expand_available));
     panel_title->GetCollapsibleButton()->setVisible(!collapsed);
     panel_title->GetCollapsibleButton()->SetCollapsible(collapsible);
@@ -256,9 +269,9 @@ void DockWidget::Impl::SetExpandAvailable(bool available)
 void DockWidget::Impl::BringOnScreen()
 {
     const QPoint corner = window->pos();
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    for (const QScreen* screen : screens) {
-        if (screen->geometry().contains(corner, true))
+    const QList<QRect> screens = manager->_Impl()->screens();
+    for (const QRect& screen : screens) {
+        if (screen.contains(corner, true))
             return;
     }
     const QRect around(manager->mapToGlobal(QPoint(0, 0)), manager->size());
@@ -289,12 +302,11 @@ void DockWidget::Impl::OnShown()
     DockToolboxSite* const site = Site();
     if (!site || destroying)
         return;
-    site->_pp()->InvalidateSizes();
-    site->_pp()->EnsureLaidOut();
-    // A box without a length was not laid out yet; that is no want of room.
-    if (!site->_pp()->EnsureSpace(Panel(), GetCurrentMin().height()) &&
-        site->_pp()->GetLength() > 0)
+    // A folded panel has all the room that it takes.
+    if (!collapsed && !site->_pp()->MakeRoomFor(*Panel())) {
         Panel()->SetCollapsed(true, false);
+        folded_for_room = collapsed;
+    }
     site->_UpdateSizer();
 }
 

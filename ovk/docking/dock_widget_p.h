@@ -106,6 +106,10 @@ public:
     void OnDocked(DockToolboxSite& site);
     void SetFloated(const QPoint& pos);
     void SetExpandAvailable(bool available);
+    /// What the title says, or would say.
+    QString TitleText() const;
+    /// Opens the menu of the pages below the title, unless the panel has none.
+    void ShowMenuByKeyboard();
     /// Moves a floating panel whose corner is on no screen to the middle of the manager.
     void BringOnScreen();
     /// Leaves all lists and gives its pages back: the panel only waits to be deleted.
@@ -154,6 +158,9 @@ public:
     bool destroying = false;
     QPointer<DockOverlay> overlay;
     QPointer<BlockOverlay> block_overlay;
+
+    /// Folded because there was no room when it appeared: nobody's wish, and not stored.
+    bool folded_for_room = false;
 
     /// How often the sizes were computed.
     mutable int size_computations = 0;

@@ -19,6 +19,9 @@ QSize WidgetMin(QWidget& widget)
     if (size == QSize(0, 0) && widget.layout()) {
         widget.layout()->activate();
         size = widget.minimumSize();
+        // Qt hands the minimum of a layout to a window only, and a page is none.
+        if (size == QSize(0, 0))
+            size = widget.layout()->totalMinimumSize();
     }
     return size;
 }

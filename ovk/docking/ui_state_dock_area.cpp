@@ -5,10 +5,11 @@
 #include "ovk/docking/dock_manager.h"
 #include "ovk/docking/dock_site.h"
 #include "ovk/docking/dock_toolbar_site.h"
-#include "ovk/docking/dock_toolbox_site.h"
+#include "ovk/docking/dock_toolbox_site_p.h"
 #include "ovk/docking/ui_state_dock_live_p.h"
 
-#include <QtCore/QCoreApplication>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
 
 namespace ovk {
 
@@ -17,6 +18,14 @@ namespace {
 const QLatin1String c_toolbox_id("toolboxes.site");
 const QLatin1String c_key_size("size");
 const QLatin1String c_key_minimized("minimized");
+
+/// A site that is larger than any screen would make its window so, which could never be shown.
+int FitToScreen(int cross_size, bool vertical)
+{
+    const QSize room = QGuiApplication::primaryScreen()->availableVirtualSize();
+    const int most = vertical ? room.width() : room.height();
+    return cross_size <= most ? cross_size : most / 2;
+}
 
 } // namespace
 
@@ -59,8 +68,12 @@ UiStateDockToolboxSite::UiStateDockToolboxSite(const DockToolboxSite& site)
 {
     m_minimized = site.IsMinimized();
     m_cross_size = site.GetCrossSize();
-    for (int i = 0; i < site.count(); ++i)
-        AppendChild(new UiStateDockWidget(site.itemAt(i)->widget()));
+    for (int i = 0; i < site.count(); ++i) {
+        QWidget* const item = site.itemAt(i)->widget();
+        // The preview of a drag that is under way is no part of the arrangement.
+        if (!qobject_cast<DockToolboxSiteEstimator*>(item))
+            AppendChild(new UiStateDockWidget(item));
+    }
 }
 
 UiStateDockToolboxSite::UiStateDockToolboxSite(const UiStateDockToolboxSite& other) = default;
@@ -100,7 +113,7 @@ void UiStateDockToolboxSite::_Activate(ActivationMode mode)
         return;
     // No layout in between: there would be one for every panel.
     site->setEnabled(false);
-    site->SetCrossSize(m_cross_size);
+    site->SetCrossSize(FitToScreen(m_cross_size, site->IsVertical()));
     site->SetMinimized(m_minimized);
     bool before_spacer = true;
     for (UiStateDockWidget* child : _GetChildren()) {

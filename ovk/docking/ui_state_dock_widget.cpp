@@ -8,6 +8,8 @@
 #include "ovk/docking/ui_state_docking.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
 
 namespace ovk {
 
@@ -24,6 +26,8 @@ const QLatin1String c_key_left("left");
 const QLatin1String c_key_title("title");
 
 const QLatin1String c_spacer_id("vor.spacer");
+
+constexpr int c_large_window = 4096; // pixels
 
 QString TitleOf(const ITreeItem* node, const QString& id)
 {
@@ -44,6 +48,19 @@ QString Translated(const char* context, const QString& title, const QString& dis
     const QByteArray hint = disambiguation.toUtf8();
     return QCoreApplication::translate(context, title.toUtf8().constData(),
                                        hint.isEmpty() ? nullptr : hint.constData());
+}
+
+/// Bounded, so that the far corner of a rectangle is a number too.
+int ReadLength(const QJsonObject& json, QLatin1String key)
+{
+    return qBound(-QWIDGETSIZE_MAX, json.value(key).toInt(0), QWIDGETSIZE_MAX);
+}
+
+/// No window system shows windows of any size; what a screen can hold it must be able to take.
+QSize FitToScreen(const QSize& size)
+{
+    const QSize room = QGuiApplication::primaryScreen()->virtualSize();
+    return size.boundedTo(room.expandedTo(QSize(c_large_window, c_large_window)));
 }
 
 QString NameOf(const QWidget* widget)
@@ -132,7 +149,8 @@ UiStateDockWidget::UiStateDockWidget(QWidget* widget) : TUiState(NameOf(widget))
     const bool away = panel->GetManager()->_Impl()->hidden.contains(panel);
     SetVisible(away || !panel->IsExplicitlyHidden());
     // What folded for want of room is not the user's wish: it opens again where there is room.
-    m_minimized = panel->IsCollapsed() && !panel->IsForcedCollapsed();
+    m_minimized = panel->IsCollapsed() && !panel->IsForcedCollapsed() &&
+                  !panel->_Impl()->folded_for_room;
     m_minimizable = panel->IsCollapsible();
     m_title_visible = panel->IsTitleEnabled();
     m_movable = panel->IsMovable();
@@ -169,8 +187,8 @@ bool UiStateDockWidget::FromJson(const QJsonObject& json)
 {
     m_spacer = json.value(c_key_spacer).toBool(false);
     if (!m_spacer) {
-        m_geometry = QRect(json.value(c_key_left).toInt(0), json.value(c_key_top).toInt(0),
-                           json.value(c_key_width).toInt(0), json.value(c_key_height).toInt(0));
+        m_geometry = QRect(ReadLength(json, c_key_left), ReadLength(json, c_key_top),
+                           ReadLength(json, c_key_width), ReadLength(json, c_key_height));
         KeepTitle(this, GetName(), json.value(c_key_title).toString());
         for (const Flag& flag : _Flags())
             this->*flag.field = json.value(flag.key).toBool(flag.value);
@@ -254,11 +272,12 @@ void UiStateDockWidget::_Activate(ActivationMode)
     if (!panel)
         return;
     if (m_geometry.isValid()) {
-        panel->resize(m_geometry.size());
+        const QSize size = FitToScreen(m_geometry.size());
+        panel->resize(size);
         // A page that is used again must not bring the size that it had in another layout.
         IDockPage* const page = panel->GetCurrentPage();
         if (page && !m_minimized)
-            page->SetPrefferedSize(m_geometry.size());
+            page->SetPrefferedSize(size);
     }
     panel->SetFloated(m_geometry.topLeft());
     if (panel)
