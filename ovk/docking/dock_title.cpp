@@ -2,6 +2,7 @@
 
 #include "ovk/core/icons_controller.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
 
@@ -11,9 +12,31 @@ namespace ovk {
 
 namespace {
 
+constexpr int c_icon_edge = 16;
+
 QIcon Icon(const char* name)
 {
     return IconsController::Load(QString::fromLatin1(name));
+}
+
+/// The icon as a mirror shows it, in all its sizes.
+QIcon Mirrored(const QIcon& icon)
+{
+    QIcon mirrored;
+    for (const qreal ratio : {1.0, 2.0}) {
+        const QSize size = icon.actualSize(QSize(c_icon_edge, c_icon_edge));
+        QPixmap pixmap(size * ratio);
+        pixmap.setDevicePixelRatio(ratio);
+        pixmap.fill(Qt::transparent);
+        {
+            QPainter painter(&pixmap);
+            painter.translate(size.width(), 0);
+            painter.scale(-1, 1);
+            icon.paint(&painter, QRect(QPoint(), size));
+        }
+        mirrored.addPixmap(pixmap);
+    }
+    return mirrored;
 }
 
 } // namespace
@@ -130,6 +153,9 @@ bool DockTitle::event(QEvent* event)
     const bool handled = QWidget::event(event);
     switch (event->type()) {
     case QEvent::StyleChange:
+        // The style has its own colours for titles, and may have taken other ones.
+        style()->polish(this);
+        Q_FALLTHROUGH();
     case QEvent::FontChange:
     case QEvent::LayoutDirectionChange:
         LayoutButtons();
@@ -146,14 +172,43 @@ DockButton::DockButton(QWidget* parent) : QToolButton(parent)
 {
     setAutoRaise(true);
     setToolButtonStyle(Qt::ToolButtonIconOnly);
-    setFocusPolicy(Qt::NoFocus);
-    const int size = style()->pixelMetric(QStyle::PM_TabBarIconSize, nullptr, this);
-    setFixedSize(size, size);
+    // A click leaves the focus where it is: the user works in the page.
+    setFocusPolicy(Qt::TabFocus);
+    TakeSizeOfStyle();
 }
 
 QSize DockButton::sizeHint() const
 {
     return maximumSize();
+}
+
+void DockButton::SetMeaning(const QString& meaning)
+{
+    setToolTip(meaning);
+    setAccessibleName(meaning);
+}
+
+void DockButton::TakeSizeOfStyle()
+{
+    const int size = style()->pixelMetric(QStyle::PM_TabBarIconSize, nullptr, this);
+    setFixedSize(size, size);
+}
+
+void DockButton::changeEvent(QEvent* event)
+{
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::StyleChange)
+        TakeSizeOfStyle();
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::LayoutDirectionChange)
+        RefreshIcon();
+}
+
+void DockButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QToolButton::keyPressEvent(event);
 }
 
 MinimizeButton::MinimizeButton(QWidget* parent) : DockButton(parent)
@@ -163,8 +218,16 @@ MinimizeButton::MinimizeButton(QWidget* parent) : DockButton(parent)
 
 void MinimizeButton::SetCollapsed(bool collapsed)
 {
-    setIcon(Icon(collapsed ? "dockUnfold" : "dockFold"));
-    setToolTip(collapsed ? tr("Unfold") : tr("Fold"));
+    m_collapsed = collapsed;
+    RefreshIcon();
+    SetMeaning(collapsed ? tr("Unfold") : tr("Fold"));
+}
+
+void MinimizeButton::RefreshIcon()
+{
+    const QIcon icon = Icon(m_collapsed ? "dockUnfold" : "dockFold");
+    // It points at the title's text.
+    setIcon(m_collapsed && isRightToLeft() ? Mirrored(icon) : icon);
 }
 
 CollapsibleButton::CollapsibleButton(QWidget* parent) : DockButton(parent)
@@ -174,14 +237,25 @@ CollapsibleButton::CollapsibleButton(QWidget* parent) : DockButton(parent)
 
 void CollapsibleButton::SetCollapsible(bool collapsible)
 {
-    setIcon(Icon(collapsible ? "dockUnpin" : "dockPin"));
-    setToolTip(collapsible ? tr("Keep open") : tr("Allow folding"));
+    m_collapsible = collapsible;
+    RefreshIcon();
+    SetMeaning(collapsible ? tr("Keep open") : tr("Allow folding"));
+}
+
+void CollapsibleButton::RefreshIcon()
+{
+    setIcon(Icon(m_collapsible ? "dockUnpin" : "dockPin"));
 }
 
 CloseButton::CloseButton(QWidget* parent) : DockButton(parent)
 {
+    RefreshIcon();
+    SetMeaning(tr("Close"));
+}
+
+void CloseButton::RefreshIcon()
+{
     setIcon(style()->standardIcon(QStyle::SP_DockWidgetCloseButton, nullptr, this));
-    setToolTip(tr("Close"));
 }
 
 DockWidgetTitle::DockWidgetTitle(QWidget* parent)
@@ -216,6 +290,12 @@ void DockWidgetTitle::paintEvent(QPaintEvent*)
 
 AreaMinimizeButton::AreaMinimizeButton(QWidget* parent) : DockButton(parent)
 {
+    RefreshIcon();
+    SetMeaning(tr("Minimize"));
+}
+
+void AreaMinimizeButton::RefreshIcon()
+{
     setIcon(style()->standardIcon(QStyle::SP_TitleBarMinButton, nullptr, this));
 }
 
@@ -226,11 +306,25 @@ AreaMaximizeButton::AreaMaximizeButton(QWidget* parent) : DockButton(parent)
 
 void AreaMaximizeButton::SetMaximized(bool maximized)
 {
-    setIcon(style()->standardIcon(
-        maximized ? QStyle::SP_TitleBarNormalButton : QStyle::SP_TitleBarMaxButton, nullptr, this));
+    m_maximized = maximized;
+    RefreshIcon();
+    SetMeaning(maximized ? tr("Restore") : tr("Maximize"));
+}
+
+void AreaMaximizeButton::RefreshIcon()
+{
+    setIcon(style()->standardIcon(m_maximized ? QStyle::SP_TitleBarNormalButton
+                                              : QStyle::SP_TitleBarMaxButton,
+                                  nullptr, this));
 }
 
 AreaCloseButton::AreaCloseButton(QWidget* parent) : DockButton(parent)
+{
+    RefreshIcon();
+    SetMeaning(tr("Close"));
+}
+
+void AreaCloseButton::RefreshIcon()
 {
     setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton, nullptr, this));
 }

@@ -49,7 +49,7 @@ private:
     QList<QWidget*> m_right;
 };
 
-/// A small flat button of a title.
+/// A small flat button of a title. The Tab key reaches it; Space and Return press it.
 class OVK_TEST_EXPORT DockButton : public QToolButton
 {
     Q_OBJECT
@@ -58,6 +58,19 @@ public:
     explicit DockButton(QWidget* parent);
 
     QSize sizeHint() const override;
+
+    /// What the button does, for tool tip and screen readers.
+    void SetMeaning(const QString& meaning);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+    /// Loads the icon anew, for a style or a direction that has changed.
+    virtual void RefreshIcon() = 0;
+
+private:
+    void TakeSizeOfStyle();
 };
 
 /// Folds and opens a panel.
@@ -68,6 +81,13 @@ class OVK_TEST_EXPORT MinimizeButton : public DockButton
 public:
     explicit MinimizeButton(QWidget* parent);
     void SetCollapsed(bool collapsed);
+    bool IsCollapsed() const { return m_collapsed; }
+
+protected:
+    void RefreshIcon() override;
+
+private:
+    bool m_collapsed = false;
 };
 
 /// Pins a panel, so that it cannot be folded.
@@ -78,6 +98,12 @@ class OVK_TEST_EXPORT CollapsibleButton : public DockButton
 public:
     explicit CollapsibleButton(QWidget* parent);
     void SetCollapsible(bool collapsible);
+
+protected:
+    void RefreshIcon() override;
+
+private:
+    bool m_collapsible = true;
 };
 
 /// Closes a panel.
@@ -87,6 +113,9 @@ class OVK_TEST_EXPORT CloseButton : public DockButton
 
 public:
     explicit CloseButton(QWidget* parent);
+
+protected:
+    void RefreshIcon() override;
 };
 
 /// The title of a panel, with a grip between text and buttons.
@@ -121,6 +150,9 @@ class OVK_TEST_EXPORT AreaMinimizeButton : public DockButton
 
 public:
     explicit AreaMinimizeButton(QWidget* parent);
+
+protected:
+    void RefreshIcon() override;
 };
 
 /// Maximises the window of an area and puts it back.
@@ -131,6 +163,12 @@ class OVK_TEST_EXPORT AreaMaximizeButton : public DockButton
 public:
     explicit AreaMaximizeButton(QWidget* parent);
     void SetMaximized(bool maximized);
+
+protected:
+    void RefreshIcon() override;
+
+private:
+    bool m_maximized = false;
 };
 
 /// Deletes an area.
@@ -140,6 +178,9 @@ class OVK_TEST_EXPORT AreaCloseButton : public DockButton
 
 public:
     explicit AreaCloseButton(QWidget* parent);
+
+protected:
+    void RefreshIcon() override;
 };
 
 /// The title of an area. Its buttons act on the parent widget.

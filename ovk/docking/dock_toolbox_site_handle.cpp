@@ -5,6 +5,9 @@
 #include "ovk/docking/dock_widget.h"
 
 #include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOption>
 #include <QtWidgets/QToolButton>
 
 namespace ovk {
@@ -13,6 +16,29 @@ namespace {
 
 constexpr int c_thickness = 5;
 constexpr int c_button_length = 17;
+
+/// What a handle is called, by side.
+struct SideTexts
+{
+    const char* name;
+    const char* fold;
+    const char* unfold;
+};
+
+constexpr SideTexts c_texts[] = {
+    {QT_TRANSLATE_NOOP("ovk::DockToolboxSiteHandle", "Left panels"),
+     QT_TRANSLATE_NOOP("ovk::DockToolboxSiteHandle", "Hide the panels at the left"),
+     QT_TRANSLATE_NOOP("ovk::DockToolboxSiteHandle", "Show the panels at the left")},
+    {QT_TRANSLATE_NOOP("ovk::DockToolboxSiteHandle", "Right panels"),
+     QT_TRANSLATE_NOOP("ovk::DockToolboxSiteHandle", "Hide the panels at the right"),
+     QT_TRANSLATE_NOOP("ovk::DockToolboxSiteHandle", "Show the panels at the right")},
+    {QT_TRANSLATE_NOOP("ovk::DockToolboxSiteHandle", "Top panels"),
+     QT_TRANSLATE_NOOP("ovk::DockToolboxSiteHandle", "Hide the panels at the top"),
+     QT_TRANSLATE_NOOP("ovk::DockToolboxSiteHandle", "Show the panels at the top")},
+    {QT_TRANSLATE_NOOP("ovk::DockToolboxSiteHandle", "Bottom panels"),
+     QT_TRANSLATE_NOOP("ovk::DockToolboxSiteHandle", "Hide the panels at the bottom"),
+     QT_TRANSLATE_NOOP("ovk::DockToolboxSiteHandle", "Show the panels at the bottom")},
+};
 
 QIcon Icon(const char* name)
 {
@@ -26,7 +52,9 @@ DockToolboxSiteHandle::DockToolboxSiteHandle(QWidget* parent)
 {
     mp_button->setAutoRaise(true);
     mp_button->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    mp_button->setFocusPolicy(Qt::NoFocus);
+    mp_button->setFocusPolicy(Qt::TabFocus);
+    mp_button->installEventFilter(this);
+    setAttribute(Qt::WA_Hover);
 }
 
 DockToolboxSiteHandle::~DockToolboxSiteHandle() = default;
@@ -46,6 +74,11 @@ void DockToolboxSiteHandle::Init(DockToolboxSite* site)
 void DockToolboxSiteHandle::Update()
 {
     mp_button->setIcon(GetIcon());
+    const SideTexts& texts = c_texts[mp_site->GetSide()];
+    const QString meaning = tr(mp_site->IsMinimized() ? texts.unfold : texts.fold);
+    mp_button->setToolTip(meaning);
+    mp_button->setAccessibleName(meaning);
+    setAccessibleName(tr(texts.name));
     if (!mp_site->IsMinimized() && !mp_site->_pp()->HasVisibleItem())
         hide();
     else
@@ -85,6 +118,28 @@ void DockToolboxSiteHandle::mouseReleaseEvent(QMouseEvent* event)
         return;
     m_pressed = false;
     update();
+}
+
+void DockToolboxSiteHandle::paintEvent(QPaintEvent*)
+{
+    // Nothing but the button while it rests. The button is too small for a frame of focus, so the
+    // whole handle shows it.
+    const bool warm = m_pressed || underMouse() || mp_button->hasFocus();
+    if (!warm)
+        return;
+    QStyleOption option;
+    option.initFrom(this);
+    option.state |= QStyle::State_AutoRaise | QStyle::State_MouseOver;
+    option.state |= m_pressed ? QStyle::State_Sunken : QStyle::State_Raised;
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_PanelButtonTool, &option, &painter, this);
+}
+
+bool DockToolboxSiteHandle::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        update();
+    return QWidget::eventFilter(watched, event);
 }
 
 QSize DockToolboxSiteHandleHorizontal::sizeHint() const

@@ -86,6 +86,14 @@ void DockWidget::Impl::FilterPanel(QEvent& event)
         if (!event.spontaneous())
             OnHidden();
         break;
+    case QEvent::ContextMenu:
+        // The mouse has title and tabs for it; with the key it opens from anywhere in the panel
+        // that has no menu of its own.
+        if (static_cast<const QContextMenuEvent&>(event).reason() == QContextMenuEvent::Keyboard) {
+            ShowMenuByKeyboard();
+            event.accept();
+        }
+        break;
     case QEvent::LayoutRequest:
         if (!blocked)
             PostUpdate(UpdateSizes);

@@ -252,6 +252,7 @@ void DockWidget::Impl::ShowContextMenu(const QPoint& pos)
         return;
     auto* const menu = new QMenu(window); // a child of the panel, deletes itself when closed
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setAccessibleName(TitleText());
     for (IDockPage* page : qAsConst(all_pages)) {
         QAction* const action = menu->addAction(WidgetOf(page)->windowTitle());
         action->setCheckable(true);
@@ -268,6 +269,15 @@ void DockWidget::Impl::ShowContextMenu(const QPoint& pos)
     }
     const QWidget* const origin = title ? static_cast<QWidget*>(title) : window;
     menu->popup(origin->mapToGlobal(pos));
+}
+
+void DockWidget::Impl::ShowMenuByKeyboard()
+{
+    if (context_menu_hidden)
+        return;
+    const int below = title ? title->height() : window->frameWidth();
+    const int x = window->isRightToLeft() ? window->width() - 1 : 0;
+    ShowContextMenu({x, below});
 }
 
 } // namespace ovk

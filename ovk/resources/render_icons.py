@@ -8,11 +8,11 @@ import subprocess
 
 icons = pathlib.Path(__file__).resolve().parent / "icons"
 for source in sorted(icons.glob("*.svg")):
-    size = int(re.search(r'width="(\d+)"', source.read_text()).group(1))
+    width, height = map(int, re.search(r'width="(\d+)" height="(\d+)"', source.read_text()).groups())
     for scale, suffix in ((1, ""), (2, "@2x")):
         target = source.with_name(source.stem + suffix + ".png")
-        edge = str(size * scale)
-        subprocess.run(["rsvg-convert", "-w", edge, "-h", edge, "-o", target, source], check=True)
+        subprocess.run(["rsvg-convert", "-w", str(width * scale), "-h", str(height * scale), "-o", target,
+                        source], check=True)
 names = "\n".join(
     f'        <file alias="{png.name}">icons/{png.name}</file>' for png in sorted(icons.glob("*.png")))
 (icons.parent / "ovk.qrc").write_text(

@@ -36,7 +36,9 @@ constexpr Metric Metrics[] = {
     {QStyle::PM_SplitterWidth, 5},
     {QStyle::PM_DockWidgetSeparatorExtent, 5},
     {QStyle::PM_DockWidgetFrameWidth, 1},
-    {QStyle::PM_DockWidgetTitleMargin, 4},
+    // With these two the buttons of a panel's title stand level with its text.
+    {QStyle::PM_DockWidgetTitleMargin, 2},
+    {QStyle::PM_TabBarIconSize, 22},
     {QStyle::PM_ToolBarHandleExtent, 9},
     {QStyle::PM_ToolBarSeparatorExtent, 7},
     {QStyle::PM_ToolBarItemMargin, 2},
@@ -55,14 +57,17 @@ constexpr Metric Metrics[] = {
     {QStyle::PM_TabBarTabHSpace, 20},
     {QStyle::PM_TabBarTabVSpace, 9},
     {QStyle::PM_ToolTipLabelFrameWidth, 2},
+    {QStyle::PM_HeaderMargin, 5},
+    {QStyle::PM_HeaderDefaultSectionSizeVertical, 22},
+    {QStyle::PM_HeaderGripMargin, 4},
 };
 
 /// The pictures of an office suite: 16 and 32, growing in the steps that icons are drawn for.
-bool IsSmallIcon(QStyle::PixelMetric metric)
+bool IsSmallIcon(QStyle::PixelMetric metric, const QWidget* widget)
 {
     return metric == QStyle::PM_SmallIconSize || metric == QStyle::PM_ButtonIconSize
-           || metric == QStyle::PM_ToolBarIconSize || metric == QStyle::PM_TabBarIconSize
-           || metric == QStyle::PM_ListViewIconSize;
+           || metric == QStyle::PM_ToolBarIconSize || metric == QStyle::PM_ListViewIconSize
+           || (metric == QStyle::PM_TabBarIconSize && qobject_cast<const QTabBar*>(widget));
 }
 
 bool IsLargeIcon(QStyle::PixelMetric metric)
@@ -107,7 +112,7 @@ void RibbonStyle::drawControl(ControlElement element, const QStyleOption* option
     const Canvas canvas{baseStyle(), option, painter, widget, ribbonTheme()};
     if (style_draw::DrawItemControl(element, canvas) || style_draw::DrawMenuControl(element, canvas)
         || style_draw::DrawTabControl(element, canvas) || style_draw::DrawButtonControl(element, canvas)
-        || style_draw::DrawBarControl(element, canvas))
+        || style_draw::DrawBarControl(element, canvas) || style_draw::DrawToolBoxControl(element, canvas))
         return;
     OfficeStyle::drawControl(element, option, painter, widget);
 }
@@ -119,7 +124,8 @@ void RibbonStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
         return;
     const Canvas canvas{baseStyle(), option, painter, widget, ribbonTheme()};
     if (style_draw::DrawField(control, canvas) || style_draw::DrawSlider(control, canvas)
-        || style_draw::DrawToolButton(control, canvas) || style_draw::DrawGroupBox(control, canvas))
+        || style_draw::DrawToolButton(control, canvas) || style_draw::DrawGroupBox(control, canvas)
+        || style_draw::DrawDial(control, canvas))
         return;
     OfficeStyle::drawComplexControl(control, option, painter, widget);
 }
@@ -141,6 +147,18 @@ QSize RibbonStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
             result.setWidth(std::max(result.width(), style_draw::Px(widget, 75)));
         return result;
     }
+    case CT_ToolButton:
+        if (const auto* tool = qstyleoption_cast<const QStyleOptionToolButton*>(option))
+            return style_draw::ToolButtonSize(*tool, OfficeStyle::sizeFromContents(type, option, size, widget),
+                                              widget);
+        break;
+    case CT_ItemViewItem:
+        // Rows with and without a picture are equally high.
+        if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
+            const QSize result = OfficeStyle::sizeFromContents(type, option, size, widget);
+            return result.expandedTo(QSize(0, item->fontMetrics.height() + style_draw::Px(widget, 4)));
+        }
+        break;
     case CT_GroupBox:
         if (const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option))
             return style_draw::GroupBoxSize(*box, size, this, widget);
@@ -170,7 +188,7 @@ QRect RibbonStyle::subControlRect(ComplexControl control, const QStyleOptionComp
 int RibbonStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     const qreal scale = style_draw::Scale(widget);
-    if (IsSmallIcon(metric))
+    if (IsSmallIcon(metric, widget))
         return DrawHelpers::smallIconSize(96 * scale);
     if (IsLargeIcon(metric))
         return DrawHelpers::largeIconSize(96 * scale);
@@ -210,14 +228,16 @@ int RibbonStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
 QIcon RibbonStyle::standardIcon(StandardPixmap pixmap, const QStyleOption* option,
                                 const QWidget* widget) const
 {
-    const QIcon icon = style_draw::GlyphIcon(pixmap);
+    QIcon icon = style_draw::GlyphIcon(pixmap, widget);
+    if (icon.isNull())
+        icon = style_draw::SignIcon(pixmap);
     return icon.isNull() ? OfficeStyle::standardIcon(pixmap, option, widget) : icon;
 }
 
 QPixmap RibbonStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* option,
                                     const QWidget* widget) const
 {
-    const QIcon icon = style_draw::GlyphIcon(pixmap);
+    const QIcon icon = style_draw::GlyphIcon(pixmap, widget);
     if (icon.isNull())
         return OfficeStyle::standardPixmap(pixmap, option, widget);
     const int extent = pixelMetric(PM_SmallIconSize, option, widget);
@@ -240,6 +260,9 @@ void RibbonStyle::polish(QWidget* widget)
     OfficeStyle::polish(widget);
     if (QWidget* target = HoverTarget(widget))
         target->setAttribute(Qt::WA_Hover, true);
+    if (widget->inherits("ovk::DockTitle"))
+        widget->setPalette(style_draw::TextPalette(
+            widget->palette(), QPalette::WindowText, ribbonTheme()[Element::DockTitle]));
 }
 
 void RibbonStyle::unpolish(QWidget* widget)

@@ -6,6 +6,8 @@
 #include <QIcon>
 #include <QImage>
 
+#include <cmath>
+
 using namespace ovk;
 using namespace ovk_test;
 
@@ -20,6 +22,32 @@ QByteArray Png(QRgb color)
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, "PNG");
     return bytes;
+}
+
+double Luminance(const QColor& color)
+{
+    const auto part = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) +
+           0.0722 * part(color.blueF());
+}
+
+/// How many pixels of an image stand out from a ground at 3 to 1 or better.
+int SeenOn(const QImage& image, const QColor& ground)
+{
+    int seen = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor color = image.pixelColor(x, y);
+            if (color.alpha() < 200)
+                continue;
+            const double a = Luminance(color) + 0.05;
+            const double b = Luminance(ground) + 0.05;
+            seen += std::max(a, b) / std::min(a, b) >= 3.0;
+        }
+    }
+    return seen;
 }
 
 QRgb Color(const QIcon& icon)
@@ -38,6 +66,7 @@ private Q_SLOTS:
     void cleanupTestCase();
     void theLibrarysImagesAreThere_data();
     void theLibrarysImagesAreThere();
+    void noOtherImageIsInTheLibrary();
     void aFirstSearchMindsTheCaseAndLaterOnesDoNot();
     void anUnknownIconIsEmptyAndLookedForAgain();
     void vectorsComeBeforeImagesAndPathsInTheirOrder();
@@ -65,30 +94,44 @@ void IconsControllerTest::cleanupTestCase()
 void IconsControllerTest::theLibrarysImagesAreThere_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char* name :
-         {"dockIn", "dockInActive", "dockBottom", "dockBottomActive", "dockLeft", "dockLeftActive",
-          "dockRight", "dockRightActive", "dockTop", "dockTopActive", "dockPin", "dockUnpin",
-          "dockFold", "dockUnfold", "dockMinimize", "dockRestore", "DockCollapseLeft",
-          "DockCollapseRight", "DockCollapseUp", "DockCollapseDown", "ribbonMinimize",
-          "ribbonMaximize", "customizeUi", "toolbars", "toolpages"})
-        QTest::newRow(name) << QString(name);
+    QTest::addColumn<QSize>("size");
+    for (const char* name : {"dockIn", "dockInActive", "dockBottom", "dockBottomActive", "dockLeft",
+                             "dockLeftActive", "dockRight", "dockRightActive", "dockTop",
+                             "dockTopActive", "customizeUi", "toolbars", "toolpages"})
+        QTest::newRow(name) << QString(name) << QSize(32, 32);
+    for (const char* name : {"dockPin", "dockUnpin", "dockFold", "dockUnfold", "dockMinimize",
+                             "dockRestore", "ribbonMinimize", "ribbonMaximize"})
+        QTest::newRow(name) << QString(name) << QSize(16, 16);
+    // As large as the buttons of the handles that bear them.
+    for (const char* name : {"DockCollapseLeft", "DockCollapseRight"})
+        QTest::newRow(name) << QString(name) << QSize(5, 17);
+    for (const char* name : {"DockCollapseUp", "DockCollapseDown"})
+        QTest::newRow(name) << QString(name) << QSize(17, 5);
 }
 
 void IconsControllerTest::theLibrarysImagesAreThere()
 {
     QFETCH(QString, name);
-    QVERIFY(QFile::exists(":/icons/" + name + ".png"));
+    QFETCH(QSize, size);
+    const QImage plain(":/icons/" + name + ".png");
+    const QImage fine(":/icons/" + name + "@2x.png");
+    QCOMPARE(plain.size(), size);
+    QCOMPARE(fine.size(), size * 2);
     const QIcon& icon = IconsController::Load(name);
     QVERIFY(!icon.isNull());
-    const QImage image = icon.pixmap(16, 16).toImage();
-    QCOMPARE(image.size(), QSize(16, 16));
-    int drawn = 0;
-    for (int y = 0; y < 16; ++y) {
-        for (int x = 0; x < 16; ++x)
-            drawn += qAlpha(image.pixel(x, y)) > 0;
+    QCOMPARE(icon.pixmap(size).toImage().size(), size);
+    for (const QImage& image : {plain, fine}) {
+        for (const QColor& ground : {QColor(Qt::white), QColor(0x2b, 0x2b, 0x2b)})
+            QVERIFY2(SeenOn(image, ground) * 40 >= image.width() * image.height(),
+                     qPrintable(ground.name()));
     }
-    QVERIFY2(drawn > 8, "an empty image");
-    QVERIFY2(QFile::exists(":/icons/" + name + "@2x.png"), "no image for a screen of high density");
+}
+
+void IconsControllerTest::noOtherImageIsInTheLibrary()
+{
+    // Fifty of the list above; what else lies there belongs to a test or to a host.
+    QStringList images = QDir(":/icons").entryList({"dock*", "Dock*", "ribbon*", "customize*", "tool*"});
+    QCOMPARE(images.size(), 50);
 }
 
 void IconsControllerTest::aFirstSearchMindsTheCaseAndLaterOnesDoNot()
