@@ -227,10 +227,10 @@ void UiCustomizeDialog::Impl::Retranslate()
     const auto translate = [](const char* text) {
         return QCoreApplication::translate("ovk::UiCustomizeDialog::Impl", text);
     };
-    setWindowTitle(translate("Customize UI commands"));
-    mp_btn_style->setText(translate("Visual\nstyle"));
-    mp_btn_sites->setText(translate("Toolbars\n&&\nShortcuts"));
-    mp_btn_toolpages->setText(translate("Toolpages"));
+    setWindowTitle(translate(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Customize UI commands")));
+    mp_btn_style->setText(translate(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Visual\nstyle")));
+    mp_btn_sites->setText(translate(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Toolbars\n&&\nShortcuts")));
+    mp_btn_toolpages->setText(translate(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Toolpages")));
 }
 
 void UiCustomizeDialog::Impl::changeEvent(QEvent* event)

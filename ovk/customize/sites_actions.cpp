@@ -1,63 +1,70 @@
 #include "ovk/customize/sites_actions_p.h"
 
-#include <QtGlobal>
+#include <QCoreApplication>
 
 namespace ovk {
 
-// The context of the page's texts.
-#define TEXT(text) QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", text)
+namespace {
+
+/// Gives the texts of the page their context.
+class SitesTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(ovk::UiCustomizeSitesWidget::Impl)
+
+public:
+    static constexpr std::array<SitesActionText, c_sites_action_count> c_texts = {{
+        {QT_TR_NOOP("Add page"), QT_TR_NOOP("Add new page onto the ribbon")},
+        {QT_TR_NOOP("Insert page after"), QT_TR_NOOP("Add new page after selected one")},
+        {QT_TR_NOOP("Insert page before"), QT_TR_NOOP("Insert new page before selected one")},
+        {QT_TR_NOOP("Add group"), QT_TR_NOOP("Add new group at the end of the group list")},
+        {QT_TR_NOOP("Insert group after"), QT_TR_NOOP("Insert new group after selected one")},
+        {QT_TR_NOOP("Insert group before"), QT_TR_NOOP("Insert new group before selected one")},
+        {QT_TR_NOOP("Add separator"), QT_TR_NOOP("Add new separator into the group")},
+        {QT_TR_NOOP("Insert separator after"), QT_TR_NOOP("Insert new separator after selected")},
+        {QT_TR_NOOP("Insert separator before"), QT_TR_NOOP("Insert new separator before selected")},
+        {QT_TR_NOOP("Delete separator"), QT_TR_NOOP("Delete selected separator from the group")},
+        {QT_TR_NOOP("Delete page"), QT_TR_NOOP("Delete selected page from the ribbon")},
+        {QT_TR_NOOP("Delete group"), QT_TR_NOOP("Delete selected group from the page")},
+        {QT_TR_NOOP("Delete command"), QT_TR_NOOP("Remove selected command from the group")},
+        {QT_TR_NOOP("Delete items"), QT_TR_NOOP("Remove selected items from the tree")},
+        {QT_TR_NOOP("Add separator"), QT_TR_NOOP("Add new separator into the quick access bar")},
+        {QT_TR_NOOP("Insert separator after"), QT_TR_NOOP("Insert new separator after selected")},
+        {QT_TR_NOOP("Insert separator before"), QT_TR_NOOP("Insert new separator before selected")},
+        {QT_TR_NOOP("Delete command"), QT_TR_NOOP("Remove selected command from the quick access bar")},
+        {QT_TR_NOOP("Delete separator"), QT_TR_NOOP("Delete selected separator from the quick access bar")},
+        {QT_TR_NOOP("Delete items"), QT_TR_NOOP("Remove selected items from the tree")},
+        {QT_TR_NOOP("Add separator"), QT_TR_NOOP("Add new separator into the toolbar")},
+        {QT_TR_NOOP("Insert separator after"), QT_TR_NOOP("Insert new separator after selected")},
+        {QT_TR_NOOP("Insert separator before"), QT_TR_NOOP("Insert new separator before selected")},
+        {QT_TR_NOOP("Delete command"), QT_TR_NOOP("Remove selected command from the toolbar")},
+        {QT_TR_NOOP("Delete separator"), QT_TR_NOOP("Delete selected separator from the toolbar")},
+        {QT_TR_NOOP("Add toolbar"), QT_TR_NOOP("Add new toolbar onto the toolbars")},
+        {QT_TR_NOOP("Insert toolbar after"), QT_TR_NOOP("Add new toolbar after selected one")},
+        {QT_TR_NOOP("Insert toolbar before"), QT_TR_NOOP("Insert new toolbar before selected one")},
+        {QT_TR_NOOP("Delete toolbar"), QT_TR_NOOP("Delete selected toolbar from the toolbars")},
+        {QT_TR_NOOP("Delete items"), QT_TR_NOOP("Remove selected items from the tree")},
+        {QT_TR_NOOP("Create composite command"), QT_TR_NOOP("Create composite command from existing commands")},
+        {QT_TR_NOOP("Create menu"), QT_TR_NOOP("Create menu from existing commands")},
+        {QT_TR_NOOP("Delete"), QT_TR_NOOP("Delete selected item")},
+        {QT_TR_NOOP("Delete shortcut"), QT_TR_NOOP("Delete shortcut for selected command")},
+        {QT_TR_NOOP("Assign shortcut"), QT_TR_NOOP("Assign new shortcut for selected command")},
+        {QT_TR_NOOP("Delete command"), QT_TR_NOOP("Remove selected command from the menu")},
+        {QT_TR_NOOP("Add menu"), QT_TR_NOOP("Add new menu onto the menus")},
+        {QT_TR_NOOP("Insert menu after"), QT_TR_NOOP("Add new menu after selected one")},
+        {QT_TR_NOOP("Insert menu before"), QT_TR_NOOP("Insert new menu before selected one")},
+        {QT_TR_NOOP("Delete menu"), QT_TR_NOOP("Delete selected menu from the menus")},
+        {QT_TR_NOOP("Delete items"), QT_TR_NOOP("Remove selected items from the tree")},
+        {QT_TR_NOOP("Expand all"), QT_TR_NOOP("Expand all tree items")},
+        {QT_TR_NOOP("Collapse all"), QT_TR_NOOP("Collapse all tree items")},
+    }};
+};
+
+} // namespace
 
 const std::array<SitesActionText, c_sites_action_count>& SitesActionTexts()
 {
-    static constexpr std::array<SitesActionText, c_sites_action_count> c_texts = {{
-        {TEXT("Add page"), TEXT("Add new page onto the ribbon")},
-        {TEXT("Insert page after"), TEXT("Add new page after selected one")},
-        {TEXT("Insert page before"), TEXT("Insert new page before selected one")},
-        {TEXT("Add group"), TEXT("Add new group at the end of the group list")},
-        {TEXT("Insert group after"), TEXT("Insert new group after selected one")},
-        {TEXT("Insert group before"), TEXT("Insert new group before selected one")},
-        {TEXT("Add separator"), TEXT("Add new separator into the group")},
-        {TEXT("Insert separator after"), TEXT("Insert new separator after selected")},
-        {TEXT("Insert separator before"), TEXT("Insert new separator before selected")},
-        {TEXT("Delete separator"), TEXT("Delete selected separator from the group")},
-        {TEXT("Delete page"), TEXT("Delete selected page from the ribbon")},
-        {TEXT("Delete group"), TEXT("Delete selected group from the page")},
-        {TEXT("Delete command"), TEXT("Remove selected command from the group")},
-        {TEXT("Delete items"), TEXT("Remove selected items from the tree")},
-        {TEXT("Add separator"), TEXT("Add new separator into the quick access bar")},
-        {TEXT("Insert separator after"), TEXT("Insert new separator after selected")},
-        {TEXT("Insert separator before"), TEXT("Insert new separator before selected")},
-        {TEXT("Delete command"), TEXT("Remove selected command from the quick access bar")},
-        {TEXT("Delete separator"), TEXT("Delete selected separator from the quick access bar")},
-        {TEXT("Delete items"), TEXT("Remove selected items from the tree")},
-        {TEXT("Add separator"), TEXT("Add new separator into the toolbar")},
-        {TEXT("Insert separator after"), TEXT("Insert new separator after selected")},
-        {TEXT("Insert separator before"), TEXT("Insert new separator before selected")},
-        {TEXT("Delete command"), TEXT("Remove selected command from the toolbar")},
-        {TEXT("Delete separator"), TEXT("Delete selected separator from the toolbar")},
-        {TEXT("Add toolbar"), TEXT("Add new toolbar onto the toolbars")},
-        {TEXT("Insert toolbar after"), TEXT("Add new toolbar after selected one")},
-        {TEXT("Insert toolbar before"), TEXT("Insert new toolbar before selected one")},
-        {TEXT("Delete toolbar"), TEXT("Delete selected toolbar from the toolbars")},
-        {TEXT("Delete items"), TEXT("Remove selected items from the tree")},
-        {TEXT("Create composite command"), TEXT("Create composite command from existing commands")},
-        {TEXT("Create menu"), TEXT("Create menu from existing commands")},
-        {TEXT("Delete"), TEXT("Delete selected item")},
-        {TEXT("Delete shortcut"), TEXT("Delete shortcut for selected command")},
-        {TEXT("Assign shortcut"), TEXT("Assign new shortcut for selected command")},
-        {TEXT("Delete command"), TEXT("Remove selected command from the menu")},
-        {TEXT("Add menu"), TEXT("Add new menu onto the menus")},
-        {TEXT("Insert menu after"), TEXT("Add new menu after selected one")},
-        {TEXT("Insert menu before"), TEXT("Insert new menu before selected one")},
-        {TEXT("Delete menu"), TEXT("Delete selected menu from the menus")},
-        {TEXT("Delete items"), TEXT("Remove selected items from the tree")},
-        {TEXT("Expand all"), TEXT("Expand all tree items")},
-        {TEXT("Collapse all"), TEXT("Collapse all tree items")},
-    }};
-    return c_texts;
+    return SitesTexts::c_texts;
 }
-
-#undef TEXT
 
 const std::vector<SitesButton>& SitesButtons()
 {
