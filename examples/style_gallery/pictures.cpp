@@ -1,170 +1,413 @@
 #include "pictures.h"
 
-#include "gallery_window.h"
-#include "ribbon_window.h"
+#include "viewer_window.h"
 
 #include <QApplication>
-#include <QDir>
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QMenu>
-#include <QMetaEnum>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScopedPointer>
-#include <QScopedPointer>
+#include <QSaveFile>
+#include <QScreen>
+#include <QTextStream>
+#include <cstdio>
+#include <functional>
+#include <qtitan/ribbon.h>
 #include <qtitan/style.h>
 
 using namespace Qtitan;
 
 namespace {
 
-/// Lets layouts and posted events settle.
-void Settle(int milliseconds = 60)
+/// Lets layouts, posted events and the animations of panels settle.
+void Settle(int milliseconds = 30)
 {
     QElapsedTimer clock;
     clock.start();
-    while (clock.elapsed() < milliseconds)
-        QApplication::processEvents(QEventLoop::AllEvents, 10);
+    do {
+        QApplication::sendPostedEvents();
+        QApplication::processEvents(QEventLoop::AllEvents, 5);
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    } while (clock.elapsed() < milliseconds);
 }
 
-/// The windows that are open, each where it is on the screen, over the main one.
-QPixmap Shot(const QWidget& window)
+/// A plain frame around a dialog, in the place of the one that its window system gives it.
+void DrawFrame(QPainter& painter, const QRect& place, const QString& title)
 {
-    QPixmap picture = const_cast<QWidget&>(window).grab();
-    const QPoint origin = window.mapToGlobal(QPoint());
+    const QPalette palette = QApplication::palette();
+    const int height = QFontMetrics(QApplication::font()).height() + 14;
+    const QRect caption(place.left() - 1, place.top() - height, place.width() + 2, height);
+    painter.fillRect(caption | place.adjusted(-1, 0, 1, 1), palette.color(QPalette::Mid));
+    painter.fillRect(caption.adjusted(1, 1, -1, 0), palette.color(QPalette::Base));
+    painter.setPen(palette.color(QPalette::Text));
+    painter.setFont(QApplication::font());
+    painter.drawText(caption.adjusted(9, 0, -9, 0), Qt::AlignVCenter | Qt::AlignLeading, title);
+}
+
+/// All windows of the program as they lie over the main one and beside it.
+QPixmap Shot(QWidget& main)
+{
+    QList<QWidget*> windows{&main};
+    QRect area = main.frameGeometry();
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window == &main || !window->isVisible() || window->width() < 4)
+            continue;
+        windows.append(window);
+        area |= window->geometry();
+    }
+    const qreal ratio = main.devicePixelRatioF();
+    QPixmap picture(area.size() * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(QColor(0x80, 0x88, 0x90));
     QPainter painter(&picture);
-    for (QWidget* other : QApplication::topLevelWidgets()) {
-        if (other != &window && other->isVisible())
-            painter.drawPixmap(other->mapToGlobal(QPoint()) - origin, other->grab());
+    for (QWidget* window : windows) {
+        const QRect place = window->geometry().translated(-area.topLeft());
+        if (qobject_cast<QDialog*>(window))
+            DrawFrame(painter, place, window->windowTitle());
+        painter.drawPixmap(place.topLeft(), window->grab());
     }
     return picture;
 }
 
-class Album
+void Click(QWidget* widget, const QPoint& at)
 {
-public:
-    Album(const QDir& folder, const QString& theme) : m_folder(folder), m_theme(theme) {}
+    const QPoint global = widget->mapToGlobal(at);
+    QMouseEvent press(QEvent::MouseButtonPress, at, global, Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(widget, &press);
+    QMouseEvent release(QEvent::MouseButtonRelease, at, global, Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    QApplication::sendEvent(widget, &release);
+}
 
-    void Save(const QPixmap& picture, const char* name) const
-    {
-        picture.save(m_folder.filePath(m_theme + QLatin1Char('-') + QLatin1String(name) + QStringLiteral(".png")));
-    }
-
-private:
-    QDir m_folder;
-    QString m_theme;
+/// What is seen on one picture.
+struct Scene
+{
+    const char* name;
+    const char* caption;
+    QSize size;
+    bool chosen; ///< in the sets that do not have all
+    std::function<void(ViewerWindow&)> go;
+    std::function<void(ViewerWindow&)> leave;
 };
 
-void ShowWidgets(const Album& album)
+void ShowPeek(ViewerWindow& window)
 {
-    GalleryWindow window;
-    window.resize(1000, 760);
-    window.show();
+    window.ribbonBar()->setMinimized(true);
     Settle();
-    QMenu* menu = window.menu();
-    menu->popup(window.mapToGlobal(QPoint(740, 470)));
-    menu->setActiveAction(menu->actions().at(2));
-    Settle();
-    album.Save(Shot(window), "widgets");
-    menu->hide();
-}
-
-void Hover(QWidget* widget)
-{
-    const QPointF at = widget->rect().center();
-    QHoverEvent enter(QEvent::HoverEnter, at, QPointF(-1, -1));
-    widget->setAttribute(Qt::WA_UnderMouse, true);
-    QApplication::sendEvent(widget, &enter);
-    widget->update();
-}
-
-void ShowRibbon(const Album& album)
-{
-    RibbonGalleryWindow window;
-    window.resize(1200, 420);
-    window.show();
-    Settle();
-    RibbonBar* bar = window.ribbonBar();
-    RibbonGroup* first = bar->getPage(0)->getGroup(0);
-    QAction* cut = nullptr;
-    QAction* paste = nullptr;
-    for (QAction* action : first->actions()) {
-        if (action->text() == QLatin1String("Cut"))
-            cut = action;
-        if (action->text() == QLatin1String("Paste"))
-            paste = action;
-    }
-    if (paste)
-        Hover(first->buttonForAction(paste));
-    Settle();
-    album.Save(Shot(window), "ribbon-1200");
-    if (cut) {
-        RibbonToolTip::showToolTip(window.mapToGlobal(QPoint(90, 190)), QStringLiteral("Cut (Ctrl+X)"),
-                                   QStringLiteral("Removes the selected parts from the platform and keeps them "
-                                                  "for pasting."),
-                                   cut->icon(), first->buttonForAction(cut));
-        Settle();
-        album.Save(Shot(window), "tool-tip");
-        RibbonToolTip::hideToolTip();
-    }
-    window.colorMenu()->popup(window.mapToGlobal(QPoint(500, 150)));
-    Settle();
-    album.Save(Shot(window), "gallery");
-    window.colorMenu()->hide();
-    bar->showKeyTips();
-    Settle();
-    album.Save(Shot(window), "key-tips");
-    bar->hideKeyTips();
-    window.resize(800, 420);
-    Settle();
-    album.Save(Shot(window), "ribbon-0800");
-    QScopedPointer<QWidget> page(window.takeCentralWidget());
-    window.setCentralWidget(new QWidget);
-    Settle();
-    window.resize(360, 420);
-    Settle();
-    for (RibbonGroup* group : bar->getPage(0)->groups()) {
-        if (group->isReducedToPopup()) {
-            group->showPopup();
-            break;
+    for (QWidget* child : window.ribbonBar()->findChildren<QWidget*>()) {
+        if (QByteArray(child->metaObject()->className()).contains("RibbonTabBar")) {
+            const int x = child->height() * 3;
+            Click(child,
+                  QPoint(window.isRightToLeft() ? child->width() - x : x, child->height() / 2));
+            return;
         }
     }
-    Settle();
-    album.Save(Shot(window), "ribbon-0360");
-    for (RibbonGroup* group : bar->getPage(0)->groups())
+}
+
+void ShowToolTip(ViewerWindow& window)
+{
+    for (RibbonGroup* group : window.ribbonBar()->currentPage()->groups()) {
+        for (QAction* action : group->actions()) {
+            QToolButton* button = group->buttonForAction(action);
+            if (!button || action->text() != QLatin1String("Cut"))
+                continue;
+            RibbonToolTip::showToolTip(button->mapToGlobal(QPoint(4, button->height() + 8)),
+                                       QStringLiteral("Cut (Ctrl+X)"), action->toolTip(),
+                                       action->icon(), button);
+        }
+    }
+}
+
+void ShowCollapsedGroup(ViewerWindow& window)
+{
+    for (RibbonGroup* group : window.ribbonBar()->currentPage()->groups()) {
+        if (group->isReducedToPopup()) {
+            group->showPopup();
+            return;
+        }
+    }
+}
+
+void HideCollapsedGroups(ViewerWindow& window)
+{
+    for (RibbonGroup* group : window.ribbonBar()->currentPage()->groups())
         group->hidePopup();
-    window.setCentralWidget(page.take());
-    window.resize(1000, 420);
-    bar->setCurrentPage(3);
+}
+
+void CloseDialogs(ViewerWindow&)
+{
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (auto* dialog = qobject_cast<QDialog*>(widget))
+            dialog->close();
+    }
+}
+
+void ShowMessage(ViewerWindow& window)
+{
+    auto* box =
+        new QMessageBox(QMessageBox::Question, QStringLiteral("Style viewer"),
+                        QStringLiteral("Save the changes of the build \"Bracket and gear\"?"),
+                        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window);
+    box->setInformativeText(QStringLiteral("What is not saved is lost."));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->show();
     Settle();
-    album.Save(Shot(window), "contextual");
-    bar->setCurrentPage(0);
-    bar->setMinimized(true);
-    Settle();
-    album.Save(Shot(window), "minimised");
-    bar->setMinimized(false);
-    window.setLayoutDirection(Qt::RightToLeft);
-    Settle();
-    album.Save(Shot(window), "right-to-left");
-    window.setLayoutDirection(Qt::LeftToRight);
-    bar->setFrameThemeEnabled(true);
-    Settle();
-    album.Save(Shot(window), "framed");
-    window.backstage()->setVisible(true);
-    Settle();
-    album.Save(Shot(window), "backstage");
-    window.backstage()->setVisible(false);
+    box->move(window.geometry().center() - box->rect().center());
+}
+
+const std::vector<Scene>& Scenes()
+{
+    using W = ViewerWindow;
+    const QSize usual(1280, 760);
+    static const std::vector<Scene> scenes{
+        {"home", "The first page, sheets of controls and panels", usual, true, [](W&) {}, {}},
+        {"ribbon-1600", "1,600 wide", {1600, 420}, false, [](W&) {}, {}},
+        {"ribbon-1000",
+         "1,000 wide: the groups on the right have given way",
+         {1000, 420},
+         false,
+         [](W&) {},
+         {}},
+        {"ribbon-800", "800 wide", {800, 520}, false, [](W&) {}, {}},
+        {"collapsed-group",
+         "440 wide: a group that became a button shows its popup",
+         {440, 520},
+         false,
+         ShowCollapsedGroup,
+         HideCollapsedGroups},
+        {"elements",
+         "One of each kind of element, with a gallery",
+         usual,
+         true,
+         [](W& w) {
+             w.ShowPage(W::tr("Elements"));
+             w.ShowSheet(W::Views);
+         },
+         {}},
+        {"states",
+         "Buttons of the ribbon and all controls in all states",
+         {1380, 1120},
+         true,
+         [](W& w) {
+             w.ShowPage(W::tr("Button states"));
+             w.ShowSheet(W::States);
+         },
+         {}},
+        {"contextual",
+         "The page of a context",
+         {1280, 420},
+         false,
+         [](W& w) { w.ShowPage(W::tr("Supports")); },
+         {}},
+        {"minimised",
+         "Only the tabs",
+         {1280, 420},
+         false,
+         [](W& w) { w.ribbonBar()->setMinimized(true); },
+         [](W& w) { w.ribbonBar()->setMinimized(false); }},
+        {"peek",
+         "A minimised ribbon shows a page over the content",
+         {1280, 420},
+         false,
+         ShowPeek,
+         [](W& w) {
+             w.ribbonBar()->endPeek();
+             w.ribbonBar()->setMinimized(false);
+         }},
+        {"key-tips",
+         "Key tips",
+         {1280, 420},
+         false,
+         [](W& w) { w.ribbonBar()->showKeyTips(); },
+         [](W& w) { w.ribbonBar()->hideKeyTips(); }},
+        {"tool-tip",
+         "A tool tip",
+         {1280, 420},
+         false,
+         ShowToolTip,
+         [](W&) { RibbonToolTip::hideToolTip(); }},
+        {"gallery",
+         "A gallery of colours",
+         {1280, 560},
+         true,
+         [](W& w) {
+             w.ShowPage(W::tr("Elements"));
+             w.ColorMenu()->popup(w.mapToGlobal(QPoint(560, 150)));
+         },
+         [](W& w) { w.ColorMenu()->hide(); }},
+        {"menu",
+         "A menu",
+         {1280, 620},
+         false,
+         [](W& w) {
+             w.EditMenu()->popup(w.mapToGlobal(QPoint(500, 330)));
+             w.EditMenu()->setActiveAction(w.EditMenu()->actions().at(2));
+         },
+         [](W& w) { w.EditMenu()->hide(); }},
+        {"backstage", "The backstage", usual, true,
+         [](W& w) { w.GetBackstage()->setVisible(true); },
+         [](W& w) { w.GetBackstage()->setVisible(false); }},
+        {"panels", "Docked and floating panels", usual, false, [](W& w) { w.FloatPanel(true); },
+         [](W& w) { w.FloatPanel(false); }},
+        {"message", "A message", {1280, 620}, false, ShowMessage, CloseDialogs},
+        {"customize",
+         "The customise dialog",
+         {1280, 760},
+         true,
+         [](W&) { ovk::RibbonWindow::OnCustomizeUI(); },
+         CloseDialogs},
+        {"right-to-left", "From right to left", usual, false,
+         [](W&) { QApplication::setLayoutDirection(Qt::RightToLeft); },
+         [](W&) { QApplication::setLayoutDirection(Qt::LeftToRight); }},
+        {"inactive",
+         "An inactive window with the frame of the window system",
+         {1280, 420},
+         false,
+         [](W& w) { w.setFrameTheme(false); },
+         [](W& w) { w.setFrameTheme(true); }},
+    };
+    return scenes;
+}
+
+/// A theme or a palette of high contrast.
+struct Ground
+{
+    QString key;
+    QString title;
+    Look look;
+};
+
+QVector<Ground> GroundsOf(const PictureSet& set)
+{
+    QVector<Ground> grounds;
+    for (const int theme : set.themes) {
+        Ground ground{QStringLiteral("%1").arg(theme, 2, 10, QLatin1Char('0')),
+                      ThemeNames().value(theme),
+                      {}};
+        ground.look.theme = theme;
+        grounds.append(ground);
+    }
+    if (set.all && set.themes.size() > 1) {
+        Ground black{QStringLiteral("black"), QStringLiteral("High contrast, black"), {}};
+        black.look.contrast = Look::HighBlack;
+        Ground white{QStringLiteral("white"), QStringLiteral("High contrast, white"), {}};
+        white.look.contrast = Look::HighWhite;
+        grounds << black << white;
+        Ground accent{QStringLiteral("orange"),
+                      QStringLiteral("Office 2013 White with an accent of orange"),
+                      {}};
+        accent.look.accent = QColor(0xD2, 0x47, 0x26);
+        grounds << accent;
+    }
+    return grounds;
+}
+
+bool Belongs(const PictureSet& set, const Ground& ground, const Scene& scene)
+{
+    // The extra grounds show what is theirs in the choice of scenes.
+    const bool extra = !ground.key.at(0).isDigit();
+    return scene.chosen || (set.all && !extra);
+}
+
+QString FileName(const Ground& ground, const Scene& scene)
+{
+    return QStringLiteral("%1-%2.png").arg(ground.key, QLatin1String(scene.name));
 }
 
 } // namespace
 
-void WritePictures(OfficeStyle& style, const QDir& folder)
+QVector<PictureSet> PictureSets(const QVector<int>& themes)
 {
-    const QMetaEnum themes = QMetaEnum::fromType<OfficeStyle::Theme>();
-    for (int i = 0; i < themes.keyCount(); ++i) {
-        style.setTheme(static_cast<OfficeStyle::Theme>(themes.value(i)));
-        const Album album(folder, QString::fromLatin1(themes.key(i)));
-        ShowWidgets(album);
-        ShowRibbon(album);
+    QVector<int> every;
+    for (int i = 0; i < ThemeNames().size(); ++i)
+        every.append(i);
+    QVector<PictureSet> sets{
+        {QStringLiteral("100"), QStringLiteral("At 100 %"), 100, 96, every, true},
+        {QStringLiteral("200"), QStringLiteral("At 200 %"), 200, 96, every, false},
+        {QStringLiteral("120dpi"), QStringLiteral("At 120 dpi"), 100, 120, {0, 6, 8}, false},
+        {QStringLiteral("144dpi"), QStringLiteral("At 144 dpi"), 100, 144, {0, 6, 8}, false},
+    };
+    if (!themes.isEmpty()) {
+        for (PictureSet& set : sets)
+            set.themes = themes;
+        sets[1].all = true;
     }
+    return sets;
+}
+
+QStringList PictureNames(const PictureSet& set)
+{
+    QStringList names;
+    for (const Ground& ground : GroundsOf(set)) {
+        for (const Scene& scene : Scenes()) {
+            if (Belongs(set, ground, scene))
+                names.append(FileName(ground, scene));
+        }
+    }
+    return names;
+}
+
+bool TakePictures(ViewerWindow& window, const PictureSet& set, const QDir& folder)
+{
+    const QString home = window.ribbonBar()->getPage(0)->title();
+    // At a higher resolution the same window holds more dots.
+    const qreal grown = set.dpi / 96.0;
+    bool good = true;
+    for (const Ground& ground : GroundsOf(set)) {
+        window.TakeLook(ground.look);
+        for (const Scene& scene : Scenes()) {
+            if (!Belongs(set, ground, scene))
+                continue;
+            window.ShowPage(home);
+            window.ShowSheet(ViewerWindow::Controls);
+            window.resize(scene.size * grown);
+            Settle();
+            scene.go(window);
+            Settle();
+            const QString path = folder.filePath(FileName(ground, scene));
+            if (!Shot(window).save(path, "PNG", 60)) {
+                std::fprintf(stderr, "The picture %s cannot be written.\n", qPrintable(path));
+                good = false;
+            }
+            if (scene.leave)
+                scene.leave(window);
+            Settle(10);
+        }
+    }
+    return good;
+}
+
+bool WriteIndex(const QVector<PictureSet>& sets, const QDir& folder)
+{
+    QSaveFile file(folder.filePath(QStringLiteral("index.html")));
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    QTextStream out(&file);
+    out.setCodec("UTF-8");
+    out << "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><title>Style "
+           "viewer</title>\n"
+           "<style>body{font:14px sans-serif;margin:2em;background:#f4f4f4;color:#222}"
+           "figure{display:inline-block;margin:0 1.5em 1.5em 0;vertical-align:top}"
+           "img{max-width:620px;border:1px solid "
+           "#bbb;background:#fff}figcaption{margin-top:.4em}</style>\n"
+           "</head><body><h1>Style viewer</h1>\n";
+    for (const PictureSet& set : sets) {
+        out << "<h2>" << set.title.toHtmlEscaped() << "</h2>\n";
+        for (const Ground& ground : GroundsOf(set)) {
+            out << "<h3>" << ground.title.toHtmlEscaped() << "</h3>\n";
+            for (const Scene& scene : Scenes()) {
+                if (!Belongs(set, ground, scene))
+                    continue;
+                const QString path = set.folder + QLatin1Char('/') + FileName(ground, scene);
+                out << "<figure><a href=\"" << path << "\"><img loading=\"lazy\" src=\"" << path
+                    << "\"></a><figcaption>" << scene.caption << "</figcaption></figure>\n";
+            }
+        }
+    }
+    out << "</body></html>\n";
+    out.flush();
+    return file.commit();
 }

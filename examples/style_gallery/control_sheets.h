@@ -1,0 +1,8 @@
+#pragma once
+
+class QWidget;
+
+/// Buttons, fields, choices and ranges, all alive.
+QWidget* MakeControlsSheet();
+/// Trees, tables, lists and texts, a calendar and a box of pages.
+QWidget* MakeViewsSheet();
