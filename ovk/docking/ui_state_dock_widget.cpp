@@ -7,16 +7,12 @@
 #include "ovk/docking/ui_state_dock_live_p.h"
 #include "ovk/docking/ui_state_docking.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 
 namespace ovk {
 
 namespace {
-
-constexpr const char* c_panel_context = "toolsheets";
-constexpr const char* c_page_context = "toolpages";
 
 const QLatin1String c_key_spacer("is_spacer");
 const QLatin1String c_key_width("width");
@@ -39,15 +35,6 @@ void KeepTitle(ITreeItem* node, const QString& id, const QString& title)
 {
     if (UiStateDocking* const root = UiStateDocking::FindRoot(node))
         root->SetTitle(id, title);
-}
-
-QString Translated(const char* context, const QString& title, const QString& disambiguation)
-{
-    if (title.isEmpty())
-        return title;
-    const QByteArray hint = disambiguation.toUtf8();
-    return QCoreApplication::translate(context, title.toUtf8().constData(),
-                                       hint.isEmpty() ? nullptr : hint.constData());
 }
 
 /// Bounded, so that the far corner of a rectangle is a number too.
@@ -109,7 +96,7 @@ QString UiStateDockPage::GetTitle() const
 
 QString UiStateDockPage::GetDisplayTitle() const
 {
-    return Translated(c_page_context, GetTitle(), GetName());
+    return TranslatedPageTitle(GetName(), GetTitle());
 }
 
 /// A field that is written only when it differs from its default.
@@ -149,8 +136,9 @@ UiStateDockWidget::UiStateDockWidget(QWidget* widget) : TUiState(NameOf(widget))
     const bool away = panel->GetManager()->_Impl()->hidden.contains(panel);
     SetVisible(away || !panel->IsExplicitlyHidden());
     // What folded for want of room is not the user's wish: it opens again where there is room.
-    m_minimized = panel->IsCollapsed() && !panel->IsForcedCollapsed() &&
-                  !panel->_Impl()->folded_for_room;
+    const bool no_room = panel->GetToolboxSite() &&
+                         (panel->IsForcedCollapsed() || panel->_Impl()->folded_for_room);
+    m_minimized = panel->IsCollapsed() && !no_room;
     m_minimizable = panel->IsCollapsible();
     m_title_visible = panel->IsTitleEnabled();
     m_movable = panel->IsMovable();
@@ -208,7 +196,7 @@ QString UiStateDockWidget::GetTitle() const
 
 QString UiStateDockWidget::GetDisplayTitle() const
 {
-    return Translated(c_panel_context, GetTitle(), {});
+    return TranslatedPanelTitle(GetTitle());
 }
 
 DockWidget* UiStateDockWidget::Materialize()
@@ -228,7 +216,8 @@ DockWidget* UiStateDockWidget::Materialize()
     panel.SetDeleteOnEmpty(!IsPersistent());
     panel.SetOwnWidgets(false);
     panel.SetFitToCurrent(true);
-    panel.SetForcedTitle(GetDisplayTitle());
+    UiStateDocking* const root = UiStateDocking::FindRoot(this);
+    panel.SetForcedTitle(root ? root->ShowPanelTitle(GetName()) : GetDisplayTitle());
     panel.SetTitleEnabled(m_title_visible);
     panel.SetClosable(m_closeable);
     panel.SetCollapsed(m_minimized, false);
@@ -243,6 +232,7 @@ void UiStateDockWidget::_AddPages(DockWidget& panel)
     IWidgetFactory* const factory = IWidgetFactory::GetInstance();
     if (!factory)
         return;
+    UiStateDocking* const root = UiStateDocking::FindRoot(this);
     const QPointer<DockWidget> guard(&panel);
     for (const UiStateDockPage* page : _GetChildren()) {
         QWidget* const widget = factory->CreatePageWidget(page->GetName());
@@ -251,7 +241,8 @@ void UiStateDockWidget::_AddPages(DockWidget& panel)
         // The identifier under which the page is stored again.
         if (widget->objectName().isEmpty())
             widget->setObjectName(page->GetName());
-        const QString title = page->GetDisplayTitle();
+        const QString title =
+            root ? root->ShowPageTitle(page->GetName()) : page->GetDisplayTitle();
         if (!title.isEmpty())
             widget->setWindowTitle(title);
         if (auto* const dock_page = dynamic_cast<IDockPage*>(widget))

@@ -2,9 +2,15 @@
 
 #include "ovk/docking/dock_area.h"
 #include "ovk/docking/dock_manager.h"
+#include "ovk/docking/dock_page.h"
+#include "ovk/docking/dock_widget.h"
 #include "ovk/docking/ui_state_dock_live_p.h"
 #include "ovk/main_window/ribbon_window.h"
 #include "ovk/main_window/ribbon_window_p.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <typeinfo>
 
 namespace ovk {
 
@@ -14,6 +20,22 @@ const QLatin1String c_areas_id("areas");
 const QLatin1String c_floated_id("floated");
 
 } // namespace
+
+QString TranslatedPanelTitle(const QString& title)
+{
+    return title.isEmpty()
+               ? title
+               : QCoreApplication::translate("toolsheets", title.toUtf8().constData());
+}
+
+QString TranslatedPageTitle(const QString& id, const QString& title)
+{
+    const QByteArray hint = id.toUtf8();
+    return title.isEmpty() ? title
+                           : QCoreApplication::translate("toolpages", title.toUtf8().constData(),
+                                                         hint.isEmpty() ? nullptr
+                                                                        : hint.constData());
+}
 
 DockManager* LiveDockManager()
 {
@@ -125,10 +147,38 @@ void UiStateDocking::SetTitle(const QString& id, const QString& title)
     m_titles.insert(id, title);
 }
 
+QString UiStateDocking::ShowPanelTitle(const QString& id)
+{
+    return m_shown_panels[id] = TranslatedPanelTitle(GetTitle(id));
+}
+
+QString UiStateDocking::ShowPageTitle(const QString& id)
+{
+    return m_shown_pages[id] = TranslatedPageTitle(id, GetTitle(id));
+}
+
+void UiStateDocking::_TranslateTitles(DockWidget& panel)
+{
+    const QString name = panel.objectName();
+    if (m_shown_panels.contains(name) && panel.GetForcedTitle() == m_shown_panels.value(name))
+        panel.SetForcedTitle(ShowPanelTitle(name));
+    for (int i = 0; i < panel.GetCount(DockWidget::All); ++i) {
+        QWidget* const page = panel.GetPageAt(i, DockWidget::All)->GetWidget();
+        const QString id = page->objectName();
+        if (m_shown_pages.contains(id) && page->windowTitle() == m_shown_pages.value(id))
+            page->setWindowTitle(ShowPageTitle(id));
+    }
+}
+
 UiStateDocking* UiStateDocking::FindRoot(ITreeItem* node)
 {
-    for (; node; node = node->GetParent()) {
-        if (auto* const root = dynamic_cast<UiStateDocking*>(node))
+    // Asked for each title that is written: a comparison costs a small part of a cast that fails.
+    for (ITreeItem* item = node; item; item = item->GetParent()) {
+        if (typeid(*item) == typeid(UiStateDocking))
+            return static_cast<UiStateDocking*>(item);
+    }
+    for (ITreeItem* item = node; item; item = item->GetParent()) {
+        if (auto* const root = dynamic_cast<UiStateDocking*>(item))
             return root;
     }
     return nullptr;
@@ -195,6 +245,8 @@ void UiStateDocking::_Validate(QSet<QString>&)
     for (const QPointer<DockWidget>& panel : qAsConst(panels)) {
         if (panel)
             panel->AvailabilityChanged();
+        if (panel)
+            _TranslateTitles(*panel);
     }
 }
 

@@ -80,6 +80,10 @@ public:
     QString GetTitle(const QString& id) const;
     void SetTitle(const QString& id, const QString& title);
 
+    /// The title of a panel or page in the user's language, which it shows from now on.
+    QString ShowPanelTitle(const QString& id);
+    QString ShowPageTitle(const QString& id);
+
     /// The root above a node; null if it is in no docking state.
     static UiStateDocking* FindRoot(ITreeItem* node);
     static const UiStateDocking* FindRoot(const ITreeItem* node);
@@ -90,11 +94,17 @@ protected:
     void _Activate(ActivationMode mode) override;
     void _Deactivate(ActivationMode mode) override;
     void _Store() override;
-    /// Shows and hides the pages of all live panels by their availability.
+    /// Shows and hides the pages of all live panels by their availability, and gives the panels and
+    /// pages their titles in the present language.
     void _Validate(QSet<QString>& changed) override;
 
 private:
+    void _TranslateTitles(DockWidget& panel);
+
     QHash<QString, QString> m_titles;
+    /// What panels and pages were given to show: a title that somebody changed since is left alone.
+    QHash<QString, QString> m_shown_panels;
+    QHash<QString, QString> m_shown_pages;
 };
 
 } // namespace ovk

@@ -53,6 +53,7 @@ void RibbonWindow::Impl::Assemble()
 {
     RibbonWindow& window = _pr();
     window.setMinimumSize(800, 600);
+    window.installEventFilter(this);
     CreateDocks();
 
     Qtitan::RibbonBar* bar = window.ribbonBar();
@@ -86,9 +87,9 @@ void RibbonWindow::Impl::CreateCornerButtons()
     Qtitan::RibbonBar* bar = _pr().ribbonBar();
     // The command is only the switch: the button has an action of its own.
     if (FindCommand("Ui.Ribbon.Minimize.Button")) {
-        minimize_action = bar->addAction(Icon("ribbonMinimize"), RibbonWindow::tr("Minimize the Ribbon"),
-                                         Qt::ToolButtonIconOnly, nullptr);
-        minimize_action->setStatusTip(RibbonWindow::tr("Show only the tab names on the Ribbon"));
+        minimize_action =
+            bar->addAction(Icon("ribbonMinimize"), QString(), Qt::ToolButtonIconOnly, nullptr);
+        Retranslate();
         minimize_action->setShortcut(QKeySequence(RibbonWindow::tr("Ctrl+F1")));
         connect(minimize_action, &QAction::triggered, this, &Impl::OnMaximizeToggle);
         connect(bar, &Qtitan::RibbonBar::minimizationChanged, this, &Impl::OnMinimizationChanged);
@@ -209,8 +210,27 @@ void RibbonWindow::Impl::OnMinimizationChanged(bool minimized)
     // The action is not checkable, so this shows nowhere; a host that makes it so finds it right.
     minimize_action->setChecked(minimized);
     minimize_action->setIcon(Icon(minimized ? "ribbonMaximize" : "ribbonMinimize"));
-    minimize_action->setText(minimized ? RibbonWindow::tr("Restore the Ribbon")
-                                       : RibbonWindow::tr("Minimize the Ribbon"));
+    Retranslate();
+}
+
+bool RibbonWindow::Impl::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == &_pr() && event->type() == QEvent::LanguageChange) {
+        Retranslate();
+        if (system_action)
+            system_action->setText(_pr().fileMenuText());
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void RibbonWindow::Impl::Retranslate()
+{
+    if (!minimize_action)
+        return;
+    minimize_action->setText(_pr().ribbonBar()->isMinimized()
+                                 ? RibbonWindow::tr("Restore the Ribbon")
+                                 : RibbonWindow::tr("Minimize the Ribbon"));
+    minimize_action->setStatusTip(RibbonWindow::tr("Show only the tab names on the Ribbon"));
 }
 
 } // namespace ovk

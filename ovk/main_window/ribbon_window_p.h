@@ -31,6 +31,9 @@ public:
 
     void ClearToolbarsMenu();
 
+    /// Follows the window's language.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 public Q_SLOTS:
     void OnContextMenu(const QPoint& position);
     void OnShowBackstage();
@@ -60,6 +63,7 @@ private:
     void FollowSettings();
     void AddPageActions(QMenu& menu);
     void EnableWhileNoBackstage(bool enabled);
+    void Retranslate();
 
     // Members and not delete-on-detach observers: they leave the process-wide settings with the
     // window.

@@ -42,6 +42,12 @@ void ForEachSpotOf(UiStateCommandSpots& site, const QString& name, const IUiItem
 
 } // namespace
 
+std::function<QIcon(const QString&)>& CompositeIconSource()
+{
+    static std::function<QIcon(const QString&)> source;
+    return source;
+}
+
 UiStateComposite::Impl::Impl(UiStateComposite& owner) : PimplBasics(owner) {}
 
 UiStateComposite::Impl::Impl(UiStateComposite& owner, const Impl& other)
@@ -117,6 +123,15 @@ bool UiStateComposite::Impl::ApplyTitle()
     return true;
 }
 
+bool UiStateComposite::Impl::ApplyIcon()
+{
+    const std::function<QIcon(const QString&)>& source = CompositeIconSource();
+    if (!mp_command || m_icon.isEmpty() || !source)
+        return false;
+    mp_command->SetIcon(source(m_icon));
+    return true;
+}
+
 void UiStateComposite::Impl::Recreate()
 {
     if (!mp_command) {
@@ -125,6 +140,9 @@ void UiStateComposite::Impl::Recreate()
     }
     const std::unique_ptr<ICompositeCommand> old = std::move(mp_command);
     owner().Activate(amOrdinary);
+    // An icon that the host gave to the old command is the composite's, not the command's.
+    if (mp_command->ICompositeCommand::GetIcon().isNull())
+        mp_command->SetIcon(old->ICompositeCommand::GetIcon());
     UiLayout* layout = owner().GetLayout();
     if (!layout)
         return;
@@ -233,7 +251,11 @@ const QString& UiStateComposite::GetIconName() const
 
 void UiStateComposite::SetIconName(const QString& icon)
 {
+    if (icon == _pr().m_icon)
+        return;
     _pr().m_icon = icon;
+    if (_pr().ApplyIcon())
+        _pr().RebuildSites();
 }
 
 void UiStateComposite::InsertItem(UiStateCompositeItem* item, int index)
@@ -303,6 +325,7 @@ void UiStateComposite::Activate(ActivationMode)
     _pr().mp_command.reset(_CreateCommand());
     _pr().m_live_title = GetTitle();
     _pr().mp_command->SetTitle(_pr().m_live_title);
+    _pr().ApplyIcon();
     _pr().Refill();
 }
 

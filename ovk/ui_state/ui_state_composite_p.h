@@ -6,8 +6,14 @@
 
 #include <QtCore/QList>
 #include <QtCore/QVector>
+#include <QtGui/QIcon>
+
+#include <functional>
 
 namespace ovk {
+
+/// What gives the icon of an icon name; empty until the host sets it.
+std::function<QIcon(const QString&)>& CompositeIconSource();
 
 /// The items of a composite and its live command.
 class UiStateComposite::Impl : public PimplBasics<UiStateComposite>
@@ -29,6 +35,8 @@ public:
     void Refresh();
     /// Gives the live command, if any, the title of the node. Whether that changed anything.
     bool ApplyTitle();
+    /// Gives the live command, if any, the icon of the node's icon name. Whether it has one now.
+    bool ApplyIcon();
     /// Puts a new live command in place of the one that there is, on all sites. When there is none,
     /// the sites try whether the composite can be shown now.
     void Recreate();

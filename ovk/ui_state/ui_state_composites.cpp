@@ -22,6 +22,11 @@ const QString& UiStateComposites::GetSuiteName()
     return name;
 }
 
+void UiStateComposites::SetIconSource(std::function<QIcon(const QString& name)> source)
+{
+    CompositeIconSource() = std::move(source);
+}
+
 UiStateCompositeMenu* UiStateComposites::CreateMenu()
 {
     return new UiStateCompositeMenu(QString());

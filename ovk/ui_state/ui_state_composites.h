@@ -3,6 +3,8 @@
 #include <ovk/ui_state/t_ui_state.h>
 #include <ovk/ui_state/ui_state_composite.h>
 
+#include <functional>
+
 namespace ovk {
 
 /// The composite commands that the user (or the default) made in a layout.
@@ -17,6 +19,12 @@ public:
 
     /// "composite".
     static const QString& GetSuiteName();
+
+    /// Gives the icon of an icon name, for the composites that carry one; `IconsController::Load`
+    /// serves most hosts. Without a source, or with an empty function, a name is stored and nothing
+    /// else, and whoever wants a picture gives it to the live command. The source is asked when a
+    /// live command is made and when the name of its composite changes.
+    static void SetIconSource(std::function<QIcon(const QString& name)> source);
 
     /// A new menu button with an empty name; the caller owns it.
     static UiStateCompositeMenu* CreateMenu();

@@ -34,8 +34,13 @@ public:
         if (m_step.IsValid())
             editor.setSingleStep(m_step.GetActual());
         editor.blockSignals(false);
+        UpdateSuffix();
+    }
+
+    void UpdateSuffix()
+    {
         if (m_dynamic_suffix)
-            editor.setSuffix(units.GetAbbreviation());
+            _pr().setSuffix(UnitsController::GetCurrentUnits().GetAbbreviation());
     }
 
     std::unique_ptr<ObserverProxy<Impl>> mp_units_observer;
@@ -53,6 +58,13 @@ EditDblUnits::EditDblUnits(QWidget* parent) : EditDblSuffix(new Impl(*this), par
 }
 
 EditDblUnits::~EditDblUnits() = default;
+
+void EditDblUnits::changeEvent(QEvent* event)
+{
+    EditDblSuffix::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        _Units().UpdateSuffix();
+}
 
 EditDblUnits::Impl& EditDblUnits::_Units()
 {

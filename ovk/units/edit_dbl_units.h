@@ -64,6 +64,10 @@ public:
     /// Changes the number of digits; ignored while it follows the current units.
     void setDecimals(int decimals);
 
+protected:
+    /// In another language the unit is abbreviated anew.
+    void changeEvent(QEvent* event) override;
+
 private:
     class Impl;
     Impl& _Units();

@@ -54,6 +54,13 @@ void UnitsLabel::setPowerValue(PowerValue power)
     _UpdateText();
 }
 
+void UnitsLabel::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        _UpdateText();
+}
+
 void UnitsLabel::_OnUnitsChanged()
 {
     _UpdateText();

@@ -34,6 +34,10 @@ public:
     /// Changes the power of the unit.
     void setPowerValue(PowerValue power);
 
+protected:
+    /// In another language the unit is abbreviated anew.
+    void changeEvent(QEvent* event) override;
+
 private:
     void _OnUnitsChanged();
     void _UpdateText();
