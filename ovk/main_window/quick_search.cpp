@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QKeyEvent>
+#include <QListView>
 #include <QPointer>
 #include <QToolBar>
 #include <QWidgetAction>
@@ -28,13 +29,6 @@ QPointer<QAction>& ShowAction()
 {
     static QPointer<QAction> action;
     return action;
-}
-
-QString DisplayText(UiCommand& command)
-{
-    const QString shortcut = command.shortcut().toString(QKeySequence::PortableText);
-    const QString title = command.GetTitle();
-    return shortcut.isEmpty() ? title : title + QStringLiteral(" (") + shortcut + QLatin1Char(')');
 }
 
 UiCommand* CommandAt(const QModelIndex& index)
@@ -68,7 +62,7 @@ QVariant QSCommandModel::data(const QModelIndex& index, int role) const
     UiCommand* command = at(index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return DisplayText(*command);
+        return DisplayText(index.row());
     case Qt::DecorationRole:
         return command->icon();
     case Qt::ToolTipRole:
@@ -80,6 +74,23 @@ QVariant QSCommandModel::data(const QModelIndex& index, int role) const
     default:
         return {};
     }
+}
+
+const QString& QSCommandModel::DisplayText(int row) const
+{
+    if (static_cast<int>(m_texts.size()) != size())
+        m_texts.assign(static_cast<std::size_t>(size()), Text());
+    UiCommand& command = *at(row);
+    Text& text = m_texts[static_cast<std::size_t>(row)];
+    const QString title = command.text();
+    const QKeySequence shortcut = command.shortcut();
+    if (text.display.isEmpty() || text.title != title || text.shortcut != shortcut) {
+        text = {title, shortcut, command.GetTitle()};
+        if (!shortcut.isEmpty())
+            text.display += QStringLiteral(" (") + shortcut.toString(QKeySequence::PortableText) +
+                            QLatin1Char(')');
+    }
+    return text.display;
 }
 
 Qt::ItemFlags QSCommandModel::flags(const QModelIndex& index) const
@@ -94,6 +105,7 @@ void QSCommandModel::SetLayout(UiLayout* layout)
 {
     beginResetModel();
     clear();
+    m_texts.clear();
     if (layout)
         UiFeaturesController::GetInstance()->GetAvailableLayoutCommands(layout->GetName(), *this);
     endResetModel();
@@ -103,7 +115,7 @@ QuickSearchWidget::QuickSearchWidget(QWidget* parent)
     : QLineEdit(parent)
 {
     setAccessibleName(QStringLiteral("QuickSearchWidget"));
-    setWindowTitle(QObject::tr("Quick search"));
+    Retranslate();
 
     m_proxy.setSourceModel(&m_model);
     m_proxy.setFilterCaseSensitivity(Qt::CaseInsensitive);
@@ -117,7 +129,6 @@ QuickSearchWidget::QuickSearchWidget(QWidget* parent)
     m_completer.setCompletionRole(Qt::DisplayRole);
 
     setClearButtonEnabled(true);
-    setPlaceholderText(QObject::tr("Quick search (Shift+Q)"));
     setFixedWidth(c_edit_width);
     setCompleter(&m_completer);
     connect(this, &QLineEdit::returnPressed, this, &QuickSearchWidget::OnReturnPressed);
@@ -135,7 +146,17 @@ bool QuickSearchWidget::event(QEvent* event)
 {
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
         clearFocus();
+    else if (event->type() == QEvent::LanguageChange)
+        Retranslate();
     return QLineEdit::event(event);
+}
+
+void QuickSearchWidget::Retranslate()
+{
+    setWindowTitle(QObject::tr("Quick search"));
+    setPlaceholderText(QObject::tr("Quick search (Shift+Q)"));
+    if (m_action)
+        m_action->setText(windowTitle());
 }
 
 void QuickSearchWidget::focusInEvent(QFocusEvent* event)
@@ -145,6 +166,9 @@ void QuickSearchWidget::focusInEvent(QFocusEvent* event)
         m_model.SetLayout(controller ? controller->GetActiveLayout() : nullptr);
         m_proxy.sort(0, Qt::AscendingOrder);
         m_stale = false;
+        // One line each: without this the list would measure every match at every key.
+        if (auto* list = qobject_cast<QListView*>(m_completer.popup()))
+            list->setUniformItemSizes(true);
     }
     connect(&m_completer, QOverload<const QModelIndex&>::of(&QCompleter::highlighted), this,
             &QuickSearchWidget::OnHighlighted, Qt::UniqueConnection);
@@ -257,7 +281,7 @@ void InstallQuickSearch()
 
     QPointer<QuickSearchWidget> edit = std::make_unique<QuickSearchWidget>(quick_access).release();
     QPointer<QAction> edit_action = quick_access->addWidget(edit);
-    edit_action->setText(QObject::tr("Quick search"));
+    edit->SetAction(edit_action);
 
     QPointer<QAction>& show = ShowAction();
     if (!show) {

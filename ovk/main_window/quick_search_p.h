@@ -3,11 +3,16 @@
 #include <ovk/core/export.h>
 
 #include <QAbstractTableModel>
+#include <QAction>
 #include <QCompleter>
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QList>
 #include <QModelIndex>
+#include <QPointer>
 #include <QSortFilterProxyModel>
+
+#include <vector>
 
 class QToolBar;
 
@@ -37,6 +42,21 @@ public:
 
     /// Lists the commands that the layout offers; none for null. They are not owned.
     void SetLayout(UiLayout* layout);
+
+private:
+    /// The text of a row, and what it was made from.
+    struct Text
+    {
+        QString title;
+        QKeySequence shortcut;
+        QString display;
+    };
+
+    const QString& DisplayText(int row) const;
+
+    /// Sorting and each key typed ask for all texts over and over. They are made once, and again
+    /// when the command says something else.
+    mutable std::vector<Text> m_texts;
 };
 
 /// The edit at the end of the quick access bar that finds a command by its title and runs it.
@@ -59,6 +79,12 @@ public:
     bool IsRunning() const { return m_running; }
     /// Takes the edit out of use: the shortcut is its successor's from here on.
     void Retire() { m_retired = true; }
+    /// The action that stands for the edit on its bar; its text follows the language with the edit.
+    void SetAction(QAction* action)
+    {
+        m_action = action;
+        Retranslate();
+    }
 
 private Q_SLOTS:
     void OnHighlighted(const QModelIndex& index);
@@ -68,6 +94,7 @@ private Q_SLOTS:
 
 private:
     bool Run(const QModelIndex& index);
+    void Retranslate();
     QModelIndex FindFirstEnabled();
 
     QCompleter m_completer;
@@ -80,6 +107,7 @@ private:
     bool m_stale = true;
     bool m_running = false;
     bool m_retired = false;
+    QPointer<QAction> m_action;
 };
 
 /// Takes the quick search edit off a tool bar, before the bar is cleared; does nothing where there
