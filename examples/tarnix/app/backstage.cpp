@@ -11,14 +11,17 @@
 
 namespace tarnix {
 
-HostBackstagePage::HostBackstagePage(Host& host, QWidget* parent, const QString& title)
+HostBackstagePage::HostBackstagePage(Host& host, QWidget* parent, const Phrase& title)
     : BackstagePageBase(parent), m_host(host)
 {
-    setWindowTitle(title);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(40, 28, 40, 28);
     layout->setSpacing(14);
-    auto* heading = new QLabel(title, this);
+    auto* heading = new QLabel(this);
+    Say([this, heading, title] {
+        setWindowTitle(title.Text());
+        heading->setText(title.Text());
+    });
     heading->setObjectName(QStringLiteral("pageTitle"));
     QFont font = heading->font();
     font.setPointSizeF(font.pointSizeF() * 2.2);
@@ -49,15 +52,33 @@ void HostBackstagePage::AddButtons(const QStringList& commands)
     mp_body->addLayout(grid);
 }
 
-QLabel* HostBackstagePage::AddHeading(const QString& text)
+QLabel* HostBackstagePage::AddHeading(const Phrase& text)
 {
-    auto* label = new QLabel(text, this);
+    auto* label = new QLabel(this);
+    Say([label, text] { label->setText(text.Text()); });
     QFont font = label->font();
     font.setPointSizeF(font.pointSizeF() * 1.25);
     font.setBold(true);
     label->setFont(font);
     mp_body->addWidget(label);
     return label;
+}
+
+void HostBackstagePage::Say(const std::function<void()>& set)
+{
+    set();
+    m_texts.push_back(set);
+}
+
+void HostBackstagePage::changeEvent(QEvent* event)
+{
+    BackstagePageBase::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    for (const std::function<void()>& set : m_texts)
+        set();
+    if (isVisible())
+        Refresh();
 }
 
 void HostBackstagePage::showEvent(QShowEvent* event)

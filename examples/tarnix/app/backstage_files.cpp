@@ -18,10 +18,14 @@
 namespace tarnix {
 namespace {
 
-QString Tr(const char* text)
+class Texts
 {
-    return QCoreApplication::translate("tarnix::Backstage", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(tarnix::Backstage)
+
+public:
+    /// A text that follows the language.
+    static Phrase Later(const char* source) { return {"tarnix::Backstage", source}; }
+};
 
 /// A label that shows the scene as it is when the page opens.
 QLabel* MakePreview(QWidget* parent, const QSize& size)
@@ -47,10 +51,10 @@ void FillPreview(Host& host, QLabel* label)
 class InfoPage : public HostBackstagePage
 {
 public:
-    InfoPage(Host& host, QWidget* parent) : HostBackstagePage(host, parent, Tr("Info"))
+    InfoPage(Host& host, QWidget* parent) : HostBackstagePage(host, parent, Texts::Later("Info"))
     {
         setWindowIcon(ovk::IconsController::Load(QStringLiteral("Help.About")));
-        mp_name = AddHeading(QString());
+        mp_name = AddHeading(Phrase(QString()));
         mp_path = new QLabel(this);
         mp_path->setTextInteractionFlags(Qt::TextSelectableByMouse);
         Body()->addWidget(mp_path);
@@ -82,7 +86,7 @@ protected:
         const Formatter& format = m_host.workspace.Format();
         mp_name->setText(m_host.workspace.BuildName());
         mp_path->setText(m_host.workspace.BuildPath().isEmpty()
-                             ? Tr("Not saved yet")
+                             ? Texts::tr("Not saved yet")
                              : QDir::toNativeSeparators(m_host.workspace.BuildPath()));
         FillPreview(m_host, mp_preview);
         double volume = 0.0;
@@ -93,13 +97,13 @@ protected:
         }
         const Plate& plate = scene.GetPlate();
         const std::vector<std::pair<QString, QString>> rows{
-            {Tr("Parts"), QLocale().toString(scene.Count())},
-            {Tr("Size"), format.Size(scene.Bounds().Size())},
-            {Tr("Volume"), format.Volume(volume)},
-            {Tr("Weight"), format.Weight(volume, m_host.workspace.density)},
-            {Tr("Triangles"), QLocale().toString(triangles)},
-            {Tr("Layers"), QLocale().toString(m_host.workspace.Layers().Count())},
-            {Tr("Build volume"), format.Size({plate.width, plate.depth, plate.height})}};
+            {Texts::tr("Parts"), QLocale().toString(scene.Count())},
+            {Texts::tr("Size"), format.Size(scene.Bounds().Size())},
+            {Texts::tr("Volume"), format.Volume(volume)},
+            {Texts::tr("Weight"), format.Weight(volume, m_host.workspace.density)},
+            {Texts::tr("Triangles"), QLocale().toString(triangles)},
+            {Texts::tr("Layers"), QLocale().toString(m_host.workspace.Layers().Count())},
+            {Texts::tr("Build volume"), format.Size({plate.width, plate.depth, plate.height})}};
         QString html = QStringLiteral("<table cellspacing=\"0\" cellpadding=\"3\">");
         for (const auto& [title, value] : rows)
             html += QStringLiteral(
@@ -120,7 +124,7 @@ protected:
         }
         if (findings.size() > k_most)
             text += QStringLiteral("<p>") +
-                    QCoreApplication::translate("tarnix::Backstage", "More findings: %n", nullptr,
+                    Texts::tr("More findings: %n", nullptr,
                                                 static_cast<int>(findings.size() - k_most)) +
                     QStringLiteral("</p>");
         mp_findings->setText(text);
@@ -138,21 +142,24 @@ private:
 class OpenPage : public HostBackstagePage
 {
 public:
-    OpenPage(Host& host, QWidget* parent) : HostBackstagePage(host, parent, Tr("Open"))
+    OpenPage(Host& host, QWidget* parent) : HostBackstagePage(host, parent, Texts::Later("Open"))
     {
         setWindowIcon(ovk::IconsController::Load(QStringLiteral("File.Open")));
         AddButtons({QStringLiteral("File.Open"), QStringLiteral("File.Import"),
                     QStringLiteral("File.Bracket"), QStringLiteral("File.Gear"),
                     QStringLiteral("File.Vase")});
-        AddHeading(Tr("Recent files"));
+        AddHeading(Texts::Later("Recent files"));
         mp_list = new QListWidget(this);
         mp_list->setObjectName(QStringLiteral("recentList"));
-        mp_list->setAccessibleName(Tr("Recent files"));
         mp_list->setIconSize({32, 32});
         mp_list->setSpacing(2);
         mp_list->setFrameShape(QFrame::NoFrame);
         Body()->addWidget(mp_list, 1);
-        mp_empty = new QLabel(Tr("No file has been opened yet."), this);
+        mp_empty = new QLabel(this);
+        Say([this] {
+            mp_list->setAccessibleName(Texts::tr("Recent files"));
+            mp_empty->setText(Texts::tr("No file has been opened yet."));
+        });
         Body()->addWidget(mp_empty);
         Body()->addStretch(0);
         const auto open = [this, parent](QListWidgetItem* item) {
@@ -179,7 +186,7 @@ protected:
             item->setData(Qt::UserRole, path);
             if (!info.exists()) {
                 item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
-                item->setToolTip(Tr("The file is no longer there."));
+                item->setToolTip(Texts::tr("The file is no longer there."));
             }
         }
         mp_list->setVisible(mp_list->count() > 0);
@@ -195,13 +202,13 @@ private:
 class ExportPage : public HostBackstagePage
 {
 public:
-    ExportPage(Host& host, QWidget* parent) : HostBackstagePage(host, parent, Tr("Export"))
+    ExportPage(Host& host, QWidget* parent) : HostBackstagePage(host, parent, Texts::Later("Export"))
     {
         setWindowIcon(ovk::IconsController::Load(QStringLiteral("Group.Export")));
         AddButtons({QStringLiteral("File.ExportStl"), QStringLiteral("File.ExportAscii"),
                     QStringLiteral("File.ExportEach"), QStringLiteral("File.ExportPicture"),
                     QStringLiteral("File.CopyPicture"), QStringLiteral("File.PrintReport")});
-        AddHeading(Tr("The picture as it will be saved"));
+        AddHeading(Texts::Later("The picture as it will be saved"));
         mp_preview = MakePreview(this, {600, 400});
         Body()->addWidget(mp_preview);
         Body()->addStretch(1);
@@ -217,7 +224,7 @@ private:
 class AboutPage : public HostBackstagePage
 {
 public:
-    AboutPage(Host& host, QWidget* parent) : HostBackstagePage(host, parent, Tr("About"))
+    AboutPage(Host& host, QWidget* parent) : HostBackstagePage(host, parent, Texts::Later("About"))
     {
         setWindowIcon(ovk::IconsController::Load(QStringLiteral("App")));
         auto* row = new QHBoxLayout;
@@ -225,10 +232,12 @@ public:
         auto* picture = new QLabel(this);
         picture->setPixmap(ovk::IconsController::Load(QStringLiteral("App")).pixmap(96, 96));
         row->addWidget(picture, 0, Qt::AlignTop);
-        auto* text = new QLabel(VersionText() + QStringLiteral("\n\n") +
-                                    Tr("A small program that prepares parts for 3D printing, and "
-                                       "shows what the frame it stands on can do."),
-                                this);
+        auto* text = new QLabel(this);
+        Say([text] {
+            text->setText(VersionText() + QStringLiteral("\n\n") +
+                          Texts::tr("A small program that prepares parts for 3D printing, and "
+                                    "shows what the frame it stands on can do."));
+        });
         text->setWordWrap(true);
         text->setTextInteractionFlags(Qt::TextSelectableByMouse);
         row->addWidget(text, 1);

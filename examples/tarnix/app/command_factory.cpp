@@ -22,6 +22,11 @@ std::vector<CommandTable> Tables()
 
 CommandFactory::CommandFactory(Host& host) : m_host(host)
 {
+    // The texts of the recent files are no source texts: the library does not translate them.
+    connect(&host, &Host::LanguageChanged, this, [this] {
+        for (RecentFileCommand* command : m_recent)
+            command->Follow();
+    });
     connect(&host, &Host::RecentChanged, this, [this] {
         for (RecentFileCommand* command : m_recent)
             command->Follow();

@@ -2,9 +2,9 @@
 
 #include "app/main_window.h"
 #include "app/number_dialog.h"
+#include "app/solids.h"
 #include "model/arrange.h"
 #include "model/build_file.h"
-#include "model/primitives.h"
 #include "view/scene_view.h"
 
 #include <ovk/main_window/ribbon_window.h>
@@ -18,10 +18,17 @@
 namespace tarnix {
 namespace {
 
-QString Tr(const char* text)
+class Texts
 {
-    return QCoreApplication::translate("tarnix::EditCommands", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(tarnix::EditCommands)
+
+public:
+    /// The title of a step that can be undone.
+    static Phrase Step(const char* source, const QString& argument = QString())
+    {
+        return {"tarnix::EditCommands", source, argument};
+    }
+};
 
 PartList SelectedParts(const Host& host)
 {
@@ -42,7 +49,7 @@ void Copy(Host& host)
         names.append(part.name);
     data->setText(names.join(QLatin1Char('\n')));
     QApplication::clipboard()->setMimeData(data);
-    host.Tell(QCoreApplication::translate("tarnix::EditCommands", "Parts copied: %n", nullptr,
+    host.Tell(Texts::tr("Parts copied: %n", nullptr,
                                           static_cast<int>(parts.size())));
 }
 
@@ -53,7 +60,7 @@ void Paste(Host& host)
         return;
     BuildFile::Result result = BuildFile::Read(data->data(QLatin1String(BuildFile::MimeType())));
     if (!result) {
-        host.Warn(Tr("The parts on the clipboard cannot be read."), QStringList(result.error));
+        host.Warn(Texts::tr("The parts on the clipboard cannot be read."), QStringList(result.error));
         return;
     }
     // Beside where they were, so that the copy is seen.
@@ -62,7 +69,7 @@ void Paste(Host& host)
         part.Apply(
             Transform::Translation({host.workspace.move_step, -host.workspace.move_step, 0.0}));
     }
-    host.GetScene().Add(Tr("Paste"), std::move(result.parts));
+    host.GetScene().Add(Texts::Step("Paste"), std::move(result.parts));
 }
 
 void Duplicate(Host& host)
@@ -75,7 +82,7 @@ void Duplicate(Host& host)
         part.locked = false;
         part.Apply(Transform::Translation({box.Size().x + host.workspace.arrange_gap, 0.0, 0.0}));
     }
-    host.GetScene().Add(Tr("Duplicate"), std::move(parts));
+    host.GetScene().Add(Texts::Step("Duplicate"), std::move(parts));
 }
 
 void Rename(Host& host)
@@ -85,8 +92,8 @@ void Rename(Host& host)
     auto* dialog = new QInputDialog(host.window);
     dialog->setObjectName(QStringLiteral("renameDialog"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(Tr("Rename"));
-    dialog->setLabelText(Tr("Name of the part:"));
+    dialog->setWindowTitle(Texts::tr("Rename"));
+    dialog->setLabelText(Texts::tr("Name of the part:"));
     dialog->setTextValue(part->name);
     QObject::connect(dialog, &QInputDialog::textValueSelected, &host,
                      [&host, id](const QString& name) { host.GetScene().Rename(id, name); });
@@ -100,14 +107,14 @@ void Recolor(Host& host)
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setOption(QColorDialog::DontUseNativeDialog);
     QObject::connect(dialog, &QColorDialog::colorSelected, &host, [&host](const QColor& color) {
-        host.GetScene().EditSelected(Tr("Part Colour"),
+        host.GetScene().EditSelected(Texts::Step("Part Colour"),
                                      [&color](Part& part) { part.color = color.rgb(); });
     });
     dialog->open();
 }
 
 /// Adds copies of the selected part at each of the shifts.
-void AddCopies(Host& host, const QString& title, const std::vector<Vec3>& shifts)
+void AddCopies(Host& host, const Phrase& title, const std::vector<Vec3>& shifts)
 {
     const Part source = *host.GetScene().Selected().front();
     PartList parts;
@@ -123,18 +130,18 @@ void AddCopies(Host& host, const QString& title, const std::vector<Vec3>& shifts
 void Row(Host& host)
 {
     const Vec3 size = host.GetScene().Selected().front()->Bounds().Size();
-    NumberDialog::Ask(host.window, Tr("Row of Copies"),
-                      Tr("Copies of the selected part, one after another at these steps."),
-                      {{Tr("Number of copies:"), 3, 1, 200, NumberField::Count},
-                       {Tr("Step along X:"), size.x + host.workspace.arrange_gap, -2000, 2000,
+    NumberDialog::Ask(host.window, Texts::tr("Row of Copies"),
+                      Texts::tr("Copies of the selected part, one after another at these steps."),
+                      {{Texts::tr("Number of copies:"), 3, 1, 200, NumberField::Count},
+                       {Texts::tr("Step along X:"), size.x + host.workspace.arrange_gap, -2000, 2000,
                         NumberField::Length},
-                       {Tr("Step along Y:"), 0, -2000, 2000, NumberField::Length},
-                       {Tr("Step along Z:"), 0, -2000, 2000, NumberField::Length}},
+                       {Texts::tr("Step along Y:"), 0, -2000, 2000, NumberField::Length},
+                       {Texts::tr("Step along Z:"), 0, -2000, 2000, NumberField::Length}},
                       host.workspace.Format(), [&host](const std::vector<double>& v) {
                           std::vector<Vec3> shifts;
                           for (int i = 1; i <= int(v[0]); ++i)
                               shifts.push_back({v[1] * i, v[2] * i, v[3] * i});
-                          AddCopies(host, Tr("Row of Copies"), shifts);
+                          AddCopies(host, Texts::Step("Row of Copies"), shifts);
                       });
 }
 
@@ -142,12 +149,12 @@ void Grid(Host& host)
 {
     const Vec3 size = host.GetScene().Selected().front()->Bounds().Size();
     const double gap = host.workspace.arrange_gap;
-    NumberDialog::Ask(host.window, Tr("Grid of Copies"),
-                      Tr("Columns and rows count the selected part itself."),
-                      {{Tr("Columns:"), 3, 1, 50, NumberField::Count},
-                       {Tr("Rows:"), 2, 1, 50, NumberField::Count},
-                       {Tr("Column step:"), size.x + gap, -2000, 2000, NumberField::Length},
-                       {Tr("Row step:"), size.y + gap, -2000, 2000, NumberField::Length}},
+    NumberDialog::Ask(host.window, Texts::tr("Grid of Copies"),
+                      Texts::tr("Columns and rows count the selected part itself."),
+                      {{Texts::tr("Columns:"), 3, 1, 50, NumberField::Count},
+                       {Texts::tr("Rows:"), 2, 1, 50, NumberField::Count},
+                       {Texts::tr("Column step:"), size.x + gap, -2000, 2000, NumberField::Length},
+                       {Texts::tr("Row step:"), size.y + gap, -2000, 2000, NumberField::Length}},
                       host.workspace.Format(), [&host](const std::vector<double>& v) {
                           std::vector<Vec3> shifts;
                           for (int row = 0; row < int(v[1]); ++row) {
@@ -156,7 +163,7 @@ void Grid(Host& host)
                                       shifts.push_back({v[2] * column, v[3] * row, 0.0});
                               }
                           }
-                          AddCopies(host, Tr("Grid of Copies"), shifts);
+                          AddCopies(host, Texts::Step("Grid of Copies"), shifts);
                       });
 }
 
@@ -166,13 +173,13 @@ const CommandSpec k_edit_rows[] = {
     {"Edit.Cut", Need::Editable,
      [](Host& host) {
          Copy(host);
-         host.GetScene().DeleteSelected(Tr("Cut"));
+         host.GetScene().DeleteSelected(Texts::Step("Cut"));
      }},
     {"Edit.Copy", Need::Selection, Copy},
     {"Edit.Paste", Need::ClipboardParts, Paste},
     {"Edit.Duplicate", Need::Selection, Duplicate},
     {"Edit.Delete", Need::Editable,
-     [](Host& host) { host.GetScene().DeleteSelected(Tr("Delete")); }},
+     [](Host& host) { host.GetScene().DeleteSelected(Texts::Step("Delete")); }},
     {"Edit.Rename", Need::OneEditable, Rename},
     {"Edit.Recolor", Need::Editable, Recolor},
     {"Edit.Row", Need::OneSelected, Row},
@@ -200,7 +207,7 @@ const CommandSpec k_select_rows[] = {
          host.GetScene().Select([](const Part& part) {
              return part.visible && !part.GetMesh()->GetTopology().IsSolid();
          });
-         host.Tell(QCoreApplication::translate("tarnix::EditCommands", "Faulty parts: %n", nullptr,
+         host.Tell(Texts::tr("Faulty parts: %n", nullptr,
                                                host.GetScene().SelectedCount()));
      }},
     {"Select.Outside", Need::VisibleParts,
@@ -209,7 +216,7 @@ const CommandSpec k_select_rows[] = {
          host.GetScene().Select([&plate](const Part& part) {
              return part.visible && !IsInside(part.Bounds(), plate);
          });
-         host.Tell(QCoreApplication::translate("tarnix::EditCommands", "Parts outside: %n", nullptr,
+         host.Tell(Texts::tr("Parts outside: %n", nullptr,
                                                host.GetScene().SelectedCount()));
      }},
     {"Select.Similar", Need::Selection,
@@ -243,77 +250,20 @@ const CommandSpec k_select_rows[] = {
 
 // ---- new solids
 
-/// Adds a solid where nothing stands yet, to the right of what is there.
-void AddSolid(Host& host, const QString& name, Mesh mesh)
+template <int Index> void AskSolid(Host& host)
 {
-    Part part(name, std::make_shared<const Mesh>(std::move(mesh)),
-              PartColor(host.GetScene().Count()));
-    const Box present = host.GetScene().Bounds();
-    if (!present.IsEmpty() && present.Intersects(part.Bounds()))
-        part.Apply(Transform::Translation(
-            {present.high.x + host.workspace.arrange_gap - part.Bounds().low.x, 0.0, 0.0}));
-    host.GetScene().Add(QCoreApplication::translate("tarnix::EditCommands", "Add %1").arg(name),
-                        {part});
-}
-
-NumberField Field(const char* label, double value)
-{
-    return {Tr(label), value, 0.1, 2000.0, NumberField::Length};
-}
-
-void AskSolid(Host& host, const QString& title, const std::vector<NumberField>& fields,
-              Mesh (*make)(const std::vector<double>&))
-{
-    NumberDialog::Ask(host.window, title, QString(), fields, host.workspace.Format(),
-                      [&host, title, make](const std::vector<double>& values) {
-                          AddSolid(host, title, make(values));
+    const Solid solid = Solids()[Index];
+    NumberDialog::Ask(host.window, solid.title, QString(), solid.fields, host.workspace.Format(),
+                      [&host, solid](const std::vector<double>& values) {
+                          AddSolid(host, solid.title, solid.make(values));
                       });
 }
 
+// In the order of Solids().
 const CommandSpec k_add_rows[] = {
-    {"Add.Box", Need::Nothing,
-     [](Host& host) {
-         AskSolid(host, Tr("Box"), {Field("Width:", 30), Field("Depth:", 20), Field("Height:", 15)},
-                  [](const std::vector<double>& v) {
-                      return MakeBox({v[0], v[1], v[2]});
-                  });
-     }},
-    {"Add.Cylinder", Need::Nothing,
-     [](Host& host) {
-         AskSolid(host, Tr("Cylinder"), {Field("Diameter:", 20), Field("Height:", 30)},
-                  [](const std::vector<double>& v) { return MakeCylinder(v[0] / 2, v[1], 96); });
-     }},
-    {"Add.Cone", Need::Nothing,
-     [](Host& host) {
-         AskSolid(
-             host, Tr("Cone"),
-             {Field("Lower diameter:", 30),
-              {Tr("Upper diameter:"), 0, 0, 2000, NumberField::Length},
-              Field("Height:", 30)},
-             [](const std::vector<double>& v) { return MakeCone(v[0] / 2, v[1] / 2, v[2], 96); });
-     }},
-    {"Add.Sphere", Need::Nothing,
-     [](Host& host) {
-         AskSolid(host, Tr("Sphere"), {Field("Diameter:", 30)},
-                  [](const std::vector<double>& v) { return MakeSphere(v[0] / 2, 48); });
-     }},
-    {"Add.Torus", Need::Nothing,
-     [](Host& host) {
-         AskSolid(host, Tr("Ring"), {Field("Outer diameter:", 40), Field("Thickness:", 8)},
-                  [](const std::vector<double>& v) {
-                      const double tube = std::min(v[1] / 2, v[0] / 4 * 0.98);
-                      return MakeTorus(v[0] / 2 - tube, tube, 96);
-                  });
-     }},
-    {"Add.Prism", Need::Nothing,
-     [](Host& host) {
-         AskSolid(
-             host, Tr("Prism"),
-             {Field("Diameter over corners:", 30),
-              Field("Height:", 20),
-              {Tr("Corners:"), 6, 3, 64, NumberField::Count}},
-             [](const std::vector<double>& v) { return MakePrism(v[0] / 2, v[1], int(v[2])); });
-     }},
+    {"Add.Box", Need::Nothing, AskSolid<0>},    {"Add.Cylinder", Need::Nothing, AskSolid<1>},
+    {"Add.Cone", Need::Nothing, AskSolid<2>},   {"Add.Sphere", Need::Nothing, AskSolid<3>},
+    {"Add.Torus", Need::Nothing, AskSolid<4>},  {"Add.Prism", Need::Nothing, AskSolid<5>},
 };
 
 } // namespace

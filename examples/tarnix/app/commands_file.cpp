@@ -2,6 +2,7 @@
 
 #include "app/file_actions.h"
 #include "app/main_window.h"
+#include "app/settings.h"
 #include "app/report.h"
 #include "model/build_file.h"
 #include "model/mesh_repair.h"
@@ -17,10 +18,17 @@
 namespace tarnix {
 namespace {
 
-QString Tr(const char* text)
+class Texts
 {
-    return QCoreApplication::translate("tarnix::FileCommands", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(tarnix::FileCommands)
+
+public:
+    /// The title of a step that can be undone.
+    static Phrase Step(const char* source, const QString& argument = QString())
+    {
+        return {"tarnix::FileCommands", source, argument};
+    }
+};
 
 Mesh MergedSelection(const Host& host)
 {
@@ -48,7 +56,7 @@ QString SelectionName(const Host& host)
 
 void NewBuild(Host& host)
 {
-    UnlessUnsaved(host, Tr("Clear without saving"), [&host] {
+    UnlessUnsaved(host, Texts::tr("Clear without saving"), [&host] {
         host.GetScene().Reset({});
         host.workspace.ClearMeasurements();
         host.workspace.SetBuildPath(QString());
@@ -58,7 +66,7 @@ void NewBuild(Host& host)
 
 void SaveAs(Host& host)
 {
-    AskSavePath(host, Tr("Save Build As"), BuildFilter(),
+    AskSavePath(host, Texts::tr("Save Build As"), BuildFilter(),
                 FileNameOf(host.workspace.BuildName()) + QStringLiteral(".tarnix"),
                 [&host](const QString& path) { SaveBuild(host, path); });
 }
@@ -75,7 +83,7 @@ void Reload(Host& host)
 {
     QStringList errors;
     int count = 0;
-    host.GetScene().Edit(Tr("Reload"), [&](PartList& parts) {
+    host.GetScene().Edit(Texts::Step("Reload"), [&](PartList& parts) {
         for (Part& part : parts) {
             if (!part.selected || part.locked || part.file.isEmpty())
                 continue;
@@ -89,28 +97,28 @@ void Reload(Host& host)
         }
         return count > 0;
     });
-    host.Tell(QCoreApplication::translate("tarnix::FileCommands", "Parts read again: %n", nullptr,
+    host.Tell(Texts::tr("Parts read again: %n", nullptr,
                                           count));
     if (!errors.isEmpty())
-        host.Warn(Tr("Some parts could not be read again; they stay as they were."), errors);
+        host.Warn(Texts::tr("Some parts could not be read again; they stay as they were."), errors);
 }
 
 void ExportSelection(Host& host, bool ascii)
 {
     AskSavePath(
-        host, ascii ? Tr("Export as Text") : Tr("Export STL"), StlFilter(),
+        host, ascii ? Texts::tr("Export as Text") : Texts::tr("Export STL"), StlFilter(),
         SelectionName(host) + QStringLiteral(".stl"), [&host, ascii](const QString& path) {
             const Mesh mesh = MergedSelection(host);
             const QString name = QFileInfo(path).completeBaseName();
             if (WriteFile(host, path,
                           ascii ? StlWriter::Ascii(mesh, name) : StlWriter::Binary(mesh, name)))
-                host.Tell(Tr("Exported to %1.").arg(QFileInfo(path).fileName()));
+                host.Tell(Texts::tr("Exported to %1.").arg(QFileInfo(path).fileName()));
         });
 }
 
 void ExportEach(Host& host)
 {
-    AskFolder(host, Tr("Export Each Part"), [&host](const QString& folder) {
+    AskFolder(host, Texts::tr("Export Each Part"), [&host](const QString& folder) {
         QStringList used;
         for (const Part& part : host.GetScene().Parts()) {
             QString name = FileNameOf(part.name);
@@ -121,38 +129,38 @@ void ExportEach(Host& host)
                            StlWriter::Binary(part.PlacedMesh(), part.name)))
                 return;
         }
-        host.Tell(QCoreApplication::translate("tarnix::FileCommands", "Parts exported: %n", nullptr,
+        host.Tell(Texts::tr("Parts exported: %n", nullptr,
                                               used.size()));
     });
 }
 
 void ExportPicture(Host& host)
 {
-    AskSavePath(host, Tr("Save Picture"), Tr("Pictures (*.png)"),
+    AskSavePath(host, Texts::tr("Save Picture"), Texts::tr("Pictures (*.png)"),
                 FileNameOf(host.workspace.BuildName()) + QStringLiteral(".png"),
                 [&host](const QString& path) {
                     QByteArray bytes;
                     QBuffer buffer(&bytes);
                     buffer.open(QIODevice::WriteOnly);
-                    host.view->Picture(host.view->size() * 2).save(&buffer, "PNG");
+                    host.view->Picture({host.settings.picture_width, host.settings.picture_height}).save(&buffer, "PNG");
                     if (WriteFile(host, path, bytes))
-                        host.Tell(Tr("Picture saved as %1.").arg(QFileInfo(path).fileName()));
+                        host.Tell(Texts::tr("Picture saved as %1.").arg(QFileInfo(path).fileName()));
                 });
 }
 
 void CopyPicture(Host& host)
 {
     QApplication::clipboard()->setImage(host.view->Picture(host.view->size()));
-    host.Tell(Tr("The picture is on the clipboard."));
+    host.Tell(Texts::tr("The picture is on the clipboard."));
 }
 
 void PrintReport(Host& host)
 {
-    AskSavePath(host, Tr("Print Report"), Tr("PDF documents (*.pdf)"),
+    AskSavePath(host, Texts::tr("Print Report"), Texts::tr("PDF documents (*.pdf)"),
                 FileNameOf(host.workspace.BuildName()) + QStringLiteral(".pdf"),
                 [&host](const QString& path) {
                     if (WriteFile(host, path, ReportPdf(host)))
-                        host.Tell(Tr("Report written to %1.").arg(QFileInfo(path).fileName()));
+                        host.Tell(Texts::tr("Report written to %1.").arg(QFileInfo(path).fileName()));
                 });
 }
 
@@ -160,12 +168,12 @@ const CommandSpec k_rows[] = {
     {"File.New", Need::Nothing, NewBuild},
     {"File.Open", Need::Nothing,
      [](Host& host) {
-         AskOpenPaths(host, Tr("Open Build"), Tr("Builds and parts (*.tarnix *.stl)"),
+         AskOpenPaths(host, Texts::tr("Open Build"), Texts::tr("Builds and parts (*.tarnix *.stl)"),
                       [&host](const QStringList& paths) { OpenFiles(host, paths); });
      }},
     {"File.Import", Need::Nothing,
      [](Host& host) {
-         AskOpenPaths(host, Tr("Add Parts"), StlFilter(),
+         AskOpenPaths(host, Texts::tr("Add Parts"), StlFilter(),
                       [&host](const QStringList& paths) { ImportFiles(host, paths); });
      }},
     {"File.Save", Need::Parts, Save},
@@ -178,11 +186,11 @@ const CommandSpec k_rows[] = {
     {"File.CopyPicture", Need::Nothing, CopyPicture},
     {"File.PrintReport", Need::Parts, PrintReport},
     {"File.Bracket", Need::Nothing,
-     [](Host& host) { AddSample(host, QStringLiteral("bracket.stl"), Tr("Bracket")); }},
+     [](Host& host) { AddSample(host, QStringLiteral("bracket.stl"), Texts::tr("Bracket")); }},
     {"File.Gear", Need::Nothing,
-     [](Host& host) { AddSample(host, QStringLiteral("gear.stl"), Tr("Gear wheel")); }},
+     [](Host& host) { AddSample(host, QStringLiteral("gear.stl"), Texts::tr("Gear wheel")); }},
     {"File.Vase", Need::Nothing,
-     [](Host& host) { AddSample(host, QStringLiteral("vase.stl"), Tr("Vase")); }},
+     [](Host& host) { AddSample(host, QStringLiteral("vase.stl"), Texts::tr("Vase")); }},
     {"File.ClearRecent", Need::Recent, [](Host& host) { host.ClearRecent(); }},
     {"File.Exit", Need::Nothing, [](Host& host) { host.window->close(); }},
 };

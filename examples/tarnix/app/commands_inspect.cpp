@@ -9,10 +9,10 @@
 namespace tarnix {
 namespace {
 
-QString Tr(const char* text)
+class Texts
 {
-    return QCoreApplication::translate("tarnix::InspectCommands", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(tarnix::InspectCommands)
+};
 
 template <MeasureKind Kind> void StartMeasuring(Host& host)
 {
@@ -67,7 +67,7 @@ void CopyMeasurements(Host& host)
         lines.append(fields.join(QLatin1Char('\t')));
     }
     QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
-    host.Tell(QCoreApplication::translate("tarnix::InspectCommands", "Measurements copied: %n",
+    host.Tell(Texts::tr("Measurements copied: %n",
                                           nullptr, lines.size()));
 }
 
@@ -77,8 +77,8 @@ void RunChecks(Host& host)
     host.window->ShowPage(QStringLiteral("Page.Findings"));
     host.Refresh();
     const int count = host.GetFacts().findings;
-    host.Tell(count == 0 ? Tr("The build is ready: nothing to report.")
-                         : QCoreApplication::translate("tarnix::InspectCommands", "Findings: %n",
+    host.Tell(count == 0 ? Texts::tr("The build is ready: nothing to report.")
+                         : Texts::tr("Findings: %n",
                                                        nullptr, count));
 }
 
@@ -97,7 +97,7 @@ void CopyReport(Host& host)
     QApplication::clipboard()->setText(
         BuildReport(host.GetScene(), host.workspace.GetViewState().overhang_degrees,
                     host.workspace.density, host.workspace.Format()));
-    host.Tell(Tr("The report is on the clipboard."));
+    host.Tell(Texts::tr("The report is on the clipboard."));
 }
 
 template <bool ViewState::*Flag> void Toggle(Host& host)
@@ -117,7 +117,7 @@ void ChangeOverhang(Host& host, double step)
         state.overhangs = true;
     });
     host.Tell(
-        Tr("Overhang limit: %1")
+        Texts::tr("Overhang limit: %1")
             .arg(host.workspace.Format().Angle(host.workspace.GetViewState().overhang_degrees)));
 }
 

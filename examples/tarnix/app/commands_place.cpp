@@ -10,10 +10,17 @@
 namespace tarnix {
 namespace {
 
-QString Tr(const char* text)
+class Texts
 {
-    return QCoreApplication::translate("tarnix::PlaceCommands", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(tarnix::PlaceCommands)
+
+public:
+    /// The title of a step that can be undone.
+    static Phrase Step(const char* source, const QString& argument = QString())
+    {
+        return {"tarnix::PlaceCommands", source, argument};
+    }
+};
 
 /// Steps of one key are one undo step as long as nothing else comes between.
 enum MergeKey
@@ -33,7 +40,7 @@ Vec3 SelectionCenter(const Host& host)
     return box.Center();
 }
 
-void MoveBy(Host& host, const QString& title, const Vec3& shift, int merge = 0)
+void MoveBy(Host& host, const Phrase& title, const Vec3& shift, int merge = 0)
 {
     const Transform map = Transform::Translation(shift);
     host.GetScene().EditSelectedMerged(title, merge, [&map](Part& part) { part.Apply(map); });
@@ -43,12 +50,12 @@ template <int Axis, int Sign> void Step(Host& host)
 {
     Vec3 shift;
     shift[Axis] = Sign * host.workspace.move_step;
-    MoveBy(host, Tr("Move"), shift, MergeMove);
+    MoveBy(host, Texts::Step("Move"), shift, MergeMove);
 }
 
 /// Turns, scales or mirrors the selected parts together about their middle. What stood on the
 /// plate stands on it again.
-void ApplyAboutCenter(Host& host, const QString& title, const Transform& map, int merge = 0)
+void ApplyAboutCenter(Host& host, const Phrase& title, const Transform& map, int merge = 0)
 {
     const Transform about = Transform::About(SelectionCenter(host), map);
     host.GetScene().EditSelectedMerged(title, merge, [&about](Part& part) {
@@ -61,28 +68,28 @@ void ApplyAboutCenter(Host& host, const QString& title, const Transform& map, in
 
 template <int Axis, int Sign> void QuarterTurn(Host& host)
 {
-    ApplyAboutCenter(host, Tr("Turn"), Transform::Rotation(Axis, 90.0 * Sign), MergeTurn);
+    ApplyAboutCenter(host, Texts::Step("Turn"), Transform::Rotation(Axis, 90.0 * Sign), MergeTurn);
 }
 
 template <int Sign> void TurnStep(Host& host)
 {
-    ApplyAboutCenter(host, Tr("Turn"), Transform::Rotation(2, host.workspace.turn_step * Sign),
+    ApplyAboutCenter(host, Texts::Step("Turn"), Transform::Rotation(2, host.workspace.turn_step * Sign),
                      MergeTurn);
 }
 
-void ScaleAll(Host& host, const QString& title, double factor, int merge = 0)
+void ScaleAll(Host& host, const Phrase& title, double factor, int merge = 0)
 {
     ApplyAboutCenter(host, title, Transform::Scaling({factor, factor, factor}), merge);
 }
 
 template <int Axis> void MirrorAlong(Host& host)
 {
-    ApplyAboutCenter(host, Tr("Mirror"), Transform::Mirror(Axis));
+    ApplyAboutCenter(host, Texts::Step("Mirror"), Transform::Mirror(Axis));
 }
 
 void Drop(Host& host)
 {
-    host.GetScene().EditSelected(Tr("Drop to Plate"), [](Part& part) {
+    host.GetScene().EditSelected(Texts::Step("Drop to Plate"), [](Part& part) {
         part.Apply(Transform::Translation(DropShift(part.Bounds())));
     });
 }
@@ -90,12 +97,12 @@ void Drop(Host& host)
 void Center(Host& host)
 {
     const Vec3 middle = SelectionCenter(host);
-    MoveBy(host, Tr("Centre on Plate"), {-middle.x, -middle.y, 0.0});
+    MoveBy(host, Texts::Step("Centre on Plate"), {-middle.x, -middle.y, 0.0});
 }
 
 void Arrange(Host& host)
 {
-    host.GetScene().Edit(Tr("Arrange"), [&host](PartList& parts) {
+    host.GetScene().Edit(Texts::Step("Arrange"), [&host](PartList& parts) {
         std::vector<Part*> movable;
         std::vector<Box> boxes;
         for (Part& part : parts) {
@@ -114,24 +121,24 @@ void Arrange(Host& host)
 
 void AskMove(Host& host)
 {
-    NumberDialog::Ask(host.window, Tr("Move By"), QString(),
-                      {{Tr("Along X:"), 0, -5000, 5000, NumberField::Length},
-                       {Tr("Along Y:"), 0, -5000, 5000, NumberField::Length},
-                       {Tr("Along Z:"), 0, -5000, 5000, NumberField::Length}},
+    NumberDialog::Ask(host.window, Texts::tr("Move By"), QString(),
+                      {{Texts::tr("Along X:"), 0, -5000, 5000, NumberField::Length},
+                       {Texts::tr("Along Y:"), 0, -5000, 5000, NumberField::Length},
+                       {Texts::tr("Along Z:"), 0, -5000, 5000, NumberField::Length}},
                       host.workspace.Format(), [&host](const std::vector<double>& v) {
-                          MoveBy(host, Tr("Move"), {v[0], v[1], v[2]});
+                          MoveBy(host, Texts::Step("Move"), {v[0], v[1], v[2]});
                       });
 }
 
 void AskTurn(Host& host)
 {
-    NumberDialog::Ask(host.window, Tr("Turn By"),
-                      Tr("Turns about the middle of the selection: first about X, then Y, then Z."),
-                      {{Tr("About X:"), 0, -360, 360, NumberField::Degrees},
-                       {Tr("About Y:"), 0, -360, 360, NumberField::Degrees},
-                       {Tr("About Z:"), 0, -360, 360, NumberField::Degrees}},
+    NumberDialog::Ask(host.window, Texts::tr("Turn By"),
+                      Texts::tr("Turns about the middle of the selection: first about X, then Y, then Z."),
+                      {{Texts::tr("About X:"), 0, -360, 360, NumberField::Degrees},
+                       {Texts::tr("About Y:"), 0, -360, 360, NumberField::Degrees},
+                       {Texts::tr("About Z:"), 0, -360, 360, NumberField::Degrees}},
                       host.workspace.Format(), [&host](const std::vector<double>& v) {
-                          ApplyAboutCenter(host, Tr("Turn"),
+                          ApplyAboutCenter(host, Texts::Step("Turn"),
                                            Transform::Rotation(2, v[2]) *
                                                Transform::Rotation(1, v[1]) *
                                                Transform::Rotation(0, v[0]));
@@ -140,21 +147,21 @@ void AskTurn(Host& host)
 
 void AskScale(Host& host)
 {
-    NumberDialog::Ask(host.window, Tr("Scale By"),
-                      Tr("Factors about the middle of the selection; 100 % is the present size."),
-                      {{Tr("Along X:"), 100, 0.1, 10000, NumberField::Percent},
-                       {Tr("Along Y:"), 100, 0.1, 10000, NumberField::Percent},
-                       {Tr("Along Z:"), 100, 0.1, 10000, NumberField::Percent}},
+    NumberDialog::Ask(host.window, Texts::tr("Scale By"),
+                      Texts::tr("Factors about the middle of the selection; 100 % is the present size."),
+                      {{Texts::tr("Along X:"), 100, 0.1, 10000, NumberField::Percent},
+                       {Texts::tr("Along Y:"), 100, 0.1, 10000, NumberField::Percent},
+                       {Texts::tr("Along Z:"), 100, 0.1, 10000, NumberField::Percent}},
                       host.workspace.Format(), [&host](const std::vector<double>& v) {
                           ApplyAboutCenter(
-                              host, Tr("Scale"),
+                              host, Texts::Step("Scale"),
                               Transform::Scaling({v[0] / 100, v[1] / 100, v[2] / 100}));
                       });
 }
 
 void LayFlat(Host& host)
 {
-    host.GetScene().EditSelected(Tr("Lay Flat"), [](Part& part) {
+    host.GetScene().EditSelected(Texts::Step("Lay Flat"), [](Part& part) {
         const Vec3 bottom = BestBottom(*part.GetMesh());
         if (bottom == Vec3{})
             return;
@@ -167,7 +174,7 @@ void LayFlat(Host& host)
 
 /// Rebuilds the placement of the selected parts from some of its parts, and keeps the middle of
 /// the footprint and the height of the floor.
-void Rebuild(Host& host, const QString& title, Transform (*keep)(const Transform&))
+void Rebuild(Host& host, const Phrase& title, Transform (*keep)(const Transform&))
 {
     host.GetScene().EditSelected(title, [keep](Part& part) {
         const Box before = part.Bounds();
@@ -209,7 +216,7 @@ void FillPlate(Host& host)
     const Transform map = Transform::Translation({0, 0, size.z * factor / 2.0}) *
                           Transform::Scaling({factor, factor, factor}) *
                           Transform::Translation(-box.Center());
-    host.GetScene().EditSelected(Tr("Fill the Plate"), [&map](Part& part) { part.Apply(map); });
+    host.GetScene().EditSelected(Texts::Step("Fill the Plate"), [&map](Part& part) { part.Apply(map); });
 }
 
 template <int Axis, AlignTo Where> void Align(Host& host)
@@ -219,14 +226,14 @@ template <int Axis, AlignTo Where> void Align(Host& host)
         target = part->Bounds();
         break;
     }
-    host.GetScene().EditSelected(Tr("Align"), [&target](Part& part) {
+    host.GetScene().EditSelected(Texts::Step("Align"), [&target](Part& part) {
         part.Apply(Transform::Translation(AlignShift(part.Bounds(), target, Axis, Where)));
     });
 }
 
 template <int Axis> void Spread(Host& host)
 {
-    host.GetScene().Edit(Tr("Spread"), [](PartList& parts) {
+    host.GetScene().Edit(Texts::Step("Spread"), [](PartList& parts) {
         std::vector<Part*> chosen;
         std::vector<Box> boxes;
         for (Part& part : parts) {
@@ -245,7 +252,7 @@ template <int Axis> void Spread(Host& host)
 void CopyPlacement(Host& host)
 {
     host.workspace.copied_placement = host.GetScene().Selected().front()->GetPlacement();
-    host.Tell(Tr("The placement is copied."));
+    host.Tell(Texts::tr("The placement is copied."));
 }
 
 const CommandSpec k_place_rows[] = {
@@ -263,17 +270,17 @@ const CommandSpec k_place_rows[] = {
     {"Move.PastePlacement", Need::Placement,
      [](Host& host) {
          const Transform placement = *host.workspace.copied_placement;
-         host.GetScene().EditSelected(Tr("Paste Placement"),
+         host.GetScene().EditSelected(Texts::Step("Paste Placement"),
                                       [&placement](Part& part) { part.SetPlacement(placement); });
      }},
     {"Move.Reset", Need::Editable,
      [](Host& host) {
-         host.GetScene().EditSelected(Tr("Reset Placement"),
+         host.GetScene().EditSelected(Texts::Step("Reset Placement"),
                                       [](Part& part) { part.SetPlacement(Transform()); });
      }},
     {"Move.Bake", Need::Editable,
      [](Host& host) {
-         host.GetScene().EditSelected(Tr("Work In"), [](Part& part) {
+         host.GetScene().EditSelected(Texts::Step("Work In"), [](Part& part) {
              part.SetMesh(std::make_shared<const Mesh>(part.PlacedMesh()));
              part.SetPlacement(Transform());
          });
@@ -300,22 +307,22 @@ const CommandSpec k_turn_scale_rows[] = {
     {"Turn.By", Need::Editable, AskTurn},
     {"Turn.LayFlat", Need::Editable, LayFlat},
     {"Turn.Over", Need::Editable,
-     [](Host& host) { ApplyAboutCenter(host, Tr("Turn Over"), Transform::Rotation(0, 180.0)); }},
+     [](Host& host) { ApplyAboutCenter(host, Texts::Step("Turn Over"), Transform::Rotation(0, 180.0)); }},
     {"Turn.Reset", Need::Editable,
-     [](Host& host) { Rebuild(host, Tr("Reset Turn"), WithoutTurn); }},
+     [](Host& host) { Rebuild(host, Texts::Step("Reset Turn"), WithoutTurn); }},
     {"Scale.By", Need::Editable, AskScale},
-    {"Scale.Up", Need::Editable, [](Host& host) { ScaleAll(host, Tr("Larger"), 1.1, MergeScale); }},
+    {"Scale.Up", Need::Editable, [](Host& host) { ScaleAll(host, Texts::Step("Larger"), 1.1, MergeScale); }},
     {"Scale.Down", Need::Editable,
-     [](Host& host) { ScaleAll(host, Tr("Smaller"), 0.9, MergeScale); }},
-    {"Scale.Double", Need::Editable, [](Host& host) { ScaleAll(host, Tr("Double"), 2.0); }},
-    {"Scale.Half", Need::Editable, [](Host& host) { ScaleAll(host, Tr("Halve"), 0.5); }},
+     [](Host& host) { ScaleAll(host, Texts::Step("Smaller"), 0.9, MergeScale); }},
+    {"Scale.Double", Need::Editable, [](Host& host) { ScaleAll(host, Texts::Step("Double"), 2.0); }},
+    {"Scale.Half", Need::Editable, [](Host& host) { ScaleAll(host, Texts::Step("Halve"), 0.5); }},
     {"Scale.ToFit", Need::Editable, FillPlate},
     {"Scale.InchToMm", Need::Editable,
-     [](Host& host) { ScaleAll(host, Tr("Inch to mm"), k_mm_per_inch); }},
+     [](Host& host) { ScaleAll(host, Texts::Step("Inch to mm"), k_mm_per_inch); }},
     {"Scale.MmToInch", Need::Editable,
-     [](Host& host) { ScaleAll(host, Tr("mm to Inch"), 1.0 / k_mm_per_inch); }},
+     [](Host& host) { ScaleAll(host, Texts::Step("mm to Inch"), 1.0 / k_mm_per_inch); }},
     {"Scale.Reset", Need::Editable,
-     [](Host& host) { Rebuild(host, Tr("Reset Scale"), WithoutScale); }},
+     [](Host& host) { Rebuild(host, Texts::Step("Reset Scale"), WithoutScale); }},
     {"Mirror.X", Need::Editable, MirrorAlong<0>},
     {"Mirror.Y", Need::Editable, MirrorAlong<1>},
     {"Mirror.Z", Need::Editable, MirrorAlong<2>},

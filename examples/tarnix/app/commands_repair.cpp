@@ -10,10 +10,17 @@
 namespace tarnix {
 namespace {
 
-QString Tr(const char* text)
+class Texts
 {
-    return QCoreApplication::translate("tarnix::RepairCommands", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(tarnix::RepairCommands)
+
+public:
+    /// The title of a step that can be undone.
+    static Phrase Step(const char* source, const QString& argument = QString())
+    {
+        return {"tarnix::RepairCommands", source, argument};
+    }
+};
 
 /// An hourglass while a long edit runs.
 class Busy
@@ -28,23 +35,23 @@ public:
 QString TextOf(const RepairReport& report)
 {
     if (report.IsEmpty())
-        return Tr("There was nothing to repair.");
+        return Texts::tr("There was nothing to repair.");
     QStringList parts;
     const auto add = [&parts](int count, const char* text) {
         if (count > 0)
             parts.append(
                 QCoreApplication::translate("tarnix::RepairCommands", text, nullptr, count));
     };
-    add(report.joined, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "points joined: %n"));
-    add(report.removed, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "triangles removed: %n"));
-    add(report.turned, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "triangles turned: %n"));
-    add(report.added, QT_TRANSLATE_NOOP("tarnix::RepairCommands", "triangles added: %n"));
+    add(report.joined, QT_TRANSLATE_N_NOOP("tarnix::RepairCommands", "points joined: %n"));
+    add(report.removed, QT_TRANSLATE_N_NOOP("tarnix::RepairCommands", "triangles removed: %n"));
+    add(report.turned, QT_TRANSLATE_N_NOOP("tarnix::RepairCommands", "triangles turned: %n"));
+    add(report.added, QT_TRANSLATE_N_NOOP("tarnix::RepairCommands", "triangles added: %n"));
     return parts.join(QStringLiteral(", "));
 }
 
 /// Runs a repair on the meshes of the selected parts; parts on which it changes nothing make no
 /// undo step.
-void Repair(Host& host, const QString& title, Mesh (*repair)(const Mesh&, RepairReport&))
+void Repair(Host& host, const Phrase& title, Mesh (*repair)(const Mesh&, RepairReport&))
 {
     const Busy busy;
     RepairReport total;
@@ -64,7 +71,7 @@ void Repair(Host& host, const QString& title, Mesh (*repair)(const Mesh&, Repair
 }
 
 /// Replaces the meshes of the selected parts.
-void ChangeMeshes(Host& host, const QString& title, const std::function<Mesh(const Part&)>& change)
+void ChangeMeshes(Host& host, const Phrase& title, const std::function<Mesh(const Part&)>& change)
 {
     const Busy busy;
     host.GetScene().EditSelected(title, [&change](Part& part) {
@@ -75,7 +82,7 @@ void ChangeMeshes(Host& host, const QString& title, const std::function<Mesh(con
     size_t triangles = 0;
     for (const Part* part : host.GetScene().Selected())
         triangles += part->GetMesh()->Triangles().size();
-    host.Tell(QCoreApplication::translate("tarnix::RepairCommands", "Triangles now: %n", nullptr,
+    host.Tell(Texts::tr("Triangles now: %n", nullptr,
                                           static_cast<int>(triangles)));
 }
 
@@ -84,29 +91,29 @@ void Subdivide(Host& host)
     constexpr size_t k_most = 2000000;
     for (const Part* part : host.GetScene().Selected()) {
         if (part->GetMesh()->Triangles().size() * 4 > k_most) {
-            host.Warn(Tr("%1 has too many triangles to be refined.").arg(part->name));
+            host.Warn(Texts::tr("%1 has too many triangles to be refined.").arg(part->name));
             return;
         }
     }
-    ChangeMeshes(host, Tr("Refine"),
+    ChangeMeshes(host, Texts::Step("Refine"),
                  [](const Part& part) { return tarnix::Subdivide(*part.GetMesh()); });
 }
 
 void AskSimplify(Host& host)
 {
     const Vec3 size = host.GetScene().Selected().front()->GetMesh()->Bounds().Size();
-    NumberDialog::Ask(host.window, Tr("Simplify"), Tr("Details smaller than this are lost."),
-                      {{Tr("Fineness:"), std::max({size.x, size.y, size.z}) / 60.0, 0.01, 100.0,
+    NumberDialog::Ask(host.window, Texts::tr("Simplify"), Texts::tr("Details smaller than this are lost."),
+                      {{Texts::tr("Fineness:"), std::max({size.x, size.y, size.z}) / 60.0, 0.01, 100.0,
                         NumberField::Length}},
                       host.workspace.Format(), [&host](const std::vector<double>& v) {
-                          ChangeMeshes(host, Tr("Simplify"), [&v](const Part& part) {
+                          ChangeMeshes(host, Texts::Step("Simplify"), [&v](const Part& part) {
                               return Simplify(*part.GetMesh(), v[0]);
                           });
                       });
 }
 
 /// Replaces each selected part by several, made from its mesh; one piece changes nothing.
-void Replace(Host& host, const QString& title,
+void Replace(Host& host, const Phrase& title,
              const std::function<PartList(const Part&)>& pieces_of)
 {
     const Busy busy;
@@ -130,12 +137,12 @@ void Replace(Host& host, const QString& title,
         return changed;
     });
     if (!changed)
-        host.Tell(Tr("There was nothing to take apart."));
+        host.Tell(Texts::tr("There was nothing to take apart."));
 }
 
 void Split(Host& host)
 {
-    Replace(host, Tr("Split"), [](const Part& part) {
+    Replace(host, Texts::Step("Split"), [](const Part& part) {
         PartList pieces;
         if (part.GetMesh()->GetTopology().shells < 2)
             return pieces;
@@ -155,7 +162,7 @@ void Split(Host& host)
 void MergeSelected(Host& host)
 {
     const Busy busy;
-    host.GetScene().Edit(Tr("Merge"), [](PartList& parts) {
+    host.GetScene().Edit(Texts::Step("Merge"), [](PartList& parts) {
         std::vector<Mesh> meshes;
         PartList rest;
         Part merged;
@@ -208,7 +215,7 @@ PartList Halves(const Part& part, const Section& section, bool keep_below, bool 
     return pieces;
 }
 
-void Cut(Host& host, const QString& title, bool keep_below, bool keep_above)
+void Cut(Host& host, const Phrase& title, bool keep_below, bool keep_above)
 {
     const Section section = host.workspace.GetViewState().section;
     Replace(host, title,
@@ -216,47 +223,47 @@ void Cut(Host& host, const QString& title, bool keep_below, bool keep_above)
 }
 
 const CommandSpec k_rows[] = {
-    {"Repair.All", Need::Editable, [](Host& host) { Repair(host, Tr("Repair"), RepairAll); }},
+    {"Repair.All", Need::Editable, [](Host& host) { Repair(host, Texts::Step("Repair"), RepairAll); }},
     {"Repair.Join", Need::Editable,
      [](Host& host) {
-         Repair(host, Tr("Join Points"), [](const Mesh& mesh, RepairReport& report) {
+         Repair(host, Texts::Step("Join Points"), [](const Mesh& mesh, RepairReport& report) {
              return JoinPoints(mesh, 0.001, report);
          });
      }},
     {"Repair.Clean", Need::Editable,
      [](Host& host) {
-         Repair(host, Tr("Clean"), [](const Mesh& mesh, RepairReport& report) {
+         Repair(host, Texts::Step("Clean"), [](const Mesh& mesh, RepairReport& report) {
              return RemoveDuplicates(RemoveDegenerate(mesh, report), report);
          });
      }},
     {"Repair.Orient", Need::Editable,
-     [](Host& host) { Repair(host, Tr("Orient"), OrientNormals); }},
+     [](Host& host) { Repair(host, Texts::Step("Orient"), OrientNormals); }},
     {"Repair.Flip", Need::Editable,
      [](Host& host) {
-         ChangeMeshes(host, Tr("Turn Inside Out"),
+         ChangeMeshes(host, Texts::Step("Turn Inside Out"),
                       [](const Part& part) { return FlipNormals(*part.GetMesh()); });
      }},
     {"Repair.CloseHoles", Need::Editable,
-     [](Host& host) { Repair(host, Tr("Close Holes"), CloseHoles); }},
+     [](Host& host) { Repair(host, Texts::Step("Close Holes"), CloseHoles); }},
     {"Repair.Split", Need::Editable, Split},
     {"Repair.KeepLargest", Need::Editable,
      [](Host& host) {
-         ChangeMeshes(host, Tr("Keep Largest"),
+         ChangeMeshes(host, Texts::Step("Keep Largest"),
                       [](const Part& part) { return SplitShells(*part.GetMesh()).front(); });
      }},
     {"Repair.Merge", Need::TwoEditable, MergeSelected},
     {"Mesh.Subdivide", Need::Editable, Subdivide},
     {"Mesh.Smooth", Need::Editable,
      [](Host& host) {
-         ChangeMeshes(host, Tr("Smooth"), [](const Part& part) { return Smooth(*part.GetMesh()); });
+         ChangeMeshes(host, Texts::Step("Smooth"), [](const Part& part) { return Smooth(*part.GetMesh()); });
      }},
     {"Mesh.Simplify", Need::Editable, AskSimplify},
     {"Mesh.CutBelow", Need::SectionThroughPart,
-     [](Host& host) { Cut(host, Tr("Keep Below"), true, false); }},
+     [](Host& host) { Cut(host, Texts::Step("Keep Below"), true, false); }},
     {"Mesh.CutAbove", Need::SectionThroughPart,
-     [](Host& host) { Cut(host, Tr("Keep Above"), false, true); }},
+     [](Host& host) { Cut(host, Texts::Step("Keep Above"), false, true); }},
     {"Mesh.CutApart", Need::SectionThroughPart,
-     [](Host& host) { Cut(host, Tr("Cut Apart"), true, true); }},
+     [](Host& host) { Cut(host, Texts::Step("Cut Apart"), true, true); }},
 };
 
 } // namespace

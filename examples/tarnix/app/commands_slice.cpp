@@ -14,10 +14,10 @@
 namespace tarnix {
 namespace {
 
-QString Tr(const char* text)
+class Texts
 {
-    return QCoreApplication::translate("tarnix::SliceCommands", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(tarnix::SliceCommands)
+};
 
 int CurrentLayer(const Host& host)
 {
@@ -61,13 +61,13 @@ void SetThickness(Host& host, double thickness)
     });
     host.workspace.GoToLayer(CurrentLayer(host));
     host.StoreSettings();
-    host.Tell(Tr("Layers of %1").arg(host.workspace.Format().Length(wanted)));
+    host.Tell(Texts::tr("Layers of %1").arg(host.workspace.Format().Length(wanted)));
 }
 
 void AskThickness(Host& host)
 {
-    NumberDialog::Ask(host.window, Tr("Layer Thickness"), QString(),
-                      {{Tr("Thickness:"), host.workspace.GetViewState().layers.thickness, 0.02, 5.0,
+    NumberDialog::Ask(host.window, Texts::tr("Layer Thickness"), QString(),
+                      {{Texts::tr("Thickness:"), host.workspace.GetViewState().layers.thickness, 0.02, 5.0,
                         NumberField::Length}},
                       host.workspace.Format(),
                       [&host](const std::vector<double>& v) { SetThickness(host, v[0]); });
@@ -77,9 +77,9 @@ void AskLayer(Host& host)
 {
     const int count = host.workspace.Layers().Count();
     NumberDialog::Ask(
-        host.window, Tr("Go to Layer"),
-        Tr("Layers are numbered from the plate, from 1 to %1.").arg(count),
-        {{Tr("Layer:"), CurrentLayer(host) + 1.0, 1, double(count), NumberField::Count}},
+        host.window, Texts::tr("Go to Layer"),
+        Texts::tr("Layers are numbered from the plate, from 1 to %1.").arg(count),
+        {{Texts::tr("Layer:"), CurrentLayer(host) + 1.0, 1, double(count), NumberField::Count}},
         host.workspace.Format(),
         [&host](const std::vector<double>& v) { host.workspace.GoToLayer(int(v[0]) - 1); });
 }
@@ -89,7 +89,7 @@ void ChangeHatch(Host& host, double factor)
     host.workspace.ChangeView([factor](ViewState& state) {
         state.layers.hatch_spacing = std::clamp(state.layers.hatch_spacing * factor, 0.2, 20.0);
     });
-    host.Tell(Tr("Hatch lines every %1")
+    host.Tell(Texts::tr("Hatch lines every %1")
                   .arg(host.workspace.Format().Length(
                       host.workspace.GetViewState().layers.hatch_spacing)));
 }
@@ -110,11 +110,11 @@ void GoToFault(Host& host)
     }
     QApplication::restoreOverrideCursor();
     if (found < 0) {
-        host.Tell(Tr("The contours of all layers close."));
+        host.Tell(Texts::tr("The contours of all layers close."));
         return;
     }
     host.workspace.GoToLayer(found);
-    host.Tell(Tr("Layer %1 has contours that do not close.").arg(found + 1));
+    host.Tell(Texts::tr("Layer %1 has contours that do not close.").arg(found + 1));
 }
 
 QByteArray LayerDrawing(const Host& host, int layer)
@@ -134,17 +134,17 @@ void ExportLayer(Host& host)
 {
     const int layer = CurrentLayer(host);
     AskSavePath(
-        host, Tr("Export Layer"), Tr("Drawings (*.svg)"), LayerName(layer),
+        host, Texts::tr("Export Layer"), Texts::tr("Drawings (*.svg)"), LayerName(layer),
         [&host, layer](const QString& path) {
             if (WriteFile(host, path, LayerDrawing(host, layer)))
                 host.Tell(
-                    Tr("Layer %1 exported to %2.").arg(layer + 1).arg(QFileInfo(path).fileName()));
+                    Texts::tr("Layer %1 exported to %2.").arg(layer + 1).arg(QFileInfo(path).fileName()));
         });
 }
 
 void ExportAll(Host& host)
 {
-    AskFolder(host, Tr("Export All Layers"), [&host](const QString& folder) {
+    AskFolder(host, Texts::tr("Export All Layers"), [&host](const QString& folder) {
         const int count = host.workspace.Layers().Count();
         QApplication::setOverrideCursor(Qt::WaitCursor);
         int written = 0;
@@ -152,7 +152,7 @@ void ExportAll(Host& host)
                                             LayerDrawing(host, written)))
             ++written;
         QApplication::restoreOverrideCursor();
-        host.Tell(QCoreApplication::translate("tarnix::SliceCommands", "Layers exported: %n",
+        host.Tell(Texts::tr("Layers exported: %n",
                                               nullptr, written));
     });
 }
@@ -164,7 +164,7 @@ void CopyLayer(Host& host)
     data->setData(QStringLiteral("image/svg+xml"), svg);
     data->setText(QString::fromUtf8(svg));
     QApplication::clipboard()->setMimeData(data);
-    host.Tell(Tr("Layer %1 is on the clipboard.").arg(CurrentLayer(host) + 1));
+    host.Tell(Texts::tr("Layer %1 is on the clipboard.").arg(CurrentLayer(host) + 1));
 }
 
 const CommandSpec k_rows[] = {

@@ -6,6 +6,7 @@
 #include "model/arrange.h"
 #include "model/build_file.h"
 #include "model/stl_reader.h"
+#include "preferences/apply_preferences.h"
 #include "view/scene_view.h"
 
 #include <QApplication>
@@ -18,10 +19,17 @@
 namespace tarnix {
 namespace {
 
-QString Tr(const char* text)
+class Texts
 {
-    return QCoreApplication::translate("tarnix::FileActions", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(tarnix::FileActions)
+
+public:
+    /// The title of a step that can be undone.
+    static Phrase Step(const char* source, const QString& argument = QString())
+    {
+        return {"tarnix::FileActions", source, argument};
+    }
+};
 
 bool IsBuild(const QString& path)
 {
@@ -32,6 +40,8 @@ bool IsBuild(const QString& path)
 /// build that has parts already, to the right of them.
 void PlaceNewParts(const Host& host, PartList& parts)
 {
+    if (!host.settings.place_at_import)
+        return;
     std::vector<Box> boxes;
     for (const Part& part : parts)
         boxes.push_back(part.Bounds());
@@ -70,7 +80,9 @@ Loaded ReadParts(Host& host, const QStringList& paths)
             loaded.errors.append(QFileInfo(path).fileName() + QStringLiteral(": ") + result.error);
             continue;
         }
-        Part part(QFileInfo(path).completeBaseName(), result.mesh, PartColor(number++));
+        Part part(QFileInfo(path).completeBaseName(),
+                  std::make_shared<const Mesh>(PreparedForBuild(*result.mesh, host.settings)),
+                  NewPartColor(host.settings, number++));
         part.file = QFileInfo(path).absoluteFilePath();
         loaded.parts.push_back(std::move(part));
     }
@@ -94,12 +106,12 @@ void Show(QFileDialog* dialog)
 
 QString StlFilter()
 {
-    return Tr("STL files (*.stl)");
+    return Texts::tr("STL files (*.stl)");
 }
 
 QString BuildFilter()
 {
-    return Tr("Builds (*.tarnix)");
+    return Texts::tr("Builds (*.tarnix)");
 }
 
 bool ImportFiles(Host& host, const QStringList& paths)
@@ -110,19 +122,19 @@ bool ImportFiles(Host& host, const QStringList& paths)
     const int count = static_cast<int>(loaded.parts.size());
     if (count > 0) {
         PlaceNewParts(host, loaded.parts);
-        const QString title =
-            count == 1 ? Tr("Add %1").arg(loaded.parts.front().name) : Tr("Add parts");
+        const Phrase title = count == 1 ? Texts::Step("Add %1", loaded.parts.front().name)
+                                        : Texts::Step("Add parts");
         for (const Part& part : loaded.parts)
             host.AddRecent(part.file);
         host.GetScene().Add(title, std::move(loaded.parts));
         if (host.view)
             host.view->ZoomTo(host.GetScene().Bounds());
         host.Tell(
-            QCoreApplication::translate("tarnix::FileActions", "Parts added: %n", nullptr, count));
+            Texts::tr("Parts added: %n", nullptr, count));
     }
     if (!loaded.errors.isEmpty())
-        host.Warn(count > 0 ? Tr("Some files could not be read.")
-                            : Tr("The file could not be read; nothing was changed."),
+        host.Warn(count > 0 ? Texts::tr("Some files could not be read.")
+                            : Texts::tr("The file could not be read; nothing was changed."),
                   loaded.errors);
     return count > 0;
 }
@@ -132,13 +144,18 @@ bool OpenFilesNow(Host& host, const QStringList& paths)
     if (paths.size() == 1 && IsBuild(paths.front())) {
         BuildFile::Result result = BuildFile::Load(paths.front());
         if (!result) {
-            host.Warn(Tr("The build could not be opened; nothing was changed."),
+            host.Warn(Texts::tr("The build could not be opened; nothing was changed."),
                       QStringList(QFileInfo(paths.front()).fileName() + QStringLiteral(": ") +
                                   result.error));
             return false;
         }
         host.GetScene().SetPlate(result.plate);
         host.GetScene().Reset(std::move(result.parts));
+        host.GetScene().SetNote(0, result.note);
+        for (int i = 0; i < result.notes.size(); ++i)
+            host.GetScene().SetNote(host.GetScene().Parts()[static_cast<size_t>(i)].id,
+                                    result.notes.at(i));
+        host.GetScene().SetSaved();
         host.workspace.ClearMeasurements();
         host.workspace.SetBuildPath(paths.front());
         host.AddRecent(paths.front());
@@ -149,8 +166,8 @@ bool OpenFilesNow(Host& host, const QStringList& paths)
     // Read first: when no file is good, the present build stays.
     Loaded loaded = ReadParts(host, paths);
     if (!loaded.errors.isEmpty())
-        host.Warn(loaded.parts.empty() ? Tr("The file could not be read; nothing was changed.")
-                                       : Tr("Some files could not be read."),
+        host.Warn(loaded.parts.empty() ? Texts::tr("The file could not be read; nothing was changed.")
+                                       : Texts::tr("Some files could not be read."),
                   loaded.errors);
     if (loaded.parts.empty())
         return false;
@@ -160,7 +177,7 @@ bool OpenFilesNow(Host& host, const QStringList& paths)
     PlaceNewParts(host, loaded.parts);
     for (const Part& part : loaded.parts)
         host.AddRecent(part.file);
-    host.GetScene().Add(Tr("Add parts"), std::move(loaded.parts));
+    host.GetScene().Add(Texts::Step("Add parts"), std::move(loaded.parts));
     // What lies in files is not lost when the program is left.
     host.GetScene().SetSaved();
     if (host.view)
@@ -173,32 +190,33 @@ void OpenFiles(Host& host, const QStringList& paths)
     if (paths.isEmpty())
         return;
     Remember(host, paths.front());
-    UnlessUnsaved(host, Tr("Open without saving"), [&host, paths] { OpenFilesNow(host, paths); });
+    UnlessUnsaved(host, Texts::tr("Open without saving"), [&host, paths] { OpenFilesNow(host, paths); });
 }
 
 bool SaveBuild(Host& host, const QString& path)
 {
     const QString error =
-        BuildFile::Save(path, host.GetScene().Parts(), host.GetScene().GetPlate());
+        BuildFile::Save(path, host.GetScene().Parts(), host.GetScene().GetPlate(),
+                        [&host](int id) { return host.GetScene().Note(id); });
     if (!error.isEmpty()) {
-        host.Warn(Tr("The build could not be saved."), QStringList(error));
+        host.Warn(Texts::tr("The build could not be saved."), QStringList(error));
         return false;
     }
     Remember(host, path);
     host.workspace.SetBuildPath(path);
     host.GetScene().SetSaved();
     host.AddRecent(path);
-    host.Tell(Tr("Saved as %1.").arg(QFileInfo(path).fileName()));
+    host.Tell(Texts::tr("Saved as %1.").arg(QFileInfo(path).fileName()));
     return true;
 }
 
 void UnlessUnsaved(Host& host, const QString& yes_text, const std::function<void()>& next)
 {
-    if (!host.GetScene().IsModified() || host.GetScene().Count() == 0) {
+    if (!host.GetScene().IsModified() || host.GetScene().Count() == 0 || host.settings.dont_ask_unsaved) {
         next();
         return;
     }
-    host.Ask(Tr("The build \"%1\" has not been saved.").arg(host.workspace.BuildName()), yes_text,
+    host.Ask(Texts::tr("The build \"%1\" has not been saved.").arg(host.workspace.BuildName()), yes_text,
              next);
 }
 
@@ -207,12 +225,12 @@ void AddSample(Host& host, const QString& file_name, const QString& title)
     const StlReader::Result result =
         StlReader::ReadFile(QStringLiteral(":/tarnix/samples/") + file_name);
     if (!result) {
-        host.Warn(Tr("The sample part could not be read."), QStringList(result.error));
+        host.Warn(Texts::tr("The sample part could not be read."), QStringList(result.error));
         return;
     }
-    PartList parts{Part(title, result.mesh, PartColor(host.GetScene().Count()))};
+    PartList parts{Part(title, result.mesh, NewPartColor(host.settings, host.GetScene().Count()))};
     PlaceNewParts(host, parts);
-    host.GetScene().Add(Tr("Add %1").arg(title), std::move(parts));
+    host.GetScene().Add(Texts::Step("Add %1", title), std::move(parts));
     if (host.view)
         host.view->ZoomTo(host.GetScene().Bounds());
 }
@@ -260,7 +278,7 @@ bool WriteFile(Host& host, const QString& path, const QByteArray& bytes)
             return true;
     }
     host.Warn(
-        Tr("The file could not be written."),
+        Texts::tr("The file could not be written."),
         QStringList(QDir::toNativeSeparators(path) + QStringLiteral(": ") + file.errorString()));
     return false;
 }

@@ -1,6 +1,7 @@
 #include "app/help_dialogs.h"
 
 #include "app/host.h"
+#include "app/language.h"
 #include "app/main_window.h"
 
 #include <ovk/commands/ui_command.h>
@@ -8,6 +9,7 @@
 #include <ovk/core/application.h>
 #include <ovk/core/version_info.h>
 #include <ovk/ui_state/features/ui_features_controller.h>
+#include <ovk/ui_state/storable_ui.h>
 #include <ovk/ui_state/ui_layout.h>
 #include <ovk/ui_state/ui_shortcut_binding.h>
 #include <ovk/ui_state/ui_state_shortcuts.h>
@@ -15,6 +17,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QFile>
 #include <QSysInfo>
 #include <QTextBrowser>
@@ -23,48 +26,87 @@
 namespace tarnix {
 namespace {
 
-QString Tr(const char* text)
+class Texts
 {
-    return QCoreApplication::translate("tarnix::Help", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(tarnix::Help)
+};
 
-void ShowPage(Host& host, const QString& name, const QString& title, const QString& html)
+/// A window of text beside the program's own. It remembers in every layout where it was, and writes
+/// itself anew in another language.
+class TextWindow : public QDialog
 {
-    // One window of a kind: a second call brings the first one forward.
-    if (auto* open = host.window->findChild<QDialog*>(name)) {
-        open->raise();
-        open->activateWindow();
-        return;
+public:
+    struct Contents
+    {
+        QString title;
+        QString html;
+    };
+
+    TextWindow(QWidget* parent, const QString& name, Contents (*contents)())
+        : QDialog(parent), m_contents(contents), m_storable(this, name)
+    {
+        setObjectName(name);
+        setAttribute(Qt::WA_DeleteOnClose);
+        resize(620, 640);
+        auto* layout = new QVBoxLayout(this);
+        mp_text = new QTextBrowser(this);
+        layout->addWidget(mp_text);
+        auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+        QObject::connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+        layout->addWidget(buttons);
+        Fill();
     }
-    auto* dialog = new QDialog(host.window);
-    dialog->setObjectName(name);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(title);
-    dialog->resize(620, 640);
-    auto* layout = new QVBoxLayout(dialog);
-    auto* text = new QTextBrowser(dialog);
-    text->setHtml(html);
-    layout->addWidget(text);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
-    layout->addWidget(buttons);
-    dialog->show();
+
+    /// One window of a kind: a second call brings the first one forward.
+    static void Open(Host& host, const QString& name, Contents (*contents)())
+    {
+        auto* window = host.window->findChild<QDialog*>(name);
+        if (!window) {
+            window = new TextWindow(host.window, name, contents);
+            window->show();
+        }
+        window->raise();
+        window->activateWindow();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QDialog::changeEvent(event);
+        if (event->type() == QEvent::LanguageChange)
+            Fill();
+    }
+
+private:
+    void Fill()
+    {
+        const Contents contents = m_contents();
+        setWindowTitle(contents.title);
+        mp_text->setHtml(contents.html);
+    }
+
+    Contents (*m_contents)();
+    QTextBrowser* mp_text = nullptr;
+    ovk::StorableUI m_storable;
+};
+
+TextWindow::Contents HelpContents()
+{
+    // In the language of the program, or in English where nobody has written it yet.
+    for (const QString& name :
+         {QStringLiteral(":/tarnix/help.%1.html").arg(Language::Current()),
+          QStringLiteral(":/tarnix/help.html")}) {
+        QFile page(name);
+        if (page.open(QIODevice::ReadOnly))
+            return {Texts::tr("Help"), QString::fromUtf8(page.readAll())};
+    }
+    return {Texts::tr("Help"), QString()};
 }
 
-} // namespace
-
-void ShowHelp(Host& host)
+TextWindow::Contents KeysContents()
 {
-    QFile page(QStringLiteral(":/tarnix/help.html"));
-    const QString html =
-        page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
-    ShowPage(host, QStringLiteral("helpWindow"), Tr("Help"), html);
-}
-
-void ShowKeys(Host& host)
-{
-    QString html =
-        QStringLiteral("<h2>%1</h2><table cellspacing=\"0\" cellpadding=\"4\">").arg(Tr("Keys"));
+    QString html = QStringLiteral("<h2>%1</h2><table cellspacing=\"0\" cellpadding=\"4\">")
+                       .arg(Texts::tr("Keys"));
     ovk::UiLayout* layout = ovk::UiController::GetInstance()->GetActiveLayout();
     const auto* suite = layout ? dynamic_cast<ovk::UiStateShortcuts*>(
                                      layout->GetState(ovk::UiStateShortcuts::GetSuiteName()))
@@ -81,7 +123,19 @@ void ShowKeys(Host& host)
                     .arg(binding->GetShortcut().toString(QKeySequence::NativeText).toHtmlEscaped(),
                          command->GetTitle().toHtmlEscaped());
     }
-    ShowPage(host, QStringLiteral("keysWindow"), Tr("Keys"), html + QStringLiteral("</table>"));
+    return {Texts::tr("Keys"), html + QStringLiteral("</table>")};
+}
+
+} // namespace
+
+void ShowHelp(Host& host)
+{
+    TextWindow::Open(host, QStringLiteral("helpWindow"), HelpContents);
+}
+
+void ShowKeys(Host& host)
+{
+    TextWindow::Open(host, QStringLiteral("keysWindow"), KeysContents);
 }
 
 QString VersionText()

@@ -1,8 +1,10 @@
 #include "app/host.h"
 
+#include "app/language.h"
 #include "app/main_window.h"
 #include "app/settings.h"
 #include "model/build_file.h"
+#include "preferences/apply_preferences.h"
 #include "view/scene_view.h"
 
 #include <ovk/commands/ui_controller.h>
@@ -20,7 +22,6 @@
 namespace tarnix {
 namespace {
 
-constexpr int k_most_recent = 8;
 constexpr int k_dark_theme = Qtitan::OfficeStyle::Office2013Dark;
 
 } // namespace
@@ -46,6 +47,7 @@ Host::Host(Workspace& the_workspace, Settings& the_settings)
     connect(&workspace.GetScene(), &Scene::PartsChanged, this, update);
     connect(&workspace.GetScene(), &Scene::SelectionChanged, this, update);
     connect(&workspace.GetScene(), &Scene::HistoryChanged, this, update);
+    connect(&workspace.GetScene(), &Scene::HistoryChanged, this, &Host::LogSteps);
     connect(&workspace, &Workspace::ViewChanged, this, update);
     connect(&workspace, &Workspace::MeasurementsChanged, this, update);
     connect(&workspace, &Workspace::FindingsChanged, this, update);
@@ -104,14 +106,32 @@ void Host::RequestUpdate()
         m_update.start();
 }
 
+void Host::LogSteps()
+{
+    const QStringList done = GetScene().UndoTitles();
+    const int undone = GetScene().RedoTitles().size();
+    if (done.size() > m_steps_done && undone < m_steps_undone)
+        log.Add(EventLog::Kind::Step, tr("Again: %1").arg(done.last()));
+    else if (done.size() > m_steps_done)
+        log.Add(EventLog::Kind::Step, done.last());
+    else if (undone > m_steps_undone)
+        log.Add(EventLog::Kind::Step, tr("Undone: %1").arg(GetScene().RedoTitles().first()));
+    m_steps_done = done.size();
+    m_steps_undone = undone;
+}
+
 void Host::Tell(const QString& text)
 {
+    log.Add(EventLog::Kind::Message, text);
     if (window)
         window->Tell(text);
 }
 
 void Host::Warn(const QString& text, const QStringList& details)
 {
+    log.Add(EventLog::Kind::Warning, text);
+    for (const QString& line : details)
+        log.Add(EventLog::Kind::Warning, line);
     if (m_quiet || !window) {
         std::fprintf(stderr, "%s\n", qPrintable(text));
         for (const QString& line : details)
@@ -150,7 +170,7 @@ void Host::AddRecent(const QString& path)
     QStringList files = settings.recent_files.GetData();
     files.removeAll(absolute);
     files.prepend(absolute);
-    settings.recent_files.SetData(files.mid(0, k_most_recent));
+    settings.recent_files.SetData(files.mid(0, settings.recent_count));
     Q_EMIT RecentChanged();
     RequestUpdate();
 }
@@ -168,28 +188,9 @@ QStringList Host::RecentFiles() const
 
 void Host::ApplySettings()
 {
-    workspace.move_step = settings.move_step;
-    workspace.turn_step = settings.turn_step;
-    workspace.arrange_gap = settings.gap;
-    workspace.density = settings.density;
-    workspace.snap_to_grid = settings.snap_to_grid;
-    GetScene().SetPlate({settings.plate_width, settings.plate_depth, settings.plate_height});
-    ovk::UnitsController::SetCurrentUnits(
-        settings.inches ? static_cast<const ovk::IUnits&>(ovk::UnitsInch::GetInstance())
-                        : ovk::UnitsMM::GetInstance());
-    workspace.SetFormat(Formatter(settings.inches ? LengthUnit::Inch : LengthUnit::Millimetre));
-    workspace.ChangeView([this](ViewState& state) {
-        state.mode = static_cast<DisplayMode>(settings.display.GetData());
-        state.plate = settings.plate;
-        state.grid = settings.grid;
-        state.volume = settings.volume;
-        state.axes = settings.axes;
-        state.labels = settings.labels;
-        state.view_cube = settings.view_cube;
-        state.shadows = settings.shadows;
-        state.overhang_degrees = settings.overhang;
-        state.layers.thickness = settings.layer_thickness;
-    });
+    Language::Use(settings.language);
+    ApplyPreferences(*this);
+    m_play.setInterval(settings.play_interval);
     using Qtitan::OfficeStyle;
     ovk::RibbonWindowSettings::GroupTitleVisible().SetData(settings.group_titles);
     ovk::RibbonWindowSettings::OfficeTheme().SetData(
@@ -203,19 +204,7 @@ void Host::ApplySettings()
 
 void Host::StoreSettings()
 {
-    const ViewState& state = workspace.GetViewState();
-    settings.display.SetData(static_cast<int>(state.mode));
-    settings.plate.SetData(state.plate);
-    settings.grid.SetData(state.grid);
-    settings.volume.SetData(state.volume);
-    settings.axes.SetData(state.axes);
-    settings.labels.SetData(state.labels);
-    settings.view_cube.SetData(state.view_cube);
-    settings.shadows.SetData(state.shadows);
-    settings.overhang.SetData(state.overhang_degrees);
-    settings.layer_thickness.SetData(state.layers.thickness);
-    if (view)
-        settings.perspective.SetData(view->GetCamera().perspective);
+    StorePreferences(*this);
 }
 
 bool Host::IsDark() const
@@ -227,6 +216,7 @@ void Host::SetDark(bool dark)
 {
     if (dark == IsDark())
         return;
+    StoreSettings();
     if (dark)
         settings.light_theme.SetData(settings.theme);
     settings.theme.SetData(dark ? k_dark_theme : settings.light_theme.GetData());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/event_log.h"
 #include "view/workspace.h"
 
 #include <QObject>
@@ -56,6 +57,7 @@ public:
 
     Workspace& workspace;
     Settings& settings;
+    EventLog log;
     /// Null until the window is made.
     SceneView* view = nullptr;
     MainWindow* window = nullptr;
@@ -97,13 +99,19 @@ public:
 
 Q_SIGNALS:
     void RecentChanged();
+    /// The program speaks another language now.
+    void LanguageChanged();
 
 private:
+    void LogSteps();
+
     Facts m_facts;
     QTimer m_update;
     QTimer m_play;
     bool m_clipboard_has_parts = false;
     bool m_quiet = false;
+    int m_steps_undone = 0;
+    int m_steps_done = 0;
 };
 
 } // namespace tarnix

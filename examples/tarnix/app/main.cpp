@@ -2,6 +2,7 @@
 #include "app/file_actions.h"
 #include "app/host_application.h"
 #include "app/host_context.h"
+#include "app/language.h"
 #include "app/main_window.h"
 #include "app/pages.h"
 #include "app/settings.h"
@@ -39,6 +40,7 @@ struct Options
     QString product = k_products.front();
     QString layout;
     QString tour;
+    QString language;
     QString dump;
     bool exit_after_paint = false;
     QStringList files;
@@ -103,6 +105,11 @@ Options ReadOptions(const QApplication& application)
         QStringLiteral("layout"),
         QStringLiteral("The layout to start with: Prepare, Inspect or Slice."),
         QStringLiteral("name"));
+    const QCommandLineOption language(
+        QStringLiteral("language"),
+        QStringLiteral("The language to speak from now on: %1.")
+            .arg(tarnix::Language::Available().join(QStringLiteral(", "))),
+        QStringLiteral("code"));
     const QCommandLineOption data(
         QStringLiteral("data-dir"),
         QStringLiteral("Keeps preferences and profiles below this folder."),
@@ -118,7 +125,7 @@ Options ReadOptions(const QApplication& application)
     const QCommandLineOption paint(
         QStringLiteral("exit-after-paint"),
         QStringLiteral("Ends after the first painted window, to measure a start."));
-    parser.addOptions({product, layout, data, tour, dump, paint});
+    parser.addOptions({product, layout, language, data, tour, dump, paint});
     parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("STL files or a build."),
                                  QStringLiteral("[files...]"));
     parser.process(application);
@@ -126,6 +133,7 @@ Options ReadOptions(const QApplication& application)
     options.product = parser.value(product);
     options.layout = parser.value(layout);
     options.tour = parser.value(tour);
+    options.language = parser.value(language);
     options.dump = parser.value(dump);
     options.exit_after_paint = parser.isSet(paint);
     options.files = parser.positionalArguments();
@@ -135,6 +143,11 @@ Options ReadOptions(const QApplication& application)
     if (!options.layout.isEmpty() && !k_layouts.contains(options.layout))
         Refuse(QStringLiteral("there is no layout \"%1\"; there are: %2")
                    .arg(options.layout, k_layouts.join(QStringLiteral(", "))));
+    if (!options.language.isEmpty() &&
+        !tarnix::Language::Available().contains(options.language))
+        Refuse(QStringLiteral("there is no language \"%1\"; there are: %2")
+                   .arg(options.language,
+                        tarnix::Language::Available().join(QStringLiteral(", "))));
     return options;
 }
 
@@ -199,6 +212,8 @@ int RunWindow(const Options& options, tarnix::Host& host, tarnix::PageFactory& p
         OpenFilesNow(host, options.files);
     else if (!options.tour.isEmpty())
         AddSamples(host);
+    else if (host.settings.reopen_last && QFileInfo::exists(host.settings.last_build))
+        OpenFilesNow(host, {host.settings.last_build});
     std::unique_ptr<Tour> tour;
     if (!options.tour.isEmpty()) {
         tour = std::make_unique<Tour>(host, options.tour);
@@ -242,7 +257,11 @@ int main(int argc, char** argv)
         SetUpControllers(options);
         ovk::UiController::GetInstance()->SetUpdatableContext(std::make_unique<HostContext>(host));
         PageFactory pages(host);
+        // A question at the start comes before the options are known.
+        Language::Use(options.language);
         ovk::RootController::GetInstance()->OnAppStart();
+        if (!options.language.isEmpty())
+            settings.language.SetData(options.language);
         result = RunWindow(options, host, pages);
         features.RemoveSubFactory(&commands);
         ovk::UiController::GetInstance()->SetUpdatableContext(nullptr);

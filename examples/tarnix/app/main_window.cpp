@@ -5,6 +5,7 @@
 #include "app/host.h"
 #include "app/pages.h"
 #include "app/settings.h"
+#include "preferences/apply_preferences.h"
 #include "view/scene_view.h"
 
 #include <ovk/commands/ui_command.h>
@@ -36,7 +37,6 @@
 namespace tarnix {
 namespace {
 
-constexpr int k_message_ms = 8000;
 constexpr int k_key_mask = 0xffff;
 
 QStringList DroppedFiles(const QMimeData* data)
@@ -56,6 +56,7 @@ QStringList DroppedFiles(const QMimeData* data)
 MainWindow::MainWindow(Host& host, PageFactory& pages) : m_host(host), m_pages(pages)
 {
     setObjectName(QStringLiteral("tarnixWindow"));
+    ovk::UiStateComposites::SetIconSource(&ovk::IconsController::Load);
     setWindowIcon(ovk::IconsController::Load(QStringLiteral("App")));
     resize(1280, 800);
     mp_view = new SceneView(host.workspace);
@@ -84,8 +85,7 @@ MainWindow::MainWindow(Host& host, PageFactory& pages) : m_host(host), m_pages(p
     connect(&scene, &Scene::HistoryChanged, this, &MainWindow::UpdateCaption);
     ApplySettings();
     mp_view->SetPerspective(host.settings.perspective);
-    UpdateCaption();
-    UpdateStatusBar();
+    Retranslate();
 }
 
 MainWindow::~MainWindow()
@@ -114,15 +114,17 @@ void MainWindow::ActivateLayout(const QString& name)
     if (!layout)
         return;
     controller->SetActiveLayout(layout);
-    PrepareComposites();
     m_host.settings.layout.SetData(name);
     // The layout decides what the view is for.
     const bool slicing = name == QLatin1String("Slice");
     m_host.SetPlaying(false);
     if (m_host.workspace.Measuring())
         m_host.workspace.StopMeasuring();
-    m_host.workspace.ChangeView([this, slicing](ViewState& state) {
+    m_host.workspace.ChangeView([this, slicing, &name](ViewState& state) {
         state.layers.shown = slicing;
+        // Colours that nothing on the screen explains would only puzzle.
+        if (name == QLatin1String("Prepare"))
+            state.color_by = ColorBy::Part;
         if (slicing && state.layers.current == 0)
             state.layers.current = std::max(0, m_host.workspace.Layers().Count() * 2 / 3 - 1);
     });
@@ -133,24 +135,6 @@ QString MainWindow::LayoutName() const
 {
     const ovk::UiLayout* layout = ovk::UiController::GetInstance()->GetActiveLayout();
     return layout ? layout->GetName() : QString();
-}
-
-void MainWindow::PrepareComposites()
-{
-    // A menu of commands has a picture of its own only when the program gives it one.
-    ovk::UiLayout* layout = ovk::UiController::GetInstance()->GetActiveLayout();
-    auto* suite = layout ? dynamic_cast<ovk::UiStateComposites*>(
-                               layout->GetState(ovk::UiStateComposites::GetSuiteName()))
-                         : nullptr;
-    for (int i = 0; suite && i < suite->GetCount(); ++i) {
-        const QString icon = suite->GetItem(i)->ToJson().value(QStringLiteral("icon")).toString();
-        if (icon.isEmpty())
-            continue;
-        if (ovk::IUiItem* item = layout->FindUiItem(suite->GetItem(i)->GetName()))
-            item->SetIcon(ovk::IconsController::Load(icon));
-    }
-    ovk::UiController::GetInstance()->InvalidateLayouts();
-    ovk::UiController::GetInstance()->ValidateActiveLayout();
 }
 
 bool MainWindow::IsPageShown(const QString& page) const
@@ -211,7 +195,7 @@ void MainWindow::ShowAbout()
 
 void MainWindow::Tell(const QString& text)
 {
-    statusBar()->showMessage(text, k_message_ms);
+    statusBar()->showMessage(text, 1000 * m_host.settings.message_seconds);
 }
 
 void MainWindow::ApplySettings()
@@ -225,8 +209,9 @@ void MainWindow::UpdateColors()
 {
     const Qtitan::RibbonStyle* style = GetStyle();
     const QColor accent = style ? style->accentColor() : QColor(0x2b, 0x7c, 0xd3);
-    mp_view->SetColors(m_host.IsDark() ? ViewColors::Dark(accent.lighter(125))
-                                       : ViewColors::Light(accent));
+    ViewColors colors = m_host.IsDark() ? ViewColors::Dark(accent.lighter(125)) : ViewColors::Light(accent);
+    UseOwnColors(colors, m_host.settings);
+    mp_view->SetColors(colors);
 }
 
 void MainWindow::CloseForGood()
@@ -237,27 +222,40 @@ void MainWindow::CloseForGood()
 
 void MainWindow::BuildStatusBar()
 {
-    const auto label = [this](const char* name, const QString& tooltip) {
+    const auto label = [this](const char* name) {
         auto* widget = new QLabel(this);
         widget->setObjectName(QLatin1String(name));
-        widget->setToolTip(tooltip);
         widget->setContentsMargins(8, 0, 8, 0);
         statusBar()->addPermanentWidget(widget);
         return widget;
     };
-    mp_pointer = label("statusPointer", tr("The place under the pointer"));
-    mp_layer = label("statusLayer", tr("The present layer and its height"));
-    mp_selection = label("statusSelection", tr("Parts on the plate, and how many are selected"));
-    mp_size = label("statusSize", tr("The size of the selected parts, or of all"));
+    mp_pointer = label("statusPointer");
+    mp_layer = label("statusLayer");
+    mp_selection = label("statusSelection");
+    mp_size = label("statusSize");
     mp_unit = new QToolButton(this);
     mp_unit->setObjectName(QStringLiteral("statusUnit"));
     mp_unit->setAutoRaise(true);
-    mp_unit->setToolTip(tr("The unit of lengths; click for the other one"));
     connect(mp_unit, &QToolButton::clicked, this, [this] {
+        m_host.StoreSettings();
         m_host.settings.inches.SetData(!m_host.settings.inches.GetData());
         m_host.ApplySettings();
     });
     statusBar()->addPermanentWidget(mp_unit);
+}
+
+void MainWindow::Retranslate()
+{
+    mp_pointer->setToolTip(tr("The place under the pointer"));
+    mp_layer->setToolTip(tr("The present layer and its height"));
+    mp_selection->setToolTip(tr("Parts on the plate, and how many are selected"));
+    mp_size->setToolTip(tr("The size of the selected parts, or of all"));
+    mp_unit->setToolTip(tr("The unit of lengths; click for the other one"));
+    mp_view->setAccessibleName(SceneView::tr("Build plate"));
+    // What it paints is in the new language, too.
+    mp_view->update();
+    UpdateStatusBar();
+    UpdateCaption();
 }
 
 void MainWindow::UpdateStatusBar()
@@ -328,6 +326,18 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
     return RibbonWindow::eventFilter(watched, event);
 }
 
+void MainWindow::changeEvent(QEvent* event)
+{
+    RibbonWindow::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange || !mp_unit)
+        return;
+    // A word about what just happened is old by now, and in the wrong language.
+    statusBar()->clearMessage();
+    Retranslate();
+    m_host.workspace.TranslateFindings();
+    Q_EMIT m_host.LanguageChanged();
+}
+
 void MainWindow::DropData(const QMimeData* data)
 {
     const QStringList files = DroppedFiles(data);
@@ -349,7 +359,7 @@ bool MainWindow::CanDropData(const QMimeData* data)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!m_close_for_good && m_host.GetScene().IsModified() && m_host.GetScene().Count() > 0 &&
+    if (!m_close_for_good && !m_host.settings.dont_ask_unsaved && m_host.GetScene().IsModified() && m_host.GetScene().Count() > 0 &&
         !m_host.IsQuiet()) {
         event->ignore();
         UnlessUnsaved(m_host, tr("Leave without saving"), [this] { CloseForGood(); });

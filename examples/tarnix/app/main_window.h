@@ -59,14 +59,15 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void BuildStatusBar();
+    void Retranslate();
     void UpdateStatusBar();
     void UpdateCaption();
     void UpdateColors();
     void ShowPartMenu(const QPoint& at);
-    void PrepareComposites();
 
     Host& m_host;
     PageFactory& m_pages;

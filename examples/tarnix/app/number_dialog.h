@@ -2,6 +2,8 @@
 
 #include "model/format.h"
 
+#include <ovk/ui_state/storable_ui.h>
+
 #include <QDialog>
 
 #include <functional>
@@ -52,6 +54,7 @@ private:
     std::vector<NumberField> m_fields;
     std::vector<QDoubleSpinBox*> m_editors;
     Formatter m_format;
+    ovk::StorableUI m_storable;
 };
 
 /// A spin box for one number of a kind, in the unit of `format`.

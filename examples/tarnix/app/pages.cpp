@@ -1,8 +1,9 @@
 #include "app/pages.h"
 
 #include <ovk/commands/ui_controller.h>
+#include <ovk/ui_state/ui_layout.h>
 
-#include <QCoreApplication>
+#include <QEvent>
 
 namespace tarnix {
 namespace {
@@ -11,25 +12,52 @@ struct PageRow
 {
     const char* id;
     HostPage* (*make)(Host&);
+    const char* layouts; ///< the first letters of those that offer it
 };
 
 constexpr PageRow k_pages[] = {
-    {"Page.Parts", MakePartsPage},
-    {"Page.Properties", MakePropertiesPage},
-    {"Page.Measurements", MakeMeasurementsPage},
-    {"Page.Findings", MakeFindingsPage},
-    {"Page.Layers", MakeLayersPage},
-    {"Page.History", MakeHistoryPage},
+    {"Page.Parts", MakePartsPage, "PIS"},
+    {"Page.Properties", MakePropertiesPage, "PIS"},
+    {"Page.Measurements", MakeMeasurementsPage, "I"},
+    {"Page.Findings", MakeFindingsPage, "PI"},
+    {"Page.Layers", MakeLayersPage, "S"},
+    {"Page.History", MakeHistoryPage, "PI"},
+    {"Page.Primitives", MakePrimitivesPage, "P"},
+    {"Page.Notes", MakeNotesPage, "PIS"},
+    {"Page.Log", MakeLogPage, "PIS"},
+    {"Page.Legend", MakeLegendPage, "IS"},
 };
 
 } // namespace
 
-HostPage::HostPage(const QString& id, const QString& title)
+HostPage::HostPage(const QString& id, const Phrase& title)
 {
     setObjectName(id);
-    setWindowTitle(title);
+    Say([this, title] { setWindowTitle(title.Text()); });
     // IDockPage::GetWidget's minimum: without one a panel could be dragged to nothing.
     setMinimumSize(180, 90);
+}
+
+void HostPage::Say(const std::function<void()>& set)
+{
+    set();
+    m_texts.push_back(set);
+}
+
+void HostPage::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    for (const std::function<void()>& set : m_texts)
+        set();
+}
+
+bool HostPage::IsAvailable() const
+{
+    const ovk::UiController* controller = ovk::UiController::GetInstance();
+    const ovk::UiLayout* layout = controller ? controller->GetActiveLayout() : nullptr;
+    return !layout || m_layouts.isEmpty() || m_layouts.contains(layout->GetName().left(1));
 }
 
 void HostPage::OnVisibilityToggled(bool)
@@ -55,6 +83,7 @@ QWidget* PageFactory::CreatePageWidget(const QString& pageId)
     for (const PageRow& row : k_pages) {
         if (pageId == QLatin1String(row.id)) {
             HostPage* page = row.make(m_host);
+            page->SetLayouts(row.layouts);
             m_pages.insert(pageId, page);
             return page;
         }

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "model/phrase.h"
+
 #include <ovk/commands/widget_factory.h>
 #include <ovk/docking/dock_page.h>
 
 #include <QHash>
 #include <QPointer>
 #include <QWidget>
+
+#include <functional>
+#include <vector>
 
 namespace tarnix {
 
@@ -17,11 +22,12 @@ class HostPage : public QWidget, public ovk::IDockPage
     Q_OBJECT
 
 public:
-    HostPage(const QString& id, const QString& title);
+    HostPage(const QString& id, const Phrase& title);
 
     QString GetId() const override { return objectName(); }
     QWidget* GetWidget() const override { return const_cast<HostPage*>(this); }
-    bool IsAvailable() const override { return true; }
+    /// Only in the layouts that it is made for.
+    bool IsAvailable() const override;
     void OnActivated() override {}
     bool IsToggleable() const override { return true; }
     void OnVisibilityToggled(bool visible) override;
@@ -32,6 +38,18 @@ public:
     }
 
     QSize minimumSizeHint() const override { return {180, 90}; }
+
+    /// The first letters of the layouts that offer the page.
+    void SetLayouts(const char* layouts) { m_layouts = QString::fromLatin1(layouts); }
+
+protected:
+    /// Runs `set` now and whenever the language changes.
+    void Say(const std::function<void()>& set);
+    void changeEvent(QEvent* event) override;
+
+private:
+    QString m_layouts;
+    std::vector<std::function<void()>> m_texts;
 };
 
 /// Makes the pages of the panels. A page is made once and goes from layout to layout, so that it
@@ -59,5 +77,9 @@ HostPage* MakeMeasurementsPage(Host& host);
 HostPage* MakeFindingsPage(Host& host);
 HostPage* MakeLayersPage(Host& host);
 HostPage* MakeHistoryPage(Host& host);
+HostPage* MakePrimitivesPage(Host& host);
+HostPage* MakeNotesPage(Host& host);
+HostPage* MakeLogPage(Host& host);
+HostPage* MakeLegendPage(Host& host);
 
 } // namespace tarnix

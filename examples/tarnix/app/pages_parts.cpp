@@ -32,12 +32,12 @@ class PartsPage : public HostPage
 {
 public:
     explicit PartsPage(Host& host)
-        : HostPage(QStringLiteral("Page.Parts"), QCoreApplication::translate("toolpages", "Parts")),
+        : HostPage(QStringLiteral("Page.Parts"), Phrase("toolpages", QT_TRANSLATE_NOOP("toolpages", "Parts"))),
           m_host(host)
     {
         mp_list = new QListView(this);
         mp_list->setObjectName(QStringLiteral("partList"));
-        mp_list->setAccessibleName(windowTitle());
+        Say([this] { mp_list->setAccessibleName(windowTitle()); });
         mp_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
         mp_list->setEditTriggers(QAbstractItemView::DoubleClicked |
                                  QAbstractItemView::EditKeyPressed);
@@ -92,7 +92,7 @@ class PropertiesPage : public HostPage
 public:
     explicit PropertiesPage(Host& host)
         : HostPage(QStringLiteral("Page.Properties"),
-                   QCoreApplication::translate("toolpages", "Properties")),
+                   Phrase("toolpages", QT_TRANSLATE_NOOP("toolpages", "Properties"))),
           m_host(host)
     {
         auto* layout = new QVBoxLayout(this);
@@ -102,8 +102,14 @@ public:
         grid->setContentsMargins(0, 0, 0, 4);
         grid->setHorizontalSpacing(6);
         grid->setVerticalSpacing(3);
-        grid->addWidget(new QLabel(Tr("Centre"), mp_editors), 0, 1);
-        grid->addWidget(new QLabel(Tr("Size"), mp_editors), 0, 2);
+        auto* center = new QLabel(mp_editors);
+        auto* size_title = new QLabel(mp_editors);
+        grid->addWidget(center, 0, 1);
+        grid->addWidget(size_title, 0, 2);
+        Say([center, size_title] {
+            center->setText(tr("Centre"));
+            size_title->setText(tr("Size"));
+        });
         static const char* const k_axes[] = {"X", "Y", "Z"};
         for (int axis = 0; axis < 3; ++axis) {
             grid->addWidget(new QLabel(QLatin1String(k_axes[axis]), mp_editors), axis + 1, 0);
@@ -140,14 +146,11 @@ public:
         connect(&host.GetScene(), &Scene::PartsChanged, this, follow);
         connect(&host.GetScene(), &Scene::SelectionChanged, this, follow);
         connect(&host.workspace, &Workspace::FormatChanged, this, follow);
-        Follow();
+        Say(follow);
     }
 
 private:
-    static QString Tr(const char* text)
-    {
-        return QCoreApplication::translate("tarnix::PropertiesPage", text);
-    }
+    Q_DECLARE_TR_FUNCTIONS(tarnix::PropertiesPage)
 
     void showEvent(QShowEvent* event) override
     {
@@ -171,12 +174,12 @@ private:
             // Parts grow up from where they stand.
             fixed.z = box.low.z;
             const Transform map = Transform::About(fixed, Transform::Scaling(factors));
-            m_host.GetScene().EditSelected(Tr("Resize"), [&map](Part& part) { part.Apply(map); });
+            m_host.GetScene().EditSelected(Phrase("tarnix::PropertiesPage", QT_TR_NOOP("Resize")), [&map](Part& part) { part.Apply(map); });
         } else {
             Vec3 shift;
             shift[axis] = value - box.Center()[axis];
             m_host.GetScene().EditSelected(
-                Tr("Move"), [&shift](Part& part) { part.Apply(Transform::Translation(shift)); });
+                Phrase("tarnix::PropertiesPage", QT_TR_NOOP("Move")), [&shift](Part& part) { part.Apply(Transform::Translation(shift)); });
         }
     }
 
@@ -226,13 +229,13 @@ private:
             area += part->Area();
             triangles += static_cast<qlonglong>(part->GetMesh()->Triangles().size());
         }
-        return {{selected ? Tr("Selected parts") : Tr("Parts"),
+        return {{selected ? tr("Selected parts") : tr("Parts"),
                  QLocale().toString(static_cast<int>(parts.size()))},
-                {Tr("Size"), format.Size(m_host.GetScene().Bounds(selected).Size())},
-                {Tr("Volume"), format.Volume(volume)},
-                {Tr("Surface"), format.Area(area)},
-                {Tr("Weight"), format.Weight(volume, m_host.workspace.density)},
-                {Tr("Triangles"), QLocale().toString(triangles)}};
+                {tr("Size"), format.Size(m_host.GetScene().Bounds(selected).Size())},
+                {tr("Volume"), format.Volume(volume)},
+                {tr("Surface"), format.Area(area)},
+                {tr("Weight"), format.Weight(volume, m_host.workspace.density)},
+                {tr("Triangles"), QLocale().toString(triangles)}};
     }
 
     Host& m_host;
@@ -249,12 +252,12 @@ class HistoryPage : public HostPage
 public:
     explicit HistoryPage(Host& host)
         : HostPage(QStringLiteral("Page.History"),
-                   QCoreApplication::translate("toolpages", "History")),
+                   Phrase("toolpages", QT_TRANSLATE_NOOP("toolpages", "History"))),
           m_host(host)
     {
         mp_list = new QListWidget(this);
         mp_list->setObjectName(QStringLiteral("historyList"));
-        mp_list->setAccessibleName(windowTitle());
+        Say([this] { mp_list->setAccessibleName(windowTitle()); });
         mp_list->setFrameShape(QFrame::NoFrame);
         FullLayout(this)->addWidget(mp_list);
         connect(&host.GetScene(), &Scene::HistoryChanged, this, [this] { Follow(); });
@@ -262,7 +265,7 @@ public:
                 [this](QListWidgetItem* item) { GoTo(mp_list->row(item)); });
         connect(mp_list, &QListWidget::itemClicked, this,
                 [this](QListWidgetItem* item) { GoTo(mp_list->row(item)); });
-        Follow();
+        Say([this] { Follow(); });
     }
 
 private:

@@ -18,12 +18,10 @@
 namespace tarnix {
 namespace {
 
-QTreeWidget* MakeTable(QWidget* page, const char* name, const QStringList& titles)
+QTreeWidget* MakeTable(QWidget* page, const char* name)
 {
     auto* table = new QTreeWidget(page);
     table->setObjectName(QLatin1String(name));
-    table->setAccessibleName(page->windowTitle());
-    table->setHeaderLabels(titles);
     table->setRootIsDecorated(false);
     table->setFrameShape(QFrame::NoFrame);
     table->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
@@ -36,20 +34,19 @@ class MeasurementsPage : public HostPage
 public:
     explicit MeasurementsPage(Host& host)
         : HostPage(QStringLiteral("Page.Measurements"),
-                   QCoreApplication::translate("toolpages", "Measurements")),
+                   Phrase("toolpages", QT_TRANSLATE_NOOP("toolpages", "Measurements"))),
           m_host(host)
     {
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->setSpacing(0);
-        mp_table = MakeTable(this, "measurementList", {Tr("Kind"), Tr("Value"), Tr("Details")});
+        mp_table = MakeTable(this, "measurementList");
         layout->addWidget(mp_table, 1);
-        mp_hint = new QLabel(
-            Tr("Choose what to measure on the page Measure, then click points on parts."), this);
+        mp_hint = new QLabel(this);
         mp_hint->setWordWrap(true);
         mp_hint->setMargin(8);
         layout->addWidget(mp_hint);
-        mp_remove = new QPushButton(Tr("Remove"), this);
+        mp_remove = new QPushButton(this);
         layout->addWidget(mp_remove);
         connect(mp_remove, &QPushButton::clicked, this, [this] {
             m_host.workspace.RemoveMeasurement(
@@ -60,14 +57,18 @@ public:
         const auto follow = [this] { Follow(); };
         connect(&host.workspace, &Workspace::MeasurementsChanged, this, follow);
         connect(&host.workspace, &Workspace::FormatChanged, this, follow);
-        Follow();
+        Say([this] {
+            mp_table->setAccessibleName(windowTitle());
+            mp_table->setHeaderLabels({tr("Kind"), tr("Value"), tr("Details")});
+            mp_hint->setText(
+                tr("Choose what to measure on the page Measure, then click points on parts."));
+            mp_remove->setText(tr("Remove"));
+            Follow();
+        });
     }
 
 private:
-    static QString Tr(const char* text)
-    {
-        return QCoreApplication::translate("tarnix::MeasurementsPage", text);
-    }
+    Q_DECLARE_TR_FUNCTIONS(tarnix::MeasurementsPage)
 
     void Follow()
     {
@@ -100,20 +101,20 @@ class FindingsPage : public HostPage
 public:
     explicit FindingsPage(Host& host)
         : HostPage(QStringLiteral("Page.Findings"),
-                   QCoreApplication::translate("toolpages", "Findings")),
+                   Phrase("toolpages", QT_TRANSLATE_NOOP("toolpages", "Findings"))),
           m_host(host)
     {
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->setSpacing(0);
-        mp_table = MakeTable(this, "findingList", {Tr("Part"), Tr("Finding")});
+        mp_table = MakeTable(this, "findingList");
         mp_table->setWordWrap(true);
         layout->addWidget(mp_table, 1);
         mp_note = new QLabel(this);
         mp_note->setWordWrap(true);
         mp_note->setMargin(6);
         layout->addWidget(mp_note);
-        auto* check = new QPushButton(Tr("Check"), this);
+        auto* check = new QPushButton(this);
         layout->addWidget(check);
         connect(check, &QPushButton::clicked, this, [this] { m_host.workspace.RunChecks(); });
         connect(mp_table, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
@@ -124,14 +125,16 @@ public:
             m_host.view->ZoomTo(m_host.GetScene().Bounds(true));
         });
         connect(&host.workspace, &Workspace::FindingsChanged, this, [this] { Follow(); });
-        Follow();
+        Say([this, check] {
+            mp_table->setAccessibleName(windowTitle());
+            mp_table->setHeaderLabels({tr("Part"), tr("Finding")});
+            check->setText(tr("Check"));
+            Follow();
+        });
     }
 
 private:
-    static QString Tr(const char* text)
-    {
-        return QCoreApplication::translate("tarnix::FindingsPage", text);
-    }
+    Q_DECLARE_TR_FUNCTIONS(tarnix::FindingsPage)
 
     void Follow()
     {
@@ -146,10 +149,10 @@ private:
             item->setToolTip(1, finding.text);
         }
         mp_note->setText(m_host.workspace.Findings().empty()
-                             ? Tr("The build has not been checked yet.")
+                             ? tr("The build has not been checked yet.")
                          : m_host.workspace.AreFindingsFresh()
                              ? QString()
-                             : Tr("The build has changed since it was checked."));
+                             : tr("The build has changed since it was checked."));
         mp_note->setVisible(!mp_note->text().isEmpty());
     }
 
@@ -164,7 +167,7 @@ class LayersPage : public HostPage
 public:
     explicit LayersPage(Host& host)
         : HostPage(QStringLiteral("Page.Layers"),
-                   QCoreApplication::translate("toolpages", "Layers")),
+                   Phrase("toolpages", QT_TRANSLATE_NOOP("toolpages", "Layers"))),
           m_host(host)
     {
         auto* layout = new QVBoxLayout(this);
@@ -175,21 +178,21 @@ public:
                                          0.02, 5.0, NumberField::Length},
                                         host.workspace.Format());
         mp_thickness->setObjectName(QStringLiteral("layerThickness"));
-        form->addRow(Tr("Thickness"), mp_thickness);
+        AddRow(form, QT_TR_NOOP("Thickness"), mp_thickness);
         mp_number = new QLabel(this);
-        form->addRow(Tr("Layer"), mp_number);
+        AddRow(form, QT_TR_NOOP("Layer"), mp_number);
         mp_height = new QLabel(this);
-        form->addRow(Tr("Height"), mp_height);
+        AddRow(form, QT_TR_NOOP("Height"), mp_height);
         mp_area = new QLabel(this);
-        form->addRow(Tr("Area"), mp_area);
+        AddRow(form, QT_TR_NOOP("Area"), mp_area);
         mp_contours = new QLabel(this);
-        form->addRow(Tr("Contours"), mp_contours);
+        AddRow(form, QT_TR_NOOP("Contours"), mp_contours);
         mp_length = new QLabel(this);
-        form->addRow(Tr("Contour length"), mp_length);
+        AddRow(form, QT_TR_NOOP("Contour length"), mp_length);
         auto* row = new QHBoxLayout;
         mp_slider = new QSlider(Qt::Vertical, this);
         mp_slider->setObjectName(QStringLiteral("layerSlider"));
-        mp_slider->setAccessibleName(Tr("Layer"));
+        Say([this] { mp_slider->setAccessibleName(tr("Layer")); });
         row->addWidget(mp_slider);
         row->addLayout(form, 1);
         layout->addLayout(row, 1);
@@ -211,13 +214,18 @@ public:
         connect(&host.workspace, &Workspace::ViewChanged, this, follow);
         connect(&host.workspace, &Workspace::FormatChanged, this, follow);
         connect(&host.GetScene(), &Scene::PartsChanged, this, follow);
-        Follow();
+        Say(follow);
     }
 
 private:
-    static QString Tr(const char* text)
+    Q_DECLARE_TR_FUNCTIONS(tarnix::LayersPage)
+
+    void AddRow(QFormLayout* form, const char* title, QWidget* field)
     {
-        return QCoreApplication::translate("tarnix::LayersPage", text);
+        auto* label = new QLabel(this);
+        label->setBuddy(field);
+        Say([label, title] { label->setText(tr(title)); });
+        form->addRow(label, field);
     }
 
     void showEvent(QShowEvent* event) override

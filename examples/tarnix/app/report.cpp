@@ -16,10 +16,10 @@
 namespace tarnix {
 namespace {
 
-QString Tr(const char* text)
+class Texts
 {
-    return QCoreApplication::translate("tarnix::Report", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(tarnix::Report)
+};
 
 QString Html(const Host& host)
 {
@@ -29,8 +29,8 @@ QString Html(const Host& host)
         QStringLiteral("<h1>%1</h1><p>%2<br>%3</p><p><img src=\"view\" width=\"520\"></p>")
             .arg(host.workspace.BuildName().toHtmlEscaped(),
                  QLocale().toString(QDateTime::currentDateTime(), QLocale::LongFormat),
-                 Tr("Build volume: %1").arg(format.Size({plate.width, plate.depth, plate.height})));
-    html += QStringLiteral("<h2>%1</h2><ul>").arg(Tr("Findings"));
+                 Texts::tr("Build volume: %1").arg(format.Size({plate.width, plate.depth, plate.height})));
+    html += QStringLiteral("<h2>%1</h2><ul>").arg(Texts::tr("Findings"));
     for (const Finding& finding :
          CheckBuild(host.GetScene(), host.workspace.GetViewState().overhang_degrees, format)) {
         const QString subject =
@@ -39,7 +39,7 @@ QString Html(const Host& host)
                 : QStringLiteral("<b>%1:</b> ").arg(finding.subject.toHtmlEscaped());
         html += QStringLiteral("<li>%1%2</li>").arg(subject, finding.text.toHtmlEscaped());
     }
-    html += QStringLiteral("</ul><h2>%1</h2>").arg(Tr("Parts"));
+    html += QStringLiteral("</ul><h2>%1</h2>").arg(Texts::tr("Parts"));
     for (const Part& part : host.GetScene().Parts()) {
         html += QStringLiteral("<h3>%1</h3><table cellspacing=\"0\" cellpadding=\"2\">")
                     .arg(part.name.toHtmlEscaped());

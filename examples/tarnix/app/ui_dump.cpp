@@ -3,11 +3,14 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QSaveFile>
+#include <QStatusBar>
 #include <QToolButton>
 #include <QWidget>
 
@@ -24,7 +27,31 @@ QString TextOf(const QWidget* widget)
         return label->text();
     if (const auto* edit = qobject_cast<const QLineEdit*>(widget))
         return edit->text();
+    if (const auto* box = qobject_cast<const QComboBox*>(widget))
+        return box->currentText();
+    if (const auto* bar = qobject_cast<const QStatusBar*>(widget))
+        return bar->currentMessage();
     return widget->windowTitle();
+}
+
+/// The items of a menu as if they were widgets: where they are, and what they say.
+void DescribeItems(const QMenu& menu, QJsonArray& children)
+{
+    for (QAction* action : menu.actions()) {
+        if (!action->isVisible() || action->isSeparator())
+            continue;
+        const QRect rect = menu.actionGeometry(action);
+        const QPoint origin = menu.mapToGlobal(rect.topLeft());
+        children.append(QJsonObject{{"class", "MenuItem"},
+                                    {"command", action->objectName()},
+                                    {"text", action->text()},
+                                    {"x", origin.x()},
+                                    {"y", origin.y()},
+                                    {"width", rect.width()},
+                                    {"height", rect.height()},
+                                    {"enabled", action->isEnabled()},
+                                    {"checked", action->isChecked()}});
+    }
 }
 
 QJsonObject Describe(QWidget* widget)
@@ -52,6 +79,8 @@ QJsonObject Describe(QWidget* widget)
     if (!actions.isEmpty())
         node.insert("actions", actions);
     QJsonArray children;
+    if (const auto* menu = qobject_cast<const QMenu*>(widget))
+        DescribeItems(*menu, children);
     for (QObject* child : widget->children()) {
         auto* child_widget = qobject_cast<QWidget*>(child);
         if (child_widget && child_widget->isVisible() && !child_widget->isWindow())

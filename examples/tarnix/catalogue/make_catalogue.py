@@ -13,6 +13,7 @@ LAYOUTS = (("P", "Prepare"), ("I", "Inspect"), ("S", "Slice"))
 PRODUCTS = (("F", "Tarnix", "tarnix"), ("L", "Tarnix Lite", "lite"))
 LARGE, BESIDE, ICON = 3, 2, 0
 SIDES = ("left", "right", "top", "bottom")
+SITE_SIZES = {"left": 210, "right": 250, "top": 150, "bottom": 150}
 
 
 def lines(name):
@@ -88,8 +89,9 @@ class Tables:
 class Layout:
     """Builds the eight suites of one layout of one product."""
 
-    def __init__(self, name, allowed, tables):
+    def __init__(self, name, allowed, offered, tables):
         self.allowed = allowed
+        self.offered = offered
         self.separators = 0
         self.composite_ids = set()
         self.states = {
@@ -103,6 +105,7 @@ class Layout:
             "dialog data": {"id": "dialog data", "dialog": []},
         }
         self.panels = {side: [] for side in SIDES}
+        self.floated = []
         for line in tables.of(name):
             word, _, rest = line.partition(" ")
             getattr(self, word)(rest)
@@ -163,6 +166,14 @@ class Layout:
             {"id": head[0], "title": " ".join(head[2:]), "break": False, "area": int(head[1]),
              "floating": False, "movable": True, "spots": self.spots(words, ICON)})
 
+    def shortcut(self, rest):
+        identifier, key = rest.split(" ", 1)
+        if identifier not in self.allowed:
+            return
+        bindings = self.states["shortcuts"]["bindings"]
+        bindings[:] = [b for b in bindings if b["id"] != identifier and b["key sequence"] != key]
+        bindings.append({"id": identifier, "key sequence": key})
+
     def menu(self, rest):
         head, words = split_head(rest)
         self.states["menus"]["subitems"].append(
@@ -170,11 +181,18 @@ class Layout:
 
     def panel(self, rest):
         head, pages = split_head(rest)
-        self.panels[head[0]].append(
-            {"id": head[1], "title": " ".join(head[2:]), "persistence": 4, "width": 250, "height": 260,
-             "top": 0, "left": 0,
-             "pages": [{"id": p.split("=")[0], "title": p.split("=")[1]} for p in pages
-                       if p.split("=")[0].replace("Page.", "Window.") in self.allowed]})
+        self.panels[head[0]].append(self.dock_widget(head[1:], pages, (0, 0, 250, 260)))
+
+    def float(self, rest):
+        head, pages = split_head(rest)
+        self.floated.append(self.dock_widget(head[4:], pages, [int(n) for n in head[:4]]))
+
+    def dock_widget(self, head, pages, place):
+        """Pages of the product; those that this layout does not offer wait unseen."""
+        return {"id": head[0], "title": " ".join(head[1:]), "persistence": 4, "width": place[2],
+                "height": place[3], "top": place[1], "left": place[0],
+                "pages": [{"id": p.split("=")[0], "title": p.split("=")[1]} for p in pages
+                          if p.split("=")[0].replace("Page.", "Window.") in self.offered]}
 
     def page(self, rest):
         identifier, title = rest.split(" ", 1)
@@ -196,19 +214,20 @@ class Layout:
             panels = [p for p in self.panels[side] if p["pages"]]
             boxes = {"id": "toolboxes.site", "subitems": panels}
             if panels:
-                boxes["size"] = 250
+                boxes["size"] = SITE_SIZES[side]
             return {"id": side, "subitems": [boxes, {"id": "toolbars.inner", "subitems": []},
                                              {"id": "toolbars.outter", "subitems": []}]}
         return {"id": "docking", "subitems": [
             {"id": "areas", "subitems": [{"id": "manager.area", "sites": [site(s) for s in SIDES]}]},
-            {"id": "floated", "subitems": []}]}
+            {"id": "floated", "subitems": [p for p in self.floated if p["pages"]]}]}
 
 
 def profile(letter, table, tables):
     layouts = []
+    offered = {c["id"] for c in table if letter in c["products"]}
     for key, name in LAYOUTS:
         allowed = {c["id"] for c in table if letter in c["products"] and key in c["where"]}
-        layouts.append(Layout(name, allowed, tables).json)
+        layouts.append(Layout(name, allowed, offered, tables).json)
     product = next(name for l, name, _ in PRODUCTS if l == letter)
     return {"profile": {"layouts": layouts, "product": product, "version": "1.0.0.0", "counter": 100}}
 

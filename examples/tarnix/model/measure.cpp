@@ -6,10 +6,10 @@
 namespace tarnix {
 namespace {
 
-QString Tr(const char* text)
+class Texts
 {
-    return QCoreApplication::translate("tarnix::Measurement", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(tarnix::Measurement)
+};
 
 } // namespace
 
@@ -34,17 +34,17 @@ QString Measurement::Title() const
 {
     switch (kind) {
     case MeasureKind::Point:
-        return Tr("Point");
+        return Texts::tr("Point");
     case MeasureKind::Distance:
-        return Tr("Distance");
+        return Texts::tr("Distance");
     case MeasureKind::Angle:
-        return Tr("Angle");
+        return Texts::tr("Angle");
     case MeasureKind::Radius:
-        return Tr("Radius");
+        return Texts::tr("Radius");
     case MeasureKind::Box:
-        return Tr("Size");
+        return Texts::tr("Size");
     case MeasureKind::Gap:
-        return Tr("Gap");
+        return Texts::tr("Gap");
     }
     return QString();
 }

@@ -30,7 +30,7 @@ void Scene::SetPlate(const Plate& plate)
     Q_EMIT PlateChanged();
 }
 
-bool Scene::Edit(const QString& title, const std::function<bool(PartList&)>& change)
+bool Scene::Edit(const Phrase& title, const std::function<bool(PartList&)>& change)
 {
     PartList parts = m_parts;
     if (!change(parts))
@@ -42,7 +42,7 @@ bool Scene::Edit(const QString& title, const std::function<bool(PartList&)>& cha
     return true;
 }
 
-bool Scene::EditSelected(const QString& title, const std::function<void(Part&)>& change)
+bool Scene::EditSelected(const Phrase& title, const std::function<void(Part&)>& change)
 {
     return Edit(title, [&change](PartList& parts) {
         bool any = false;
@@ -56,7 +56,7 @@ bool Scene::EditSelected(const QString& title, const std::function<void(Part&)>&
     });
 }
 
-bool Scene::EditSelectedMerged(const QString& title, int merge_key,
+bool Scene::EditSelectedMerged(const Phrase& title, int merge_key,
                                const std::function<void(Part&)>& change)
 {
     const bool joins = merge_key != 0 && merge_key == m_merge_key && !m_undo.empty() &&
@@ -74,7 +74,7 @@ bool Scene::EditSelectedMerged(const QString& title, int merge_key,
     return true;
 }
 
-void Scene::Add(const QString& title, PartList parts)
+void Scene::Add(const Phrase& title, PartList parts)
 {
     if (parts.empty())
         return;
@@ -91,7 +91,7 @@ void Scene::Add(const QString& title, PartList parts)
     });
 }
 
-void Scene::DeleteSelected(const QString& title)
+void Scene::DeleteSelected(const Phrase& title)
 {
     Edit(title, [](PartList& parts) {
         const auto gone = std::remove_if(parts.begin(), parts.end(), [](const Part& part) {
@@ -111,8 +111,10 @@ void Scene::Reset(PartList parts)
     GiveIds();
     m_undo.clear();
     m_redo.clear();
+    m_notes.clear();
     m_merge_key = 0;
     m_modified = false;
+    Q_EMIT NoteChanged(-1);
     Q_EMIT PartsChanged();
     Q_EMIT SelectionChanged();
     Q_EMIT HistoryChanged();
@@ -187,13 +189,34 @@ void Scene::Rename(int id, const QString& name)
     const QString text = name.simplified();
     if (!part || text.isEmpty() || part->name == text)
         return;
-    Edit(tr("Rename"), [&](PartList& parts) {
+    Edit(Phrase("tarnix::Scene", QT_TR_NOOP("Rename")), [&](PartList& parts) {
         for (Part& entry : parts) {
             if (entry.id == id)
                 entry.name = text;
         }
         return true;
     });
+}
+
+QString Scene::Note(int id) const
+{
+    const auto note = m_notes.find(id);
+    return note == m_notes.end() ? QString() : note->second;
+}
+
+void Scene::SetNote(int id, const QString& text)
+{
+    if (text == Note(id))
+        return;
+    if (text.isEmpty())
+        m_notes.erase(id);
+    else
+        m_notes[id] = text;
+    Q_EMIT NoteChanged(id);
+    if (!m_modified) {
+        m_modified = true;
+        Q_EMIT HistoryChanged();
+    }
 }
 
 int Scene::SelectedCount() const
@@ -232,7 +255,7 @@ QStringList Scene::UndoTitles() const
 {
     QStringList titles;
     for (const Step& step : m_undo)
-        titles.append(step.title);
+        titles.append(step.title.Text());
     return titles;
 }
 
@@ -240,7 +263,7 @@ QStringList Scene::RedoTitles() const
 {
     QStringList titles;
     for (auto step = m_redo.rbegin(); step != m_redo.rend(); ++step)
-        titles.append(step->title);
+        titles.append(step->title.Text());
     return titles;
 }
 
@@ -260,6 +283,15 @@ void Scene::SetSaved()
     Q_EMIT HistoryChanged();
 }
 
+void Scene::SetMostSteps(size_t steps)
+{
+    m_most_steps = std::max<size_t>(steps, 1);
+    if (m_undo.size() <= m_most_steps)
+        return;
+    m_undo.erase(m_undo.begin(), m_undo.end() - std::ptrdiff_t(m_most_steps));
+    Q_EMIT HistoryChanged();
+}
+
 void Scene::CheckConsistency() const
 {
     std::set<int> ids;
@@ -269,14 +301,14 @@ void Scene::CheckConsistency() const
         if (!part.GetMesh() || part.GetMesh()->IsEmpty())
             throw std::logic_error("a part has no mesh");
     }
-    if (m_undo.size() > k_most_steps)
+    if (m_undo.size() > m_most_steps)
         throw std::logic_error("too many undo steps");
 }
 
-void Scene::Push(const QString& title, PartList before)
+void Scene::Push(const Phrase& title, PartList before)
 {
     m_undo.push_back({title, std::move(before)});
-    if (m_undo.size() > k_most_steps)
+    if (m_undo.size() > m_most_steps)
         m_undo.erase(m_undo.begin());
     m_redo.clear();
     Touched();

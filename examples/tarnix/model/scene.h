@@ -1,11 +1,13 @@
 #pragma once
 
 #include "model/part.h"
+#include "model/phrase.h"
 
 #include <QObject>
 #include <QStringList>
 
 #include <functional>
+#include <map>
 #include <vector>
 
 namespace tarnix {
@@ -41,20 +43,20 @@ public:
 
     /// Runs `change` on the parts as one undo step with a title for the user. Parts without an
     /// id get one. When the change returns false, nothing has happened.
-    bool Edit(const QString& title, const std::function<bool(PartList&)>& change);
+    bool Edit(const Phrase& title, const std::function<bool(PartList&)>& change);
     /// Runs `change` on each selected part that is not locked. False when there is none.
-    bool EditSelected(const QString& title, const std::function<void(Part&)>& change);
+    bool EditSelected(const Phrase& title, const std::function<void(Part&)>& change);
     /// As EditSelected, joined to the last step while it has the same title and `merge_key` and
     /// nothing else came in between: a drag or a burst of arrow keys is one step.
-    bool EditSelectedMerged(const QString& title, int merge_key,
+    bool EditSelectedMerged(const Phrase& title, int merge_key,
                             const std::function<void(Part&)>& change);
     /// Ends merging: the next merged edit is a step of its own.
     void EndMerge() { m_merge_key = 0; }
 
     /// Adds parts and selects them alone.
-    void Add(const QString& title, PartList parts);
+    void Add(const Phrase& title, PartList parts);
     /// Deletes the selected parts that are not locked.
-    void DeleteSelected(const QString& title);
+    void DeleteSelected(const Phrase& title);
     /// Takes everything away, history too. For a new or loaded build.
     void Reset(PartList parts);
 
@@ -68,6 +70,11 @@ public:
     void SetLocked(const std::function<bool(const Part&)>& wanted);
     void Rename(int id, const QString& name);
 
+    /// What the user wrote about a part; with 0 instead of an id, about the whole build. No undo
+    /// step: a text has its own. It comes back with a part whose deletion is undone.
+    QString Note(int id) const;
+    void SetNote(int id, const QString& text);
+
     int SelectedCount() const;
     std::vector<const Part*> Selected() const;
     bool HasEditableSelection() const;
@@ -76,8 +83,8 @@ public:
 
     bool CanUndo() const { return !m_undo.empty(); }
     bool CanRedo() const { return !m_redo.empty(); }
-    QString UndoTitle() const { return m_undo.empty() ? QString() : m_undo.back().title; }
-    QString RedoTitle() const { return m_redo.empty() ? QString() : m_redo.back().title; }
+    QString UndoTitle() const { return m_undo.empty() ? QString() : m_undo.back().title.Text(); }
+    QString RedoTitle() const { return m_redo.empty() ? QString() : m_redo.back().title.Text(); }
     /// Titles of the steps that can be undone, the oldest first, and of those to redo, next first.
     QStringList UndoTitles() const;
     QStringList RedoTitles() const;
@@ -87,6 +94,8 @@ public:
     /// Whether anything changed since SetSaved().
     bool IsModified() const { return m_modified; }
     void SetSaved();
+    /// How many steps can be undone; older ones are forgotten.
+    void SetMostSteps(size_t steps);
 
     /// Throws when ids are double or zero or a part has no mesh; for tests.
     void CheckConsistency() const;
@@ -96,27 +105,30 @@ Q_SIGNALS:
     void PartsChanged();
     void SelectionChanged();
     void PlateChanged();
+    /// A note was written, or all were read anew (-1).
+    void NoteChanged(int id);
     /// Undo, redo or saved state changed.
     void HistoryChanged();
 
 private:
     struct Step
     {
-        QString title;
+        Phrase title;
         PartList parts;
     };
 
-    static constexpr size_t k_most_steps = 200;
 
-    void Push(const QString& title, PartList before);
+    void Push(const Phrase& title, PartList before);
     void GiveIds();
     void Touched();
     void Walk(std::vector<Step>& from, std::vector<Step>& to, int steps);
 
     PartList m_parts;
+    std::map<int, QString> m_notes;
     Plate m_plate;
     std::vector<Step> m_undo;
     std::vector<Step> m_redo;
+    size_t m_most_steps = 200;
     int m_next_id = 1;
     int m_merge_key = 0;
     bool m_modified = false;

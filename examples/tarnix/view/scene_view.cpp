@@ -10,9 +10,7 @@
 namespace tarnix {
 namespace {
 
-constexpr size_t k_most_former = 40;
 constexpr int k_rest_ms = 140;
-constexpr int k_flight_ms = 220;
 
 } // namespace
 
@@ -20,7 +18,6 @@ SceneView::SceneView(Workspace& workspace, QWidget* parent)
     : QWidget(parent), m_workspace(workspace), m_colors(ViewColors::Light(QColor(0x2b, 0x7c, 0xd3)))
 {
     setObjectName(QStringLiteral("sceneView"));
-    setAccessibleName(tr("Build plate"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -30,7 +27,7 @@ SceneView::SceneView(Workspace& workspace, QWidget* parent)
         m_moving = false;
         update();
     });
-    m_flight.setDuration(k_flight_ms);
+    m_flight.setDuration(m_handling.flight_ms);
     m_flight.setEasingCurve(QEasingCurve::InOutCubic);
     m_flight.setStartValue(0.0);
     m_flight.setEndValue(1.0);
@@ -68,8 +65,8 @@ void SceneView::SceneTouched()
 void SceneView::Remember()
 {
     m_former.push_back(m_camera);
-    if (m_former.size() > k_most_former)
-        m_former.erase(m_former.begin());
+    if (m_former.size() > m_handling.former_views)
+        m_former.erase(m_former.begin(), m_former.end() - std::ptrdiff_t(m_handling.former_views));
 }
 
 void SceneView::GoTo(const Camera& camera, bool at_once)
@@ -78,7 +75,7 @@ void SceneView::GoTo(const Camera& camera, bool at_once)
         return;
     Remember();
     m_flight.stop();
-    if (at_once || !m_flights || !isVisible()) {
+    if (at_once || !m_flights || m_handling.flight_ms == 0 || !isVisible()) {
         m_camera = camera;
         m_parts_dirty = true;
         update();
@@ -150,6 +147,20 @@ void SceneView::SetColors(const ViewColors& colors)
     update();
 }
 
+void SceneView::SetHandling(const Handling& handling)
+{
+    m_handling = handling;
+    m_flight.setDuration(handling.flight_ms);
+}
+
+void SceneView::SetStartView(double azimuth, double elevation)
+{
+    if (m_fitted)
+        return;
+    m_camera.azimuth = azimuth;
+    m_camera.elevation = elevation;
+}
+
 void SceneView::StartMotion()
 {
     m_moving = true;
@@ -186,6 +197,7 @@ void SceneView::Paint(QPainter& painter, const QSize& size, int samples, bool fo
     const ViewState& state = m_workspace.GetViewState();
     const Scene& scene = m_workspace.GetScene();
     const Formatter& format = m_workspace.Format();
+    painter.setFont(state.font);
     OverlayPainter overlay(painter, m_camera, size, m_colors, format);
     overlay.Background();
     const bool from_below = m_camera.elevation < 0.0;
@@ -232,7 +244,7 @@ void SceneView::Paint(QPainter& painter, const QSize& size, int samples, bool fo
     if (state.labels)
         overlay.Names(scene.Parts());
     overlay.Measurements(m_workspace.Measurements(), m_workspace.Picked(),
-                         m_candidate ? &*m_candidate : nullptr);
+                         m_candidate ? &*m_candidate : nullptr, state.measure_width);
     if (state.view_cube && for_screen)
         m_cube.Paint(painter, CubeArea(size), m_camera, m_colors, m_hovered_side);
 }
@@ -240,7 +252,7 @@ void SceneView::Paint(QPainter& painter, const QSize& size, int samples, bool fo
 void SceneView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    Paint(painter, size(), m_moving ? 1 : 2, true);
+    Paint(painter, size(), m_moving || !m_workspace.GetViewState().fine ? 1 : 2, true);
     if (m_drag == Drag::Frame) {
         QColor fill = m_colors.accent;
         fill.setAlpha(40);
@@ -324,7 +336,7 @@ void SceneView::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint step = event->pos() - m_last;
     m_last = event->pos();
-    if (m_drag == Drag::Pressed && (event->pos() - m_press).manhattanLength() >= 5) {
+    if (m_drag == Drag::Pressed && (event->pos() - m_press).manhattanLength() >= m_handling.drag_pixels) {
         if (event->buttons() & Qt::RightButton) {
             Remember();
             m_drag = Drag::Orbit;
@@ -339,7 +351,7 @@ void SceneView::mouseMoveEvent(QMouseEvent* event)
     }
     switch (m_drag) {
     case Drag::Orbit:
-        m_camera.Orbit(-0.4 * step.x(), 0.4 * step.y());
+        m_camera.Orbit(-0.4 * m_handling.orbit_speed * step.x(), 0.4 * m_handling.orbit_speed * step.y());
         StartMotion();
         Q_EMIT CameraChanged();
         break;
@@ -382,7 +394,7 @@ void SceneView::DragParts(const QPointF& at)
     m_moving = true;
     m_rest.start();
     if (m_workspace.GetScene().EditSelectedMerged(
-            tr("Move"), 1000 + m_drag_number,
+            Phrase("tarnix::SceneView", QT_TR_NOOP("Move")), 1000 + m_drag_number,
             [&more](Part& part) { part.Apply(Transform::Translation(more)); }))
         m_drag_done = shift;
 }
@@ -437,7 +449,8 @@ void SceneView::wheelEvent(QWheelEvent* event)
         return;
     }
     m_flight.stop();
-    m_camera.Zoom(std::pow(1.0015, delta), event->position(), size());
+    m_camera.Zoom(std::pow(1.0015, delta * m_handling.zoom_speed * (m_handling.invert_wheel ? -1.0 : 1.0)),
+                  event->position(), size());
     StartMotion();
     Q_EMIT CameraChanged();
 }

@@ -122,6 +122,12 @@ void Workspace::RunChecks()
     Q_EMIT FindingsChanged();
 }
 
+void Workspace::TranslateFindings()
+{
+    if (!m_findings.empty())
+        RunChecks();
+}
+
 const Finding* Workspace::NextFinding()
 {
     for (size_t tried = 0; tried < m_findings.size(); ++tried) {

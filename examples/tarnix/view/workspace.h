@@ -66,6 +66,8 @@ public:
     /// Whether the findings tell about the parts as they are now.
     bool AreFindingsFresh() const { return m_findings_fresh; }
     void RunChecks();
+    /// Writes the findings anew in the present language.
+    void TranslateFindings();
     /// The next finding that names a part, after the last one shown; null when there is none.
     const Finding* NextFinding();
 
