@@ -28,6 +28,15 @@ QByteArray Ribbon(const QByteArray& pages, const QByteArray& more = {})
            pages + "]}}}]}}";
 }
 
+/// That many spots of different commands.
+QByteArray Spots(int count)
+{
+    QByteArrayList spots;
+    for (int i = 0; i < count; ++i)
+        spots << "{\"id\": \"c" + QByteArray::number(i) + "\"}";
+    return spots.join(", ");
+}
+
 } // namespace
 
 class OvkProfileTest : public QObject
@@ -47,11 +56,13 @@ private Q_SLOTS:
         QTest::newRow("help") << QStringList{"--help"} << 0;
         QTest::newRow("short help") << QStringList{"-h"} << 0;
         QTest::newRow("unknown command") << QStringList{"burn"} << 2;
-        QTest::newRow("unknown option") << QStringList{"list", "--burn", "x"} << 2;
-        QTest::newRow("too few files") << QStringList{"convert", "x"} << 2;
-        QTest::newRow("too many files") << QStringList{"list", "x", "y"} << 2;
-        QTest::newRow("no such file") << QStringList{"list", "/no/such/file.json"} << 2;
-        for (const char* command : {"validate", "convert", "merge", "diff", "list"})
+        QTest::newRow("unknown option") << QStringList{"show", "--burn", "x"} << 2;
+        QTest::newRow("too few files") << QStringList{"diff", "x"} << 2;
+        QTest::newRow("a file that is not named as output")
+            << QStringList{"convert", "x", "y"} << 2;
+        QTest::newRow("too many files") << QStringList{"show", "x", "y"} << 2;
+        QTest::newRow("no such file") << QStringList{"show", "/no/such/file.json"} << 2;
+        for (const char* command : {"show", "check", "diff", "convert", "merge", "catalogue"})
             QTest::newRow(command) << QStringList{command, "--help"} << 0;
     }
 
@@ -69,10 +80,10 @@ private Q_SLOTS:
     {
         const QString profile = Put("a.json", QJsonDocument(ovk_test::SmallProfile()).toJson());
         const QString catalogue = Put("c.json", QJsonDocument(ovk_test::SmallCatalogue()).toJson());
-        QCOMPARE(Run({"validate", profile, catalogue}), 0);
-        QVERIFY2(m_out.endsWith(QLatin1String("0 errors, 1 warning\n")),
-                 qPrintable(m_out)); // version 0
-        QCOMPARE(Run({"validate", "--strict", profile}), 1);
+        QCOMPARE(Run({"check", profile, catalogue}), 0);
+        QVERIFY2(m_out.endsWith(QLatin1String("0 errors, 2 warnings\n")),
+                 qPrintable(m_out)); // version 0, and a composite on no site
+        QCOMPARE(Run({"check", "--strict", profile}), 1);
     }
 
     void everyProblemIsToldWithItsPlace_data()
@@ -135,6 +146,24 @@ private Q_SLOTS:
             << QByteArray(
                    R"({"profile": {"layouts": [{"id": "M", "states": {"shortcuts": {"bindings": [{"id": "a", "key sequence": "F1"}, {"id": "b", "key sequence": "F1"}]}}}]}})")
             << "warning: profile/M/shortcuts/b: F1 is bound to \"a\" already";
+        QTest::newRow("empty composite")
+            << QByteArray(
+                   R"({"profile": {"layouts": [{"id": "M", "states": {"composite": {"subitems": [{"id": "a", "type": "menu", "items": []}]}}}]}})")
+            << "warning: profile/M/composite/a: has no commands, so it is never shown";
+        QTest::newRow("composite on no site")
+            << QByteArray(
+                   R"({"profile": {"layouts": [{"id": "M", "states": {"composite": {"subitems": [{"id": "a", "type": "menu", "items": ["x"]}]}}}]}})")
+            << "warning: profile/M/composite/a: stands on no site of its layout";
+        QTest::newRow("composite type")
+            << QByteArray(
+                   R"({"profile": {"layouts": [{"id": "M", "states": {"composite": {"subitems": [{"id": "a", "type": "list", "items": ["x"]}]}}}]}})")
+            << "warning: profile/M/composite/a: the type \"list\" is unknown and taken for "
+               "\"command\"";
+        QTest::newRow("too many commands")
+            << QByteArray(
+                   R"({"profile": {"layouts": [{"id": "M", "states": {"menus": {"subitems": [{"id": "m", "spots": [)") +
+                   Spots(13) + "]}]}}}]}}"
+            << "warning: profile/M/menus/m: holds 13 commands; the user can add none beyond 12";
         QTest::newRow("composite items")
             << QByteArray(
                    R"({"profile": {"layouts": [{"id": "M", "states": {"composite": {"subitems": [{"id": "a", "items": [1]}]}}}]}})")
@@ -158,25 +187,81 @@ private Q_SLOTS:
         QFETCH(QByteArray, file);
         QFETCH(QString, line);
         const QString path = Put("a.json", file);
-        const int code = Run({"validate", path});
-        QVERIFY2(m_out.contains(path + QStringLiteral(": ") + line + QLatin1Char('\n')),
+        const int code = Run({"check", path});
+        QVERIFY2(m_out.contains(path + QStringLiteral(": ") + line + QStringLiteral(" [$.")),
                  qPrintable(m_out));
         QCOMPARE(code, line.startsWith(QLatin1String("error")) ? 1 : 0);
+    }
+
+    void theJsonPathOfAProblemLeadsToItInTheFile()
+    {
+        const QString path = Put(
+            "a.json",
+            R"({"profile": {"version": "1.0.0.0", "layouts": [{"id": "M", "states": {"quick access bar": {"spots": [{"id": "a"}, {"id": "b", "style": 7}]}}}]}})");
+        QCOMPARE(Run({"check", path}), 1);
+        QCOMPARE(m_out,
+                 path + QStringLiteral(
+                            ": error: profile/M/quick access bar/b: \"style\" is 7, not in 0 to 4 "
+                            "[$.profile.layouts[0].states['quick access bar'].spots[1]]\n"
+                            "1 error, 0 warnings\n"));
+        QCOMPARE(Run({"check", "--json", path}), 1);
+        const QJsonObject report = Object(m_out.toUtf8());
+        QCOMPARE(report.value("errors").toInt(), 1);
+        QCOMPARE(report.value("warnings").toInt(), 0);
+        const QJsonObject problem = report.value("problems").toArray().at(0).toObject();
+        QCOMPARE(problem.value("file").toString(), path);
+        QCOMPARE(problem.value("severity").toString(), QStringLiteral("error"));
+        QCOMPARE(problem.value("node").toString(), QStringLiteral("profile/M/quick access bar/b"));
+        QCOMPARE(problem.value("path").toString(),
+                 QStringLiteral("$.profile.layouts[0].states['quick access bar'].spots[1]"));
+        QCOMPARE(problem.value("message").toString(),
+                 QStringLiteral("\"style\" is 7, not in 0 to 4"));
+    }
+
+    void aCompositeOfNothingThatIsOfferedIsTold()
+    {
+        const QString profile = Put(
+            "a.json",
+            R"({"profile": {"version": "1.0.0.0", "product": "Fake", "layouts": [{"id": "Model", "states": {
+            "composite": {"subitems": [{"id": "dead", "type": "menu", "items": ["Gone", "Gone2"]}]},
+            "quick access bar": {"spots": [{"id": "dead"}]}}}]}})");
+        const QString catalogue = Put("c.json", QJsonDocument(ovk_test::SmallCatalogue()).toJson());
+        QCOMPARE(Run({"check", "--catalogue", catalogue, profile}), 0);
+        QVERIFY2(m_out.contains(QLatin1String(
+                     "profile/Model/composite/dead: none of its commands is offered, so it is "
+                     "never shown [$.profile.layouts[0].states.composite.subitems[0]]")),
+                 qPrintable(m_out));
+        QVERIFY(m_out.contains(
+            QLatin1String("[$.profile.layouts[0].states.composite.subitems[0].items[1]]")));
+    }
+
+    void whereFamiliesOfCommandsAreOfferedAnUnknownOneMayBeOfThem()
+    {
+        const QString profile = Put(
+            "a.json",
+            R"({"profile": {"version": "1.0.0.0", "product": "P", "layouts": [{"id": "L", "states": {"quick access bar": {"spots": [{"id": "Recent.1"}]}}}]}})");
+        const QString catalogue = Put(
+            "c.json",
+            R"({"commands": {"command": []}, "products": {"product": [{"id": "P", "layout": [{"id": "L", "command_ids": ["DynamicCommands.Recent"]}]}]}})");
+        QCOMPARE(Run({"check", "--catalogue", catalogue, profile}), 0);
+        QVERIFY2(m_out.contains(QLatin1String(
+                     "nothing is shown, unless one of its families makes it at run time")),
+                 qPrintable(m_out));
     }
 
     void whatTheProductDoesNotOfferIsTold()
     {
         const QString profile = Put("a.json", QJsonDocument(ovk_test::SmallProfile()).toJson());
         const QString catalogue = Put("c.json", QJsonDocument(ovk_test::SmallCatalogue()).toJson());
-        QCOMPARE(Run({"validate", "--catalogue", catalogue, profile}), 0);
+        QCOMPARE(Run({"check", "--catalogue", catalogue, profile}), 0);
         QVERIFY(!m_out.contains(QLatin1String("offer")));
-        QCOMPARE(Run({"validate", "--catalogue", catalogue, "--product", "Other", profile}), 0);
+        QCOMPARE(Run({"check", "--catalogue", catalogue, "--product", "Other", profile}), 0);
         QVERIFY(m_out.contains(QLatin1String("profile/Model/ribbon/page.home/group.file/File.Open: "
                                              "the product does not offer it here")));
         QVERIFY(m_out.contains(
             QLatin1String("profile/Slice: the product \"Other\" has no such layout")));
         QVERIFY(!m_out.contains(QLatin1String("group.edit/composite.clip")));
-        QCOMPARE(Run({"validate", "--catalogue", catalogue, "--product", "None", profile}), 2);
+        QCOMPARE(Run({"check", "--catalogue", catalogue, "--product", "None", profile}), 2);
     }
 
     void aFileThatIsNoDocumentIsUnusable_data()
@@ -195,7 +280,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, data);
         QFETCH(QString, message);
-        QCOMPARE(Run({"validate", Put("a.json", data)}), 2);
+        QCOMPARE(Run({"check", Put("a.json", data)}), 2);
         QVERIFY2(m_errors.contains(message), qPrintable(m_errors));
     }
 
@@ -205,22 +290,35 @@ private Q_SLOTS:
     {
         const QByteArray text = QJsonDocument(ovk_test::SmallProfile()).toJson();
         const QString source = Put("a.json", text);
-        QCOMPARE(Run({"convert", source, Path("b.bin")}), 0);
+        QCOMPARE(Run({"convert", "--output", Path("b.bin"), source}), 0);
         QVERIFY(Contents(Path("b.bin")).startsWith("qbjs"));
-        QCOMPARE(Run({"convert", Path("b.bin"), Path("c.json")}), 0);
+        QCOMPARE(Run({"convert", "--output", Path("c.json"), Path("b.bin")}), 0);
         QCOMPARE(Contents(Path("c.json")), text);
-        QCOMPARE(Run({"convert", "--format", "bin", source, Path("d.json")}), 0);
+        QCOMPARE(Run({"convert", "--format", "bin", "--output", Path("d.json"), source}), 0);
         QCOMPARE(Contents(Path("d.json")), Contents(Path("b.bin")));
-        QCOMPARE(Run({"convert", Path("d.json"), Path("e.json")}), 0);
+        QCOMPARE(Run({"convert", "--output", Path("e.json"), Path("d.json")}), 0);
         QCOMPARE(Contents(Path("e.json")), text);
-        QCOMPARE(Run({"convert", "--format", "xml", source, Path("f.json")}), 2);
+        QCOMPARE(Run({"convert", "--format", "xml", "--output", Path("f.json"), source}), 2);
         QVERIFY(!QFile::exists(Path("f.json")));
+    }
+
+    void nothingIsWrittenWithoutAnOutput()
+    {
+        const QByteArray text = QJsonDocument(ovk_test::SmallProfile()).toJson();
+        const QString source = Put("a.json", text);
+        QCOMPARE(Run({"convert", source}), 0);
+        QCOMPARE(m_out.toUtf8(), text);
+        QCOMPARE(Run({"merge", source, source}), 0);
+        QVERIFY(Object(m_out.toUtf8()).contains("profile"));
+        QCOMPARE(mp_folder->filePath("a.json"), source);
+        QCOMPARE(QDir(mp_folder->path()).entryList(QDir::Files), QStringList{"a.json"});
+        QCOMPARE(Contents(source), text);
     }
 
     void aFileThatCannotBeWrittenIsUnusable()
     {
         const QString source = Put("a.json", QJsonDocument(ovk_test::SmallProfile()).toJson());
-        QCOMPARE(Run({"convert", source, Path("none/b.json")}), 2);
+        QCOMPARE(Run({"convert", "--output", Path("none/b.json"), source}), 2);
         QVERIFY(m_errors.contains(QLatin1String("cannot be written")));
     }
 
@@ -229,7 +327,7 @@ private Q_SLOTS:
     void equalFilesHaveNoDifferencesWhateverTheirForm()
     {
         const QString source = Put("a.json", QJsonDocument(ovk_test::SmallProfile()).toJson());
-        QCOMPARE(Run({"convert", source, Path("b.bin")}), 0);
+        QCOMPARE(Run({"convert", "--output", Path("b.bin"), source}), 0);
         QCOMPARE(Run({"diff", source, Path("b.bin")}), 0);
         QCOMPARE(m_out, QString());
     }
@@ -251,6 +349,28 @@ private Q_SLOTS:
                                           "+ profile/base/Old\n"));
     }
 
+    void differencesAreToldToAMachine()
+    {
+        const QString first = Put("a.json", Ribbon(R"({"id": "a"}, {"id": "b", "title": "B"})"));
+        const QString second =
+            Put("b.json", Ribbon(R"({"id": "b", "title": "C", "visible": false})"));
+        QCOMPARE(Run({"diff", "--json", first, second}), 1);
+        const QJsonArray differences = Object(m_out.toUtf8()).value("differences").toArray();
+        QCOMPARE(differences.size(), 3);
+        QCOMPARE(differences.at(0).toObject(),
+                 Object(R"({"kind": "removed", "node": "profile/Model/ribbon/a"})"));
+        QCOMPARE(
+            differences.at(1).toObject(),
+            Object(
+                R"({"kind": "changed", "node": "profile/Model/ribbon/b", "field": "title", "before": "B", "after": "C"})"));
+        QCOMPARE(
+            differences.at(2).toObject(),
+            Object(
+                R"({"kind": "changed", "node": "profile/Model/ribbon/b", "field": "visible", "after": false})"));
+        QCOMPARE(Run({"diff", "--json", first, first}), 0);
+        QCOMPARE(Object(m_out.toUtf8()), Object(R"({"differences": []})"));
+    }
+
     void aProfileAndACatalogueAreNotCompared()
     {
         const QString profile = Put("a.json", QJsonDocument(ovk_test::SmallProfile()).toJson());
@@ -264,26 +384,83 @@ private Q_SLOTS:
     void aFileIsListedAsATree()
     {
         const QString path = Put("a.json", QJsonDocument(ovk_test::SmallProfile()).toJson());
-        QCOMPARE(Run({"list", path}), 0);
+        QCOMPARE(Run({"show", path}), 0);
         QVERIFY2(m_out.startsWith(QLatin1String("product: \"Fake\"\nversion: \"0.0.0.0\"\ncounter: "
                                                 "100\nbase: no\nModel (layout)\n")),
                  qPrintable(m_out));
         QVERIFY(m_out.contains(QLatin1String("\n      File.Save (spot)  style=2\n")) ||
                 m_out.contains(QLatin1String("File.Save (spot)  style=2\n")));
         QVERIFY(m_out.contains(QLatin1String("Slice (layout)\n")));
-        QCOMPARE(Run({"list", "--layout", "Slice", path}), 0);
+        QCOMPARE(Run({"show", "--layout", "Slice", path}), 0);
         QVERIFY(!m_out.contains(QLatin1String("Model (layout)")));
-        QCOMPARE(Run({"list", "--layout", "None", path}), 2);
+        QCOMPARE(Run({"show", "--layout", "None", path}), 2);
         const QString catalogue = Put("c.json", QJsonDocument(ovk_test::SmallCatalogue()).toJson());
-        QCOMPARE(Run({"list", "--layout", "commands", catalogue}), 0);
+        QCOMPARE(Run({"show", "--layout", "commands", catalogue}), 0);
         QVERIFY(
             m_out.contains(QLatin1String("  Slice.Run (command)  title=\"Slice\"  visual=true\n")));
+    }
+
+    void aTreeIsShownToAMachine()
+    {
+        const QString path = Put("a.json", Ribbon(R"({"id": "p", "title": "P"})"));
+        QCOMPARE(Run({"show", "--json", path}), 0);
+        const QJsonObject layout =
+            Object(m_out.toUtf8()).value("children").toArray().at(0).toObject();
+        QCOMPARE(layout.value("type").toString(), QStringLiteral("layout"));
+        const QJsonObject page = layout.value("children")
+                                     .toArray()
+                                     .at(0)
+                                     .toObject()
+                                     .value("children")
+                                     .toArray()
+                                     .at(0)
+                                     .toObject();
+        QCOMPARE(
+            page,
+            Object(
+                R"({"id": "p", "type": "page", "path": "$.profile.layouts[0].states.ribbon.pages[0]", "fields": {"title": "P"}})"));
+    }
+
+    // catalogue
+
+    void commandsAreListedWithWhoOffersAndUsesThem()
+    {
+        const QString catalogue = Put(
+            "c.json",
+            R"({"commands": {"command": [{"id": "a", "title": "A"}, {"id": "b", "title": "B"}, {"id": "c"}, {"id": "f", "visual": false}]},
+            "products": {"product": [{"id": "P", "functions": {"function_ids": ["f"]}, "layout": [{"id": "L", "command_ids": ["a", "b"]}, {"id": "M", "command_ids": ["a"]}]},
+            {"id": "Q", "layout": [{"id": "L", "command_ids": ["c"]}]}]}})");
+        const QString profile = Put(
+            "a.json",
+            R"({"profile": {"layouts": [{"id": "L", "states": {"quick access bar": {"spots": [{"id": "a"}]}, "shortcuts": {"bindings": [{"id": "a"}]}}}]}})");
+        QCOMPARE(Run({"catalogue", catalogue}), 0);
+        QCOMPARE(m_out,
+                 QStringLiteral(
+                     "a  \"A\"  P/L, P/M\nb  \"B\"  P/L\nc  \"\"  Q/L\nf  \"\"  not visual  P\n"
+                     "4 commands, 0 unused\n"));
+        QCOMPARE(Run({"catalogue", "--product", "P", "--unused", catalogue}), 1);
+        QCOMPARE(m_out, QStringLiteral("c  \"\"  offered nowhere\n4 commands, 1 unused\n"));
+        QCOMPARE(Run({"catalogue", "--product", "X", catalogue}), 2);
+        QCOMPARE(Run({"catalogue", catalogue, profile}), 0);
+        QVERIFY2(m_out.startsWith(
+                     QLatin1String("a  \"A\"  P/L, P/M  2 places\nb  \"B\"  P/L  0 places\n")),
+                 qPrintable(m_out));
+        QCOMPARE(Run({"catalogue", "--unused", "--json", catalogue, profile}), 1);
+        const QJsonObject report = Object(m_out.toUtf8());
+        QCOMPARE(report.value("unused").toInt(), 2);
+        QCOMPARE(report.value("count").toInt(), 4);
+        QCOMPARE(
+            report.value("commands").toArray().at(0).toObject(),
+            Object(
+                R"({"id": "b", "title": "B", "visual": true, "offered": ["P/L"], "unused": true, "places": 0})"));
+        QCOMPARE(Run({"catalogue", profile}), 2);
+        QCOMPARE(Run({"catalogue", catalogue, catalogue}), 2);
     }
 
     void theBaseIsListedOnDemand()
     {
         const QString path = Put("a.json", Ribbon("", R"(, "base": {"layouts": [{"id": "Old"}]})"));
-        QCOMPARE(Run({"list", "--base", path}), 0);
+        QCOMPARE(Run({"show", "--base", path}), 0);
         QCOMPARE(m_out, QStringLiteral("Old (layout)\n"));
     }
 
@@ -299,17 +476,17 @@ private Q_SLOTS:
         QByteArray fresh = Ribbon(R"({"id": "home"}, {"id": "deleted"}, {"id": "new"})");
         fresh.replace("1.0.0.0", "2.0.0.0");
         const QString next = Put("next.json", fresh);
-        QCOMPARE(Run({"merge", user, next, Path("out.json")}), 0);
+        QCOMPARE(Run({"merge", "--output", Path("out.json"), user, next}), 0);
         const QJsonObject profile = Object(Contents(Path("out.json"))).value("profile").toObject();
         QCOMPARE(profile.value("version").toString(), QStringLiteral("2.0.0.0"));
         QCOMPARE(Pages(profile), (QStringList{"home-", "mine", "new"}));
         QCOMPARE(Pages(profile.value("base").toObject()), (QStringList{"home", "deleted", "new"}));
-        QCOMPARE(Run({"validate", Path("out.json")}), 0);
+        QCOMPARE(Run({"check", Path("out.json")}), 0);
 
         // The same with the old default in a file of its own, and the result in the other form.
         const QString base = Put("base.json", Ribbon(R"({"id": "home"}, {"id": "mine"})"));
-        QCOMPARE(Run({"merge", "--base", base, user, next, Path("out.bin")}), 0);
-        QCOMPARE(Run({"convert", Path("out.bin"), Path("out2.json")}), 0);
+        QCOMPARE(Run({"merge", "--output", Path("out.bin"), "--base", base, user, next}), 0);
+        QCOMPARE(Run({"convert", "--output", Path("out2.json"), Path("out.bin")}), 0);
         QCOMPARE(Pages(Object(Contents(Path("out2.json"))).value("profile").toObject()),
                  (QStringList{"home-", "dropped", "deleted", "new"}));
     }
@@ -324,10 +501,11 @@ private Q_SLOTS:
             "next.json",
             R"({"profile": {"version": "2.0.0.0", "product": "Fake", "layouts": [{"id": "Model", "states": {
             "shortcuts": {"bindings": [{"id": "File.Save", "key sequence": "F3"}, {"id": "Edit.Copy", "key sequence": "F1"}]}}}]}})");
-        QCOMPARE(Run({"merge", user, next, Path("out.json")}), 0);
+        QCOMPARE(Run({"merge", "--output", Path("out.json"), user, next}), 0);
         QCOMPARE(Bindings(Path("out.json")), (QStringList{"File.Open", "Gone", "File.Save"}));
         const QString catalogue = Put("c.json", QJsonDocument(ovk_test::SmallCatalogue()).toJson());
-        QCOMPARE(Run({"merge", "--catalogue", catalogue, user, next, Path("out.json")}), 0);
+        QCOMPARE(Run({"merge", "--output", Path("out.json"), "--catalogue", catalogue, user, next}),
+                 0);
         QCOMPARE(Bindings(Path("out.json")), (QStringList{"File.Open", "File.Save"}));
     }
 
@@ -335,7 +513,7 @@ private Q_SLOTS:
     {
         const QString profile = Put("a.json", QJsonDocument(ovk_test::SmallProfile()).toJson());
         const QString catalogue = Put("c.json", QJsonDocument(ovk_test::SmallCatalogue()).toJson());
-        QCOMPARE(Run({"merge", profile, catalogue, Path("out.json")}), 2);
+        QCOMPARE(Run({"merge", "--output", Path("out.json"), profile, catalogue}), 2);
         QVERIFY(!QFile::exists(Path("out.json")));
     }
 

@@ -15,16 +15,18 @@ const char* const OVERVIEW = R"(Usage: ovk-profile COMMAND [OPTION...] FILE...
 Reads profiles of the user interface and feature catalogues, as text or binary JSON.
 
 Commands:
-  validate FILE...        say what is wrong with profiles or catalogues
-  convert FILE OUT        write a file in the other form
-  merge USER NEW OUT      bring a user's profile onto a new default
-  diff FILE FILE          compare two files node by node
-  list FILE               print a file as a tree
+  show FILE                     print a file as a tree
+  check FILE...                 say what is wrong with profiles or catalogues
+  diff FILE FILE                compare two files node by node
+  convert FILE                  write a file in the other form
+  merge USER NEW                bring a user's profile onto a new default
+  catalogue FILE [PROFILE...]   list the commands, who offers them and who uses them
 
-"-" stands for the standard input or output. A file that is written has the form of its name:
-binary for the extension "bin", else text.
+What is written goes to the standard output unless --output names a file: no file is ever written
+over without that. A file that is written has the form of its name: binary for the extension "bin",
+else text. "-" stands for the standard input.
 
-"ovk-profile COMMAND --help" tells of the options of a command.
+"ovk-profile COMMAND --help" tells of the options of a command and gives examples.
 
 Exit status: 0 fine, 1 problems or differences found, 2 a file or the command line cannot be used.
 )";
@@ -48,6 +50,7 @@ struct Command
     const char* name;
     const char* usage;
     const char* help;
+    const char* examples;
     int least_files;
     int most_files; ///< -1 for any number.
     std::vector<Option> options;
@@ -75,10 +78,11 @@ int RunConvert(const Call& call)
         throw FileError{
             QStringLiteral("the format is \"json\" or \"bin\", not \"%1\"").arg(format)};
     const File file = ReadFile(call.files.at(0));
-    Format to = FormatOfName(call.files.at(1));
+    const QString output = Value(call, "output");
+    Format to = FormatOfName(output);
     if (!format.isEmpty())
         to = format == QLatin1String("bin") ? Format::Binary : Format::Text;
-    WriteFile(call.files.at(1), file.root, to);
+    WriteFile(output, file.root, to, call.out);
     return Fine;
 }
 
@@ -87,75 +91,125 @@ int RunMerge(const Call& call)
     MergeOptions options;
     options.user = call.files.at(0);
     options.fresh = call.files.at(1);
-    options.output = call.files.at(2);
+    options.output = Value(call, "output");
     options.base = Value(call, "base");
     options.catalogue = Value(call, "catalogue");
     options.product = Value(call, "product");
-    return Merge(options);
+    return Merge(options, call.out);
 }
 
-int RunValidate(const Call& call)
+int RunCheck(const Call& call)
 {
-    ValidateOptions options;
+    CheckOptions options;
     options.catalogue = Value(call, "catalogue");
     options.product = Value(call, "product");
     options.strict = IsSet(call, "strict");
-    return Validate(call.files, options, call.out);
+    options.json = IsSet(call, "json");
+    return Check(call.files, options, call.out);
 }
 
-int RunList(const Call& call)
+int RunShow(const Call& call)
 {
-    ListOptions options;
+    ShowOptions options;
     options.layout = Value(call, "layout");
     options.base = IsSet(call, "base");
-    return List(call.files.at(0), options, call.out);
+    options.json = IsSet(call, "json");
+    return Show(call.files.at(0), options, call.out);
 }
+
+int RunDiff(const Call& call)
+{
+    return Diff(call.files.at(0), call.files.at(1), IsSet(call, "json"), call.out);
+}
+
+int RunCatalogue(const Call& call)
+{
+    CatalogueOptions options;
+    options.product = Value(call, "product");
+    options.unused = IsSet(call, "unused");
+    options.json = IsSet(call, "json");
+    return Catalogue(call.files.at(0), call.files.mid(1), options, call.out);
+}
+
+const Option JSON{"json", nullptr, "one JSON document for a machine, in place of lines"};
+const Option OUTPUT{"output", "file", "where to write; by default the standard output"};
 
 const std::vector<Command>& Commands()
 {
     static const std::vector<Command> commands{
-        {"validate",
-         "validate [--catalogue FILE [--product NAME]] [--strict] FILE...",
-         "Says what is wrong with profiles or catalogues, one line for each problem.",
+        {"show",
+         "show [--layout NAME] [--base] [--json] FILE",
+         "Prints a file as a tree.",
+         "  ovk-profile show uiprofile.tarnix.bin\n"
+         "  ovk-profile show --layout Prepare --json uiprofile.tarnix.json",
+         1,
+         1,
+         {{"layout", "name", "only this layout, or this half of a catalogue"},
+          {"base", nullptr, "the base in place of the profile"},
+          JSON},
+         RunShow},
+        {"check",
+         "check [--catalogue FILE [--product NAME]] [--strict] [--json] FILE...",
+         "Says what is wrong with profiles or catalogues, one line for each problem: identifiers "
+         "and\n"
+         "keys that occur twice, suites, types and fields that nobody knows, more commands than a "
+         "site\n"
+         "takes, composites that are never shown; with a catalogue also commands that the product "
+         "does\n"
+         "not offer.",
+         "  ovk-profile check --catalogue features.definition.default.json uiprofile.tarnix.json\n"
+         "  ovk-profile check --strict --json *.json",
          1,
          -1,
-         {CATALOGUE, PRODUCT, {"strict", nullptr, "count warnings as errors"}},
-         RunValidate},
+         {CATALOGUE, PRODUCT, {"strict", nullptr, "count warnings as errors"}, JSON},
+         RunCheck},
+        {"diff",
+         "diff [--json] FILE FILE",
+         "Compares two files node by node: \"-\" is in the first only, \"+\" in the second only,\n"
+         "\"~\" has another field, \">\" stands at another place.",
+         "  ovk-profile diff uiprofile.tarnix.json mine/uiprofile.tarnix.bin",
+         2,
+         2,
+         {JSON},
+         RunDiff},
         {"convert",
-         "convert [--format json|bin] FILE OUT",
+         "convert [--format json|bin] [--output FILE] FILE",
          "Writes a file in the other form, with nothing else changed.",
-         2,
-         2,
-         {{"format", "json|bin", "the form to write; by default that of the name"}},
+         "  ovk-profile convert uiprofile.tarnix.bin\n"
+         "  ovk-profile convert --output uiprofile.tarnix.bin uiprofile.tarnix.json",
+         1,
+         1,
+         {{"format", "json|bin", "the form to write; by default that of the output's name"},
+          OUTPUT},
          RunConvert},
         {"merge",
-         "merge [--base FILE] [--catalogue FILE [--product NAME]] USER NEW OUT",
+         "merge [--base FILE] [--catalogue FILE [--product NAME]] [--output FILE] USER NEW",
          "Brings a user's profile onto a new default: what the user changed stays, what only the\n"
          "default changed follows it. The old default is the base in the user's profile. Without "
          "a\n"
          "catalogue all shortcuts of the user are kept.",
-         3,
-         3,
+         "  ovk-profile merge --output merged.json 1.0/uiprofile.tarnix.bin new-default.json\n"
+         "  ovk-profile merge --base old-default.json user.json new-default.json",
+         2,
+         2,
          {{"base", "file", "the old default, in place of the base in the user's profile"},
           CATALOGUE,
-          PRODUCT},
+          PRODUCT,
+          OUTPUT},
          RunMerge},
-        {"diff",
-         "diff FILE FILE",
-         "Compares two files node by node: \"-\" is in the first only, \"+\" in the second only,\n"
-         "\"~\" has another field, \">\" stands at another place.",
-         2,
-         2,
-         {},
-         [](const Call& call) { return Diff(call.files.at(0), call.files.at(1), call.out); }},
-        {"list",
-         "list [--layout NAME] [--base] FILE",
-         "Prints a file as a tree.",
+        {"catalogue",
+         "catalogue [--product NAME] [--unused] [--json] FILE [PROFILE...]",
+         "Lists the commands of a catalogue and which layouts offer them. A command is unused if "
+         "no\n"
+         "layout offers it or, with profiles, if none of them names it.",
+         "  ovk-profile catalogue features.definition.default.json\n"
+         "  ovk-profile catalogue --unused features.definition.default.json uiprofile.tarnix.json",
          1,
-         1,
-         {{"layout", "name", "only this layout, or this half of a catalogue"},
-          {"base", nullptr, "the base in place of the profile"}},
-         RunList},
+         -1,
+         {{"product", "name", "only what this product offers"},
+          {"unused", nullptr, "only unused commands; the exit status is 1 if there are any"},
+          JSON},
+         RunCatalogue},
     };
     return commands;
 }
@@ -182,6 +236,7 @@ int RunCommand(const Command& command, const QStringList& arguments, QTextStream
                 name += QStringLiteral(" <%1>").arg(QLatin1String(option.value));
             out << "  " << name.leftJustified(20) << "  " << option.help << '\n';
         }
+        out << "\nExamples:\n" << command.examples << '\n';
         return Fine;
     }
     const QStringList files = parser.positionalArguments();

@@ -18,6 +18,32 @@ QString ValueText(const QJsonValue& value)
     return QString::fromUtf8(text.mid(1, text.size() - 2));
 }
 
+struct Difference
+{
+    enum Kind
+    {
+        Removed,
+        Added,
+        Changed,
+        Moved
+    };
+
+    Kind kind = Changed;
+    QString node;
+    QString field; ///< Of a change.
+    QJsonValue before;
+    QJsonValue after;
+};
+
+struct KindName
+{
+    char mark;
+    const char* name;
+};
+
+constexpr KindName KIND_NAMES[] = {
+    {'-', "removed"}, {'+', "added"}, {'~', "changed"}, {'>', "moved"}};
+
 /// Children by name. Of two of one name the first meets the first.
 class Children
 {
@@ -41,9 +67,7 @@ private:
 class Comparison
 {
 public:
-    explicit Comparison(QTextStream& out) : m_out(out) {}
-
-    bool HasDifferences() const { return m_differences > 0; }
+    const std::vector<Difference>& Differences() const { return m_differences; }
 
     void Compare(const Node& first, const Node& second, const QString& path)
     {
@@ -57,18 +81,19 @@ public:
             const QString child_path = QStringLiteral("%1/%2").arg(path, NameOf(child, int(i)));
             const int place = in_second.Take(child.id);
             if (place < 0) {
-                Tell('-', child_path);
+                Tell(Difference::Removed, child_path);
                 continue;
             }
             met[std::size_t(place)] = true;
             if (place < last)
-                Tell('>', child_path);
+                Tell(Difference::Moved, child_path);
             last = qMax(last, place);
             Compare(child, second.children[std::size_t(place)], child_path);
         }
         for (std::size_t i = 0; i < met.size(); ++i) {
             if (!met[i])
-                Tell('+', QStringLiteral("%1/%2").arg(path, NameOf(second.children[i], int(i))));
+                Tell(Difference::Added,
+                     QStringLiteral("%1/%2").arg(path, NameOf(second.children[i], int(i))));
         }
     }
 
@@ -82,40 +107,77 @@ private:
         for (auto key = keys.begin(); key != keys.end(); ++key) {
             const QJsonValue before = first.fields.value(key.key(), QJsonValue::Undefined);
             const QJsonValue after = second.fields.value(key.key(), QJsonValue::Undefined);
-            if (before != after) {
-                Tell('~', QStringLiteral("%1: %2: %3 -> %4")
-                              .arg(path, key.key(), ValueText(before), ValueText(after)));
-            }
+            if (before != after)
+                m_differences.push_back({Difference::Changed, path, key.key(), before, after});
         }
     }
 
-    void Tell(char mark, const QString& text)
+    void Tell(Difference::Kind kind, const QString& node)
     {
-        ++m_differences;
-        m_out << mark << ' ' << text << '\n';
+        Difference difference;
+        difference.kind = kind;
+        difference.node = node;
+        m_differences.push_back(difference);
     }
 
-    QTextStream& m_out;
-    int m_differences = 0;
+    std::vector<Difference> m_differences;
 };
+
+void Print(const Difference& difference, QTextStream& out)
+{
+    out << KIND_NAMES[difference.kind].mark << ' ' << difference.node;
+    if (difference.kind == Difference::Changed) {
+        out << ": " << difference.field << ": " << ValueText(difference.before) << " -> "
+            << ValueText(difference.after);
+    }
+    out << '\n';
+}
+
+QJsonObject ToJson(const Difference& difference)
+{
+    QJsonObject object{{QStringLiteral("kind"), QLatin1String(KIND_NAMES[difference.kind].name)},
+                       {QStringLiteral("node"), difference.node}};
+    if (difference.kind != Difference::Changed)
+        return object;
+    // A side that lacks the field has the default and no key here.
+    object.insert(QStringLiteral("field"), difference.field);
+    if (!difference.before.isUndefined())
+        object.insert(QStringLiteral("before"), difference.before);
+    if (!difference.after.isUndefined())
+        object.insert(QStringLiteral("after"), difference.after);
+    return object;
+}
 
 } // namespace
 
-int Diff(const QString& first_path, const QString& second_path, QTextStream& out)
+int Diff(const QString& first_path, const QString& second_path, bool json, QTextStream& out)
 {
     const File first = ReadFile(first_path);
     const File second = ReadFile(second_path);
     if (first.kind != second.kind)
-        throw FileError{QStringLiteral("a profile and a catalogue cannot be compared")};
+        throw FileError{
+            QStringLiteral(
+                "%1 and %2: a profile and a catalogue cannot be compared; give two files "
+                "of one kind")
+                .arg(first_path, second_path)};
     const auto silent = [](const Problem&) {};
-    Comparison comparison(out);
+    Comparison comparison;
     const bool is_profile = first.kind == Kind::Profile;
     comparison.Compare(TreeOf(first, silent), TreeOf(second, silent),
                        is_profile ? QStringLiteral("profile") : QStringLiteral("catalogue"));
     if (is_profile)
         comparison.Compare(BaseOf(first, silent), BaseOf(second, silent),
                            QStringLiteral("profile/base"));
-    return comparison.HasDifferences() ? Found : Fine;
+    QJsonArray differences;
+    for (const Difference& difference : comparison.Differences()) {
+        if (json)
+            differences.append(ToJson(difference));
+        else
+            Print(difference, out);
+    }
+    if (json)
+        out << QJsonDocument(QJsonObject{{QStringLiteral("differences"), differences}}).toJson();
+    return comparison.Differences().empty() ? Fine : Found;
 }
 
 } // namespace ovk_profile

@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 
+#include <QTextStream>
+
 #include <cstdio>
 
 namespace ovk_profile {
@@ -18,7 +20,8 @@ QByteArray ReadBytes(const QString& path)
     QFile file(path);
     const bool is_stream = path == STANDARD_STREAM;
     if (is_stream ? !file.open(stdin, QIODevice::ReadOnly) : !file.open(QIODevice::ReadOnly))
-        throw FileError{QStringLiteral("%1: %2").arg(path, file.errorString())};
+        throw FileError{
+            QStringLiteral("%1: %2; check the name and its rights").arg(path, file.errorString())};
     return file.readAll();
 }
 
@@ -28,10 +31,17 @@ QJsonObject ParseText(const QString& path, const QByteArray& data)
     const QJsonDocument document = QJsonDocument::fromJson(data, &error);
     if (error.error != QJsonParseError::NoError) {
         const int line = 1 + data.left(error.offset).count('\n');
-        throw FileError{QStringLiteral("%1:%2: %3").arg(path).arg(line).arg(error.errorString())};
+        const int column = error.offset - data.left(error.offset).lastIndexOf('\n');
+        throw FileError{QStringLiteral("%1:%2:%3: %4; mend the text there, or take an older copy")
+                            .arg(path)
+                            .arg(line)
+                            .arg(column)
+                            .arg(error.errorString())};
     }
     if (!document.isObject())
-        throw FileError{QStringLiteral("%1: the root is not an object").arg(path)};
+        throw FileError{
+            QStringLiteral("%1: $: the root is not an object; give a profile or a catalogue")
+                .arg(path)};
     return document.object();
 }
 
@@ -41,8 +51,8 @@ Kind KindOf(const QString& path, const QJsonObject& root)
         return Kind::Profile;
     if (root.contains(QLatin1String("commands")) || root.contains(QLatin1String("products")))
         return Kind::Catalogue;
-    throw FileError{QStringLiteral("%1: neither a profile (\"profile\") nor a catalogue "
-                                   "(\"commands\", \"products\")")
+    throw FileError{QStringLiteral("%1: $: neither a profile (\"profile\") nor a catalogue "
+                                   "(\"commands\", \"products\"); give one of them")
                         .arg(path)};
 }
 
@@ -57,7 +67,8 @@ File ReadFile(const QString& path)
         file.format = Format::Binary;
         const auto root = ovk::ParseDocument(data, ovk::DocumentFormat::Binary);
         if (!root)
-            throw FileError{QStringLiteral("%1: damaged binary document").arg(path)};
+            throw FileError{
+                QStringLiteral("%1: $: damaged binary document; take an older copy").arg(path)};
         file.root = *root;
     } else {
         file.root = ParseText(path, data);
@@ -70,25 +81,36 @@ File ReadProfile(const QString& path)
 {
     File file = ReadFile(path);
     if (file.kind != Kind::Profile || !file.root.value(QLatin1String("profile")).isObject())
-        throw FileError{QStringLiteral("%1: not a profile").arg(path)};
+        throw FileError{
+            QStringLiteral("%1: $.profile: not a profile; give a file with the object \"profile\"")
+                .arg(path)};
     return file;
 }
 
-void WriteFile(const QString& path, const QJsonObject& root, Format format)
+void WriteFile(const QString& path, const QJsonObject& root, Format format, QTextStream& out)
 {
     const auto document =
         format == Format::Binary ? ovk::DocumentFormat::Binary : ovk::DocumentFormat::Json;
     bool written = false;
-    if (path == STANDARD_STREAM) {
+    if (path.isEmpty() || path == STANDARD_STREAM) {
         const QByteArray data = ovk::FormatDocument(root, document);
-        QFile out;
-        written = !data.isEmpty() && out.open(stdout, QIODevice::WriteOnly) &&
-                  out.write(data) == data.size() && out.flush();
+        if (format == Format::Text) {
+            out << QString::fromUtf8(data);
+            written = !data.isEmpty();
+        } else {
+            QFile file;
+            out.flush();
+            written = !data.isEmpty() && file.open(stdout, QIODevice::WriteOnly) &&
+                      file.write(data) == data.size() && file.flush();
+        }
     } else {
         written = ovk::WriteDocument(path, root, document) == ovk::WriteResult::Written;
     }
     if (!written)
-        throw FileError{QStringLiteral("%1: cannot be written").arg(path)};
+        throw FileError{
+            QStringLiteral("%1: cannot be written; look at the folder, its rights and the room on "
+                           "the disk")
+                .arg(path.isEmpty() ? STANDARD_STREAM : path)};
 }
 
 Format FormatOfName(const QString& path)

@@ -3,6 +3,8 @@
 #include <QJsonObject>
 #include <QString>
 
+class QTextStream;
+
 namespace ovk_profile {
 
 /// The two forms of a file.
@@ -40,9 +42,9 @@ File ReadFile(const QString& path);
 /// As ReadFile(), for a file that must be a profile.
 File ReadProfile(const QString& path);
 
-/// Writes a file; "-" is the standard output. A failure leaves a former file whole. Throws
-/// FileError.
-void WriteFile(const QString& path, const QJsonObject& root, Format format);
+/// Writes a file; with "-" or an empty path to `out` as text, or to the standard output in binary
+/// form. A failure leaves a former file whole. Throws FileError.
+void WriteFile(const QString& path, const QJsonObject& root, Format format, QTextStream& out);
 
 /// The form that a file of that name has: binary for the extension "bin", else text.
 Format FormatOfName(const QString& path);

@@ -1,6 +1,6 @@
 #include "tool.h"
 
-#include "validate_rules.h"
+#include "check_rules.h"
 
 #include "ovk/commands/ui_command.h"
 #include "ovk/commands/ui_controller.h"
@@ -110,7 +110,7 @@ Offer OfferFor(const MergeOptions& options, const File& user, const File& fresh)
 
 } // namespace
 
-int Merge(const MergeOptions& options)
+int Merge(const MergeOptions& options, QTextStream& out)
 {
     const File user = ReadProfile(options.user);
     const File fresh = ReadProfile(options.fresh);
@@ -134,7 +134,7 @@ int Merge(const MergeOptions& options)
     profile.insert(QStringLiteral("version"),
                    ProfileOf(fresh).value(QLatin1String("version")).toString());
     WriteFile(options.output, QJsonObject{{QStringLiteral("profile"), profile}},
-              FormatOfName(options.output));
+              FormatOfName(options.output), out);
     return Fine;
 }
 

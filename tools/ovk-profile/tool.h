@@ -1,11 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QTextStream>
-
-#include <functional>
-
-class QStringList;
 
 namespace ovk_profile {
 
@@ -13,40 +10,51 @@ namespace ovk_profile {
 enum ExitCode
 {
     Fine = 0,
-    Found = 1,   ///< Problems (validate) or differences (diff).
+    Found = 1,   ///< Problems (check), differences (diff), or unused commands (catalogue --unused).
     Unusable = 2 ///< A file or the command line cannot be used.
 };
 
 /// Runs one command line, without the name of the program.
 int Run(const QStringList& arguments, QTextStream& out, QTextStream& errors);
 
-/// Options of the commands.
-struct ValidateOptions
+/// Options of the commands. Each that reports can do so for a machine: as one JSON document.
+struct CheckOptions
 {
     QString catalogue;   ///< Path of the catalogue whose commands the spots are looked up in.
     QString product;     ///< The product of the catalogue; by default that of the profile.
     bool strict = false; ///< Warnings count.
+    bool json = false;
 };
 
-struct ListOptions
+struct ShowOptions
 {
     QString layout; ///< Only this one.
     bool base = false;
+    bool json = false;
 };
 
 struct MergeOptions
 {
     QString user;
     QString fresh;
-    QString base; ///< By default the one in the user's file.
-    QString output;
+    QString base;   ///< By default the one in the user's file.
+    QString output; ///< By default the standard output.
     QString catalogue;
     QString product;
 };
 
-int Validate(const QStringList& paths, const ValidateOptions& options, QTextStream& out);
-int List(const QString& path, const ListOptions& options, QTextStream& out);
-int Diff(const QString& first, const QString& second, QTextStream& out);
-int Merge(const MergeOptions& options);
+struct CatalogueOptions
+{
+    QString product;     ///< Only this one.
+    bool unused = false; ///< Only the commands that nobody uses.
+    bool json = false;
+};
+
+int Check(const QStringList& paths, const CheckOptions& options, QTextStream& out);
+int Show(const QString& path, const ShowOptions& options, QTextStream& out);
+int Diff(const QString& first, const QString& second, bool json, QTextStream& out);
+int Merge(const MergeOptions& options, QTextStream& out);
+int Catalogue(const QString& path, const QStringList& profiles, const CatalogueOptions& options,
+              QTextStream& out);
 
 } // namespace ovk_profile

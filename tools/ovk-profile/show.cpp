@@ -3,6 +3,9 @@
 #include "node.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
 
 namespace ovk_profile {
 namespace {
@@ -44,11 +47,26 @@ void Print(const Node& node, int position, int depth, QTextStream& out)
 
 } // namespace
 
-int List(const QString& path, const ListOptions& options, QTextStream& out)
+int Show(const QString& path, const ShowOptions& options, QTextStream& out)
 {
     const File file = ReadFile(path);
     const auto silent = [](const Problem&) {};
-    const Node tree = options.base ? BaseOf(file, silent) : TreeOf(file, silent);
+    Node tree = options.base ? BaseOf(file, silent) : TreeOf(file, silent);
+    if (!options.layout.isEmpty()) {
+        const auto other = [&](const Node& child) { return child.id != options.layout; };
+        tree.children.erase(std::remove_if(tree.children.begin(), tree.children.end(), other),
+                            tree.children.end());
+        if (tree.children.empty()) {
+            throw FileError{
+                QStringLiteral("%1: no layout \"%2\"; show it without --layout to see which "
+                               "there are")
+                    .arg(path, options.layout)};
+        }
+    }
+    if (options.json) {
+        out << QJsonDocument(ToJson(tree)).toJson();
+        return Fine;
+    }
     if (file.kind == Kind::Profile && !options.base) {
         for (const char* key : {"product", "version", "counter"}) {
             const QJsonValue value = tree.fields.value(QLatin1String(key));
@@ -57,15 +75,8 @@ int List(const QString& path, const ListOptions& options, QTextStream& out)
         }
         out << "base: " << (tree.fields.contains(QStringLiteral("base")) ? "yes" : "no") << '\n';
     }
-    bool found = options.layout.isEmpty();
-    for (std::size_t i = 0; i < tree.children.size(); ++i) {
-        if (!options.layout.isEmpty() && tree.children[i].id != options.layout)
-            continue;
-        found = true;
+    for (std::size_t i = 0; i < tree.children.size(); ++i)
         Print(tree.children[i], int(i), 0, out);
-    }
-    if (!found)
-        throw FileError{QStringLiteral("%1: no layout \"%2\"").arg(path, options.layout)};
     return Fine;
 }
 

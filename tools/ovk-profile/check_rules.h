@@ -20,10 +20,12 @@ Offer OfferOf(const File& catalogue, const QString& product);
 /// The rules for one node by itself: types and ranges of its fields.
 void CheckFields(const Node& node, const QString& path, const Report& report);
 
-/// The rules between the children of one node: identifiers and keys that occur twice.
+/// The rules between the children of one node: identifiers and keys that occur twice, and more than
+/// a site takes.
 void CheckChildren(const Node& node, const QString& path, const Report& report);
 
-/// The rules for a whole profile: its header, and the numbers in generated identifiers.
+/// The rules for a whole profile: its header, the numbers in generated identifiers, and
+/// composites that nobody can see.
 void CheckProfile(const File& file, const Node& profile, const Report& report);
 
 /// The rules for a whole catalogue: commands that layouts name and nobody defines.

@@ -1,4 +1,4 @@
-#include "validate_rules.h"
+#include "check_rules.h"
 
 #include "ovk/core/version_info.h"
 
@@ -6,6 +6,7 @@
 #include <QKeySequence>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 
 namespace ovk_profile {
@@ -14,6 +15,15 @@ namespace {
 bool Is(const Node& node, const char* type)
 {
     return node.type && QLatin1String(node.type->name) == QLatin1String(type);
+}
+
+QStringList TextsOf(const QJsonValue& value)
+{
+    QStringList texts;
+    const QJsonArray array = value.toArray();
+    for (int i = 0; i < array.size(); ++i)
+        texts << array.at(i).toString();
+    return texts;
 }
 
 bool HasType(const QJsonValue& value, FieldType type)
@@ -138,21 +148,44 @@ bool IsCommandSpot(const Node& node)
                QLatin1String("command");
 }
 
+/// Whether commands are made at run time whose identifiers no catalogue has.
+bool HasFamilies(const QSet<QString>& known)
+{
+    return std::any_of(known.begin(), known.end(), [](const QString& id) {
+        return id.startsWith(QLatin1String("DynamicCommands."));
+    });
+}
+
 void CheckOffered(const Node& node, const QSet<QString>& known, const QString& path,
                   const Report& report)
 {
+    const QString unless = HasFamilies(known)
+                               ? QStringLiteral(", unless one of its families makes it at run time")
+                               : QString();
     if ((IsCommandSpot(node) || Is(node, "binding")) && !known.contains(node.id)) {
-        report({Problem::Warning, path, QStringLiteral("the product does not offer it here")});
+        report({Problem::Warning, path,
+                QStringLiteral("the product does not offer it here, so nothing is shown") + unless,
+                node.place});
         return;
     }
     if (Is(node, "composite")) {
-        const QJsonArray items = node.fields.value(QStringLiteral("items")).toArray();
+        const QStringList items = TextsOf(node.fields.value(QStringLiteral("items")));
+        int offered = 0;
         for (int i = 0; i < items.size(); ++i) {
-            if (!known.contains(items.at(i).toString())) {
-                report({Problem::Warning, path,
-                        QStringLiteral("the product does not offer \"%1\" here")
-                            .arg(items.at(i).toString())});
+            if (known.contains(items.at(i))) {
+                ++offered;
+                continue;
             }
+            report(
+                {Problem::Warning, path,
+                 QStringLiteral("the product does not offer \"%1\" here").arg(items.at(i)) + unless,
+                 PlaceIn(PlaceIn(node.place, QStringLiteral("items")), i)});
+        }
+        if (!items.isEmpty() && offered == 0) {
+            report(
+                {Problem::Warning, path,
+                 QStringLiteral("none of its commands is offered, so it is never shown") + unless,
+                 node.place});
         }
     }
     for (std::size_t i = 0; i < node.children.size(); ++i) {
@@ -175,13 +208,74 @@ QSet<QString> CompositesOf(const Node& layout)
     return names;
 }
 
-QStringList TextsOf(const QJsonValue& value)
+/// How many spots a site takes from the user; more in a file are shown.
+struct Capacity
 {
-    QStringList texts;
-    const QJsonArray array = value.toArray();
-    for (int i = 0; i < array.size(); ++i)
-        texts << array.at(i).toString();
-    return texts;
+    const char* node;
+    int most;
+};
+
+constexpr Capacity CAPACITIES[] = {
+    {"group", 128}, {"quick access bar", 128}, {"toolbar", 64}, {"menu", 12}, {"composite", 32}};
+
+void CheckCapacity(const Node& node, const QString& path, const Report& report)
+{
+    for (const Capacity& capacity : CAPACITIES) {
+        if (!Is(node, capacity.node))
+            continue;
+        const int count = Is(node, "composite")
+                              ? node.fields.value(QStringLiteral("items")).toArray().size()
+                              : int(node.children.size());
+        if (count > capacity.most) {
+            report({Problem::Warning, path,
+                    QStringLiteral("holds %1 commands; the user can add none beyond %2")
+                        .arg(count)
+                        .arg(capacity.most),
+                    node.place});
+        }
+    }
+}
+
+/// The names of all spots below a node, and of the items of its composites.
+void CollectPlaced(const Node& node, QSet<QString>& names)
+{
+    if (IsCommandSpot(node))
+        names.insert(node.id);
+    if (Is(node, "composite")) {
+        for (const QString& item : TextsOf(node.fields.value(QStringLiteral("items"))))
+            names.insert(item);
+    }
+    for (const Node& child : node.children)
+        CollectPlaced(child, names);
+}
+
+void CheckComposites(const Node& layout, const QString& path, const Report& report)
+{
+    QSet<QString> placed;
+    CollectPlaced(layout, placed);
+    for (const Node& suite : layout.children) {
+        if (!Is(suite, "composite suite"))
+            continue;
+        for (std::size_t i = 0; i < suite.children.size(); ++i) {
+            const Node& composite = suite.children[i];
+            const QString name =
+                QStringLiteral("%1/%2/%3").arg(path, suite.id, NameOf(composite, int(i)));
+            if (TextsOf(composite.fields.value(QStringLiteral("items"))).isEmpty()) {
+                report({Problem::Warning, name,
+                        QStringLiteral("has no commands, so it is never shown"), composite.place});
+            } else if (!placed.contains(composite.id)) {
+                report({Problem::Warning, name, QStringLiteral("stands on no site of its layout"),
+                        composite.place});
+            }
+            const QString type = composite.fields.value(QStringLiteral("type")).toString();
+            if (type != QLatin1String("menu") && type != QLatin1String("command")) {
+                report({Problem::Warning, name,
+                        QStringLiteral("the type \"%1\" is unknown and taken for \"command\"")
+                            .arg(type),
+                        PlaceIn(composite.place, QStringLiteral("type"))});
+            }
+        }
+    }
 }
 
 } // namespace
@@ -244,15 +338,17 @@ void CheckFields(const Node& node, const QString& path, const Report& report)
 
 void CheckChildren(const Node& node, const QString& path, const Report& report)
 {
+    CheckCapacity(node, path, report);
     QSet<QString> ids;
     QMap<QString, QString> keys;
     for (std::size_t i = 0; i < node.children.size(); ++i) {
         const Node& child = node.children[i];
         const QString child_path = QStringLiteral("%1/%2").arg(path, NameOf(child, int(i)));
         if (child.id.isEmpty() && node.type) {
-            report({Problem::Warning, child_path, QStringLiteral("has no \"id\"")});
+            report({Problem::Warning, child_path, QStringLiteral("has no \"id\""), child.place});
         } else if (ids.contains(child.id)) {
-            report({Problem::Warning, child_path, QStringLiteral("stands here more than once")});
+            report({Problem::Warning, child_path, QStringLiteral("stands here more than once"),
+                    child.place});
         }
         ids.insert(child.id);
         const QString key = child.fields.value(QStringLiteral("key sequence")).toString();
@@ -260,7 +356,8 @@ void CheckChildren(const Node& node, const QString& path, const Report& report)
             continue;
         if (keys.contains(key)) {
             report({Problem::Warning, child_path,
-                    QStringLiteral("%1 is bound to \"%2\" already").arg(key, keys.value(key))});
+                    QStringLiteral("%1 is bound to \"%2\" already").arg(key, keys.value(key)),
+                    child.place});
         } else {
             keys.insert(key, child.id);
         }
@@ -273,9 +370,10 @@ void CheckProfile(const File& file, const Node& profile, const Report& report)
     ovk::VersionInfo version;
     version.FromString(profile.fields.value(QStringLiteral("version")).toString());
     if (!version.IsValid()) {
-        report({Problem::Warning, path,
-                QStringLiteral(
-                    "\"version\" is missing or not valid; the file can be a default only")});
+        report(
+            {Problem::Warning, path,
+             QStringLiteral("\"version\" is missing or not valid; the file can be a default only"),
+             profile.place});
     }
     const int counter = profile.fields.value(QStringLiteral("counter")).toInt();
     const int greatest =
@@ -286,11 +384,16 @@ void CheckProfile(const File& file, const Node& profile, const Report& report)
                     "\"counter\" is %1, but an identifier was made from %2; it would be made "
                     "again")
                     .arg(counter)
-                    .arg(greatest)});
+                    .arg(greatest),
+                PlaceIn(profile.place, QStringLiteral("counter"))});
     }
     if (profile.fields.value(QStringLiteral("base")).toObject().contains(QLatin1String("base")))
         report({Problem::Warning, QStringLiteral("profile/base"),
-                QStringLiteral("has a base of its own")});
+                QStringLiteral("has a base of its own"), QStringLiteral("$.profile.base.base")});
+    for (std::size_t i = 0; i < profile.children.size(); ++i) {
+        const Node& layout = profile.children[i];
+        CheckComposites(layout, QStringLiteral("%1/%2").arg(path, NameOf(layout, int(i))), report);
+    }
 }
 
 void CheckCatalogue(const Node& catalogue, const Report& report)
@@ -313,7 +416,8 @@ void CheckCatalogue(const Node& catalogue, const Report& report)
                     if (!defined.contains(id) &&
                         !id.startsWith(QLatin1String("DynamicCommands."))) {
                         report({Problem::Warning, path,
-                                QStringLiteral("the command \"%1\" is not defined").arg(id)});
+                                QStringLiteral("the command \"%1\" is not defined").arg(id),
+                                layout.place});
                     }
                 }
             }
@@ -328,7 +432,8 @@ void CheckOffer(const Node& profile, const Offer& offer, const Report& report)
         const QString path = QStringLiteral("profile/%1").arg(NameOf(layout, int(i)));
         if (!offer.layouts.contains(layout.id)) {
             report({Problem::Warning, path,
-                    QStringLiteral("the product \"%1\" has no such layout").arg(offer.product)});
+                    QStringLiteral("the product \"%1\" has no such layout").arg(offer.product),
+                    layout.place});
             continue;
         }
         CheckOffered(layout, offer.layouts.value(layout.id) | CompositesOf(layout), path, report);
