@@ -222,13 +222,15 @@ private Q_SLOTS:
     {
         const QString profile = Put(
             "a.json",
-            R"({"profile": {"version": "1.0.0.0", "product": "Fake", "layouts": [{"id": "Model", "states": {
+            R"({"profile": {"version": "1.0.0.0", "product": "P", "layouts": [{"id": "L", "states": {
             "composite": {"subitems": [{"id": "dead", "type": "menu", "items": ["Gone", "Gone2"]}]},
             "quick access bar": {"spots": [{"id": "dead"}]}}}]}})");
-        const QString catalogue = Put("c.json", QJsonDocument(ovk_test::SmallCatalogue()).toJson());
+        const QString catalogue = Put(
+            "c.json",
+            R"({"commands": {"command": []}, "products": {"product": [{"id": "P", "layout": [{"id": "L", "command_ids": ["a"]}]}]}})");
         QCOMPARE(Run({"check", "--catalogue", catalogue, profile}), 0);
         QVERIFY2(m_out.contains(QLatin1String(
-                     "profile/Model/composite/dead: none of its commands is offered, so it is "
+                     "profile/L/composite/dead: none of its commands is offered, so it is "
                      "never shown [$.profile.layouts[0].states.composite.subitems[0]]")),
                  qPrintable(m_out));
         QVERIFY(m_out.contains(
