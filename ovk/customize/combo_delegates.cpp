@@ -8,12 +8,19 @@ namespace ovk {
 
 namespace {
 
-QComboBox* CreateStyleCombo(QWidget* parent, int rows)
+QComboBox* CreateStyleCombo(QWidget* parent, int rows, const ComboDelegate& delegate)
 {
-    auto combo = std::make_unique<QComboBox>(parent);
+    auto owned = std::make_unique<QComboBox>(parent);
+    QComboBox* combo = owned.get();
     for (int row = 0; row < rows; ++row)
         combo->addItem(ButtonStyleName(row));
-    return combo.release();
+    // What is chosen is seen at once, and not when the focus goes elsewhere.
+    auto* finished = const_cast<ComboDelegate*>(&delegate);
+    QObject::connect(combo, QOverload<int>::of(&QComboBox::activated), finished, [finished, combo] {
+        Q_EMIT finished->commitData(combo);
+        Q_EMIT finished->closeEditor(combo);
+    });
+    return owned.release();
 }
 
 } // namespace
@@ -28,7 +35,7 @@ ComboDelegate::~ComboDelegate() = default;
 QWidget* ComboDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
                                      const QModelIndex&) const
 {
-    QComboBox* combo = CreateStyleCombo(parent, buttonStyles.size());
+    QComboBox* combo = CreateStyleCombo(parent, buttonStyles.size(), *this);
     combo->setMinimumWidth(combo->sizeHint().width());
     return combo;
 }
@@ -73,7 +80,7 @@ ComboDelegateQab::~ComboDelegateQab() = default;
 QWidget* ComboDelegateQab::createEditor(QWidget* parent, const QStyleOptionViewItem&,
                                         const QModelIndex&) const
 {
-    return CreateStyleCombo(parent, buttonStyles.size() - 1);
+    return CreateStyleCombo(parent, buttonStyles.size() - 1, *this);
 }
 
 } // namespace ovk

@@ -1,13 +1,17 @@
 #include "ovk/customize/site_models_p.h"
 
 #include "ovk/commands/ui_command.h"
+#include "ovk/customize/drag_source_p.h"
 #include "ovk/ui_state/features/ui_features_controller.h"
+#include "ovk/ui_state/layout_lifetime_p.h"
 #include "ovk/ui_state/ui_layout.h"
 #include "ovk/ui_state/ui_shortcut_binding.h"
 #include "ovk/ui_state/ui_state_shortcuts.h"
 
 #include <QKeySequence>
 #include <QMimeData>
+
+#include <algorithm>
 
 namespace ovk {
 
@@ -20,29 +24,66 @@ CommandsModel::~CommandsModel() = default;
 
 void CommandsModel::SetLayout(UiLayout* layout)
 {
+    ForgetDraggedCommands();
     beginResetModel();
-    clear();
+    disconnect(m_layout_gone);
+    mp_layout = layout;
+    mp_shortcuts = nullptr;
     if (layout) {
+        m_layout_gone =
+            connect(&impl::LifetimeOf(*layout), &QObject::destroyed, this, &CommandsModel::Clear);
         mp_shortcuts = dynamic_cast<UiStateShortcuts*>(layout->GetState(UiStateShortcuts::GetSuiteName()));
-        QList<UiCommand*> commands;
-        if (UiFeaturesController* features = UiFeaturesController::GetInstance())
-            features->GetAvailableLayoutCommands(layout->GetName(), commands);
-        for (UiCommand* command : commands) {
-            if (!command->IsDynamic())
-                append(command);
-        }
-    } else {
-        mp_shortcuts = nullptr;
     }
+    static_cast<QList<UiCommand*>&>(*this) = Offered();
+    Watch();
     endResetModel();
 }
 
 void CommandsModel::Clear()
 {
-    beginResetModel();
-    clear();
-    mp_shortcuts = nullptr;
-    endResetModel();
+    SetLayout(nullptr);
+}
+
+void CommandsModel::Refresh()
+{
+    if (Offered() != *this)
+        SetLayout(mp_layout);
+}
+
+QList<UiCommand*> CommandsModel::Offered() const
+{
+    QList<UiCommand*> commands;
+    UiFeaturesController* features = UiFeaturesController::GetInstance();
+    if (mp_layout && features)
+        features->GetAvailableLayoutCommands(mp_layout->GetName(), commands);
+    commands.erase(std::remove_if(commands.begin(), commands.end(),
+                                  [](const UiCommand* command) { return command->IsDynamic(); }),
+                   commands.end());
+    return commands;
+}
+
+void CommandsModel::Watch()
+{
+    m_watch = isEmpty() ? nullptr : std::make_unique<QObject>();
+    for (UiCommand* command : qAsConst(*this)) {
+        IUiItem* item = command;
+        connect(command, &QObject::destroyed, m_watch.get(), [this, command, item] {
+            ForgetDraggedCommand(item);
+            Forget(command);
+        });
+    }
+}
+
+void CommandsModel::Forget(UiCommand* dead)
+{
+    const int row = indexOf(dead);
+    if (row < 0)
+        return;
+    // Nobody who is told of the row's end may look at it any more.
+    (*this)[row] = nullptr;
+    beginRemoveRows({}, row, row);
+    removeAt(row);
+    endRemoveRows();
 }
 
 int CommandsModel::rowCount(const QModelIndex& parent) const
@@ -69,7 +110,7 @@ QVariant CommandsModel::ShortcutData(UiCommand& command, int role) const
 
 QVariant CommandsModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || index.row() >= size())
+    if (!index.isValid() || index.row() >= size() || !at(index.row()))
         return {};
     UiCommand& command = *at(index.row());
     if (index.column() == 1)
@@ -90,7 +131,8 @@ QVariant CommandsModel::data(const QModelIndex& index, int role) const
 
 bool CommandsModel::setData(const QModelIndex& index, const QVariant& value, int)
 {
-    if (!index.isValid() || index.row() >= size() || index.column() != 1 || !mp_shortcuts)
+    if (!index.isValid() || index.row() >= size() || !at(index.row()) || index.column() != 1 ||
+        !mp_shortcuts)
         return false;
     UiCommand* command = at(index.row());
     const auto sequence = value.value<QKeySequence>();

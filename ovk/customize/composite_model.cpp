@@ -145,7 +145,7 @@ void CompositeModel::AddComposite(std::unique_ptr<UiStateComposite> composite, c
     composite->SetTitle(title);
     beginInsertRows({}, row, row);
     mp_root->InsertComposite(composite.release(), row);
-    endInsertRows();
+    _EndInsert();
 }
 
 void CompositeModel::AddMenu(int row)
@@ -164,12 +164,13 @@ int CompositeModel::DeleteRow(const QModelIndex& parent, int row)
     if (!_HasRow(parent, row))
         return 0;
     auto* composite = dynamic_cast<UiStateComposite*>(GetItem(parent));
-    beginRemoveRows(parent, row, row);
+    _BeginDelete(parent, row);
+    // Not DeleteItem, which counts twice: the row that is announced is the one that goes.
     if (composite)
-        composite->DeleteItem(row);
+        delete composite->RemoveItem(row);
     else
         mp_root->DeleteComposite(row);
-    endRemoveRows();
+    _EndRemove();
     return composite ? 2 : 1;
 }
 
@@ -199,7 +200,7 @@ void CompositeModel::InsertCompositeItems(const QModelIndex& index, const QList<
     beginInsertRows(target, row, row + wanted.size() - 1);
     for (IUiItem* command : wanted)
         composite->InsertItem(std::make_unique<UiStateCompositeItem>(*command).release(), row);
-    endInsertRows();
+    _EndInsert();
 }
 
 void CompositeModel::MoveItem(const QModelIndex& sourceParent, int sourceRow,
@@ -223,7 +224,7 @@ void CompositeModel::MoveItem(const QModelIndex& sourceParent, int sourceRow,
     if (!beginMoveRows(sourceParent, sourceRow, sourceRow, targetParent, announced))
         return;
     target->InsertItem(source->RemoveItem(sourceRow), row);
-    endMoveRows();
+    _EndMove();
 }
 
 void CompositeModel::SwapComposites(const DropRequest& request)
@@ -235,7 +236,7 @@ void CompositeModel::SwapComposites(const DropRequest& request)
     // A swap told as a move: the views that are used with this model keep their selection by it.
     beginMoveRows({}, larger, larger, {}, smaller);
     mp_root->Swap(larger, smaller);
-    endMoveRows();
+    _EndMove();
 }
 
 } // namespace ovk

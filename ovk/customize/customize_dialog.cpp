@@ -18,6 +18,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QToolBar>
 #include <QToolButton>
@@ -96,8 +97,12 @@ private:
     void Arrange();
     void Connect();
     void Retranslate();
+    void TranslateButtons();
     void UpdateDiscard();
     void ShowPage(int index);
+    void BeginEdit();
+    void OnControllerChanged();
+    void OnHostChanged();
 
     void OnAccepted();
     void OnRejected();
@@ -116,6 +121,7 @@ private:
     QToolButton* mp_btn_toolpages = nullptr;
     QButtonGroup* mp_group = nullptr;
     std::vector<std::unique_ptr<Observer>> m_observers;
+    bool m_changing = false; // the profile is changed from here
 };
 
 UiCustomizeDialog::Impl::Impl(UiCustomizeDialog& owner)
@@ -160,6 +166,11 @@ void UiCustomizeDialog::Impl::CreatePages()
     }
     mp_toolpages = UiCustomizeToolpagesWidget::GetInstance();
     observe(*mp_toolpages);
+    if (UiController* controller = UiController::GetInstance()) {
+        m_observers.push_back(
+            std::make_unique<ObserverFunctor>([this] { OnControllerChanged(); }, false));
+        controller->Attach(*m_observers.back());
+    }
 }
 
 QToolButton* UiCustomizeDialog::Impl::CreatePageButton(const char* name)
@@ -177,8 +188,6 @@ QToolButton* UiCustomizeDialog::Impl::CreatePageButton(const char* name)
 void UiCustomizeDialog::Impl::CreateButtons()
 {
     mp_box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Discard, Qt::Horizontal, this);
-    TranslateButton(mp_box->button(QDialogButtonBox::Ok));
-    TranslateButton(mp_box->button(QDialogButtonBox::Discard));
     mp_stack = new QStackedWidget(this);
     mp_tool_bar = new QToolBar(this);
     mp_tool_bar->setOrientation(Qt::Vertical);
@@ -191,7 +200,7 @@ void UiCustomizeDialog::Impl::CreateButtons()
     mp_btn_toolpages->setIcon(IconsController::Load(QStringLiteral("toolpages")));
     mp_btn_style->setIcon(IconsController::Load(QStringLiteral("customizeUi")));
     mp_box->addButton(QDialogButtonBox::RestoreDefaults);
-    TranslateButton(mp_box->button(QDialogButtonBox::RestoreDefaults));
+    TranslateButtons();
     // Return in a search edit must never throw the user's work away.
     mp_box->button(QDialogButtonBox::Discard)->setAutoDefault(false);
     mp_box->button(QDialogButtonBox::RestoreDefaults)->setAutoDefault(false);
@@ -224,19 +233,30 @@ void UiCustomizeDialog::Impl::Arrange()
 
 void UiCustomizeDialog::Impl::Retranslate()
 {
-    const auto translate = [](const char* text) {
+    const auto say = [](const char* text) {
         return QCoreApplication::translate("ovk::UiCustomizeDialog::Impl", text);
     };
-    setWindowTitle(translate(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Customize UI commands")));
-    mp_btn_style->setText(translate(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Visual\nstyle")));
-    mp_btn_sites->setText(translate(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Toolbars\n&&\nShortcuts")));
-    mp_btn_toolpages->setText(translate(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Toolpages")));
+    setWindowTitle(say(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Customize UI commands")));
+    mp_btn_style->setText(say(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Visual\nstyle")));
+    mp_btn_sites->setText(say(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Toolbars\n&&\nShortcuts")));
+    mp_btn_toolpages->setText(say(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Toolpages")));
+}
+
+void UiCustomizeDialog::Impl::TranslateButtons()
+{
+    for (QDialogButtonBox::StandardButton which :
+         {QDialogButtonBox::Ok, QDialogButtonBox::Discard, QDialogButtonBox::RestoreDefaults})
+        TranslateButton(mp_box->button(which));
 }
 
 void UiCustomizeDialog::Impl::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         Retranslate();
+        // The box hears of it after the dialog, and gives its buttons the theme's texts again.
+        QMetaObject::invokeMethod(
+            this, [this] { TranslateButtons(); }, Qt::QueuedConnection);
+    }
     QDialog::changeEvent(event);
 }
 
@@ -269,13 +289,41 @@ void UiCustomizeDialog::Impl::UpdateDiscard()
         ->setEnabled(mp_stack->currentIndex() != spToolpages && changes);
 }
 
-void UiCustomizeDialog::Impl::Open()
+void UiCustomizeDialog::Impl::BeginEdit()
 {
     mp_sites->BeginEdit();
     mp_toolpages->BeginEdit();
     if (mp_style)
         mp_style->BeginEdit();
     UpdateDiscard();
+}
+
+void UiCustomizeDialog::Impl::OnControllerChanged()
+{
+    if (m_changing || !isVisible())
+        return;
+    // The panels that are listed belong to the defaults of the layout that was active.
+    mp_toolpages->Clear();
+    QMetaObject::invokeMethod(
+        this, [this] { OnHostChanged(); }, Qt::QueuedConnection);
+}
+
+void UiCustomizeDialog::Impl::OnHostChanged()
+{
+    if (!isVisible())
+        return;
+    if (!mp_sites->IsStale()) {
+        mp_toolpages->BeginEdit();
+        return;
+    }
+    // Another profile came in the place of the one under edit: there is nothing to go back to.
+    mp_sites->Release();
+    BeginEdit();
+}
+
+void UiCustomizeDialog::Impl::Open()
+{
+    BeginEdit();
     // Not on the first button of the box, which resets everything.
     mp_sites->GetWidget()->setFocus();
     show();
@@ -286,6 +334,7 @@ void UiCustomizeDialog::Impl::Open()
 
 void UiCustomizeDialog::Impl::OnAccepted()
 {
+    const QScopedValueRollback<bool> changing(m_changing, true);
     mp_sites->Accept();
     mp_toolpages->Clear();
     Block(false);
@@ -293,6 +342,7 @@ void UiCustomizeDialog::Impl::OnAccepted()
 
 void UiCustomizeDialog::Impl::OnRejected()
 {
+    const QScopedValueRollback<bool> changing(m_changing, true);
     mp_sites->Reject();
     if (mp_style)
         mp_style->Restore();
@@ -303,6 +353,7 @@ void UiCustomizeDialog::Impl::OnRejected()
 
 void UiCustomizeDialog::Impl::OnDiscard()
 {
+    const QScopedValueRollback<bool> changing(m_changing, true);
     mp_toolpages->Clear();
     mp_sites->Restore();
     if (mp_style)
@@ -313,6 +364,7 @@ void UiCustomizeDialog::Impl::OnDiscard()
 
 void UiCustomizeDialog::Impl::OnRestoreDefaults()
 {
+    const QScopedValueRollback<bool> changing(m_changing, true);
     if (RibbonWindow* window = LiveRibbonWindow())
         window->ribbonBar()->setMaximized(true);
     // The profile under edit is about to be deleted.

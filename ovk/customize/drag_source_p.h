@@ -4,7 +4,11 @@
 
 #include <memory>
 
+class QAbstractItemModel;
+
 namespace ovk {
+
+class IUiItem;
 
 /// What is being dragged inside the customise dialog. The MIME data of such a drag are empty; they
 /// only tell that the drag is ours, and what is dragged is found here.
@@ -44,5 +48,12 @@ OVK_TEST_EXPORT IDragSource* GetDragSource();
 
 /// Replaces the present drag source and deletes the former one; null empties the slot.
 OVK_TEST_EXPORT void SetDragSource(std::unique_ptr<IDragSource> source);
+
+/// Empties the slot when it holds rows of `model`, whose nodes are about to go.
+void ForgetDraggedRows(const QAbstractItemModel& model);
+/// Empties the slot when it holds commands: they are no longer watched.
+void ForgetDraggedCommands();
+/// Takes a command that was destroyed out of the present drag source.
+void ForgetDraggedCommand(const IUiItem* command);
 
 } // namespace ovk

@@ -102,7 +102,7 @@ void MenusModel::AddMenu(int row)
     menu->SetTitle(tr("New Menu"));
     beginInsertRows({}, row, row);
     mp_root->InsertMenu(menu.release(), row);
-    endInsertRows();
+    _EndInsert();
 }
 
 void MenusModel::DeleteRow(const QModelIndex& parent, int row)
@@ -116,9 +116,9 @@ void MenusModel::DeleteRow(const QModelIndex& parent, int row)
     const auto* menu = dynamic_cast<UiStateMenu*>(mp_root->GetChild(row));
     if (!menu || !menu->IsDeleteable())
         return;
-    beginRemoveRows(parent, row, row);
+    _BeginDelete(parent, row);
     mp_root->DeleteItem(row);
-    endRemoveRows();
+    _EndRemove();
 }
 
 void MenusModel::MoveSpots(const QModelIndexList& indexes, const QModelIndex& menu, int row)

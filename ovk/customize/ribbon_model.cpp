@@ -143,7 +143,7 @@ void RibbonModel::AddPage(int row)
     page->SetTitle(tr("New page"));
     beginInsertRows({}, row, row);
     mp_root->InsertPage(page.release(), row);
-    endInsertRows();
+    _EndInsert();
 }
 
 void RibbonModel::AddGroup(const QModelIndex& page_index, int row)
@@ -157,7 +157,7 @@ void RibbonModel::AddGroup(const QModelIndex& page_index, int row)
     group->SetTitle(tr("New group"));
     beginInsertRows(page_index, row, row);
     page->InsertGroup(group.release(), row);
-    endInsertRows();
+    _EndInsert();
 }
 
 void RibbonModel::DeleteRow(const QModelIndex& parent, int row)
@@ -169,12 +169,12 @@ void RibbonModel::DeleteRow(const QModelIndex& parent, int row)
         _DeleteSpot(*group, parent, row);
         return;
     }
-    beginRemoveRows(parent, row, row);
+    _BeginDelete(parent, row);
     if (auto* page = dynamic_cast<UiStateRibbonPage*>(item))
         page->DeleteGroup(row);
     else
         mp_root->DeletePage(row);
-    endRemoveRows();
+    _EndRemove();
 }
 
 void RibbonModel::MovePages(const QModelIndexList& indexes, int row)

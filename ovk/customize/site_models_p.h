@@ -12,6 +12,8 @@
 #include <QAbstractTableModel>
 #include <QMetaType>
 
+#include <memory>
+
 namespace ovk {
 
 class UiCommand;
@@ -177,6 +179,8 @@ public:
     void SetLayout(UiLayout* layout);
     /// Lists nothing.
     void Clear();
+    /// Lists what the layout offers now; resets the model when that is not what it lists.
+    void Refresh();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -189,8 +193,15 @@ public:
 
 private:
     QVariant ShortcutData(UiCommand& command, int role) const;
+    /// Watches the commands of the list, in place of those of the former one.
+    void Watch();
+    void Forget(UiCommand* dead);
+    QList<UiCommand*> Offered() const;
 
+    UiLayout* mp_layout = nullptr;
     UiStateShortcuts* mp_shortcuts = nullptr;
+    QMetaObject::Connection m_layout_gone;
+    std::unique_ptr<QObject> m_watch; // the receiver of all that is heard of commands
 };
 
 } // namespace ovk

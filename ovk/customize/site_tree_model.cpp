@@ -1,9 +1,11 @@
 #include "ovk/customize/site_tree_model_p.h"
 
+#include "ovk/commands/commands_generation_p.h"
 #include "ovk/commands/composite_command.h"
 #include "ovk/commands/ui_command.h"
 #include "ovk/core/icons_controller.h"
 #include "ovk/customize/drag_source_p.h"
+#include "ovk/ui_state/layout_lifetime_p.h"
 #include "ovk/ui_state/features/ui_features_controller.h"
 #include "ovk/ui_state/ui_spot.h"
 #include "ovk/ui_state/ui_spot_command.h"
@@ -24,23 +26,43 @@
 #include <QMimeData>
 #include <QPalette>
 
-#include <typeinfo>
+#include <algorithm>
+#include <cstdlib>
 
 namespace ovk {
 
+// The rows of the list are the values of Qt::ToolButtonStyle.
+const QStringList buttonStyles = {QT_TRANSLATE_NOOP("buttonStyles", "Icon Only"),
+                                  QT_TRANSLATE_NOOP("buttonStyles", "Text Only"),
+                                  QT_TRANSLATE_NOOP("buttonStyles", "Text Beside Icon"),
+                                  QT_TRANSLATE_NOOP("buttonStyles", "Text Under Icon")};
+
 namespace {
 
-bool IsOfOneKind(const ITreeItem& a, const ITreeItem& b)
+/// Whether a node is shown: what is not offered in this product stays in the tree, unseen.
+bool IsOffered(ITreeItem* child)
 {
-    return typeid(a) == typeid(b) ||
-           (dynamic_cast<const UiSpot*>(&a) && dynamic_cast<const UiSpot*>(&b));
+    if (const auto* spot = dynamic_cast<UiSpotCommand*>(child))
+        return spot->GetUiItem();
+    if (const auto* item = dynamic_cast<UiStateCompositeItem*>(child))
+        return item->GetUiItem();
+    return child;
+}
+
+QVector<ITreeItem*> OfferedChildren(ITreeItem* item)
+{
+    QVector<ITreeItem*> offered;
+    const int count = item->GetChildCount();
+    offered.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        ITreeItem* child = item->GetChild(i);
+        if (IsOffered(child))
+            offered.append(child);
+    }
+    return offered;
 }
 
 } // namespace
-
-const QStringList buttonStyles = {QStringLiteral("Icon Only"), QStringLiteral("Text Only"),
-                                  QStringLiteral("Text Beside Icon"),
-                                  QStringLiteral("Text Under Icon")};
 
 const QString& CustomizeMimeType()
 {
@@ -76,14 +98,46 @@ ITreeItem* SiteTreeModel::GetItem(const QModelIndex& index) const
     return index.isValid() ? static_cast<ITreeItem*>(index.internalPointer()) : GetRootItem();
 }
 
+const QVector<ITreeItem*>& SiteTreeModel::_Rows(ITreeItem* item) const
+{
+    const int children = item->GetChildCount();
+    const quint64 generation = impl::CommandsGeneration();
+    Rows& rows = m_rows[item];
+    if (rows.children == children && rows.generation == generation)
+        return rows.shown;
+    QVector<ITreeItem*> shown = OfferedChildren(item);
+    m_changed_unheard = m_changed_unheard || (rows.children >= 0 && rows.shown != shown);
+    rows = {children, generation, std::move(shown)};
+    return rows.shown;
+}
+
+bool SiteTreeModel::_IsAsShown(ITreeItem* item) const
+{
+    const auto known = m_rows.constFind(item);
+    if (known == m_rows.constEnd())
+        return true;
+    const QVector<ITreeItem*> present = OfferedChildren(item);
+    return present == known->shown &&
+           std::all_of(present.cbegin(), present.cend(),
+                       [this](ITreeItem* child) { return _IsAsShown(child); });
+}
+
+void SiteTreeModel::Refresh()
+{
+    ITreeItem* root = GetRootItem();
+    if (!root || (!m_changed_unheard && _IsAsShown(root)))
+        return;
+    _BeginReset();
+    _EndReset();
+}
+
 QModelIndex SiteTreeModel::index(int row, int column, const QModelIndex& parent) const
 {
-    if (!hasIndex(row, column, parent))
+    ITreeItem* item = parent.column() > 0 ? nullptr : GetItem(parent);
+    if (!item || row < 0 || column < 0 || column >= m_columns)
         return {};
-    ITreeItem* item = GetItem(parent);
-    auto* available = dynamic_cast<IStateAvailable*>(item);
-    ITreeItem* child = available ? available->GetAvailableChild(row) : item->GetChild(row);
-    return child ? createIndex(row, column, child) : QModelIndex();
+    const QVector<ITreeItem*>& rows = _Rows(item);
+    return row < rows.size() ? createIndex(row, column, rows.at(row)) : QModelIndex();
 }
 
 QModelIndex SiteTreeModel::parent(const QModelIndex& index) const
@@ -98,13 +152,8 @@ QModelIndex SiteTreeModel::parent(const QModelIndex& index) const
 
 int SiteTreeModel::rowCount(const QModelIndex& parent) const
 {
-    if (parent.column() > 0)
-        return 0;
-    ITreeItem* item = GetItem(parent);
-    if (!item)
-        return 0;
-    auto* available = dynamic_cast<IStateAvailable*>(item);
-    return available ? available->GetAvailableCount() : item->GetChildCount();
+    ITreeItem* item = parent.column() > 0 ? nullptr : GetItem(parent);
+    return item ? _Rows(item).size() : 0;
 }
 
 int SiteTreeModel::columnCount(const QModelIndex&) const
@@ -170,75 +219,13 @@ void SiteTreeModel::AddSeparator(const QModelIndex& parent, int row)
         row = count;
     beginInsertRows(parent, row, row);
     spots->InsertSpot(row, spots->CreateSeparatorSpot());
-    endInsertRows();
+    _EndInsert();
 }
 
 bool SiteTreeModel::_IsLocked(ITreeItem* item)
 {
     const auto* state = dynamic_cast<UiStateItem*>(item);
     return state && !state->IsDeleteable() && !dynamic_cast<const UiStateMenu*>(state);
-}
-
-bool SiteTreeModel::CanInsert(const QModelIndex& index, int count) const
-{
-    ITreeItem* item = GetItem(index);
-    ITreeItem* container = dynamic_cast<UiSpot*>(item) ? item->GetParent() : item;
-    if (!dynamic_cast<UiStateCommandSpots*>(container) || _IsLocked(item))
-        return false;
-    return container->GetChildCount() + count <= GetMaxItems();
-}
-
-bool SiteTreeModel::CanMove(const QModelIndex& index, const QModelIndexList& indexes) const
-{
-    ITreeItem* item = GetItem(index);
-    ITreeItem* container = dynamic_cast<UiSpot*>(item) ? item->GetParent() : item;
-    int count = 0;
-    for (const QModelIndex& moved : indexes) {
-        if (!moved.isValid() || GetItem(moved)->GetParent() != container)
-            ++count;
-    }
-    return CanInsert(index, count);
-}
-
-void SiteTreeModel::InsertCommands(const QModelIndex& index, const QList<IUiItem*>& commands, int row)
-{
-    QModelIndex target = index;
-    ITreeItem* item = GetItem(index);
-    if (dynamic_cast<UiSpot*>(item)) {
-        row = index.row() + 1;
-        target = index.parent();
-        item = item->GetParent();
-    }
-    auto* spots = dynamic_cast<UiStateCommandSpots*>(item);
-    if (!spots)
-        return;
-    const int available = spots->GetAvailableCount();
-    if (row < 0 || row >= available)
-        row = available;
-
-    QList<IUiItem*> wanted;
-    for (IUiItem* command : commands) {
-        if (command && !spots->IsContains(command) && !wanted.contains(command))
-            wanted.append(command);
-    }
-    if (wanted.isEmpty())
-        return;
-    beginInsertRows(target, row, row + wanted.size() - 1);
-    for (IUiItem* command : wanted) {
-        UiSpotCommand* spot = UiStateCommandSpots::CreateCommandSpot(*command);
-        spot->SetStyle(GetDefaultButtonStyle());
-        spots->InsertSpot(row, spot);
-    }
-    endInsertRows();
-}
-
-void SiteTreeModel::InsertCompositeCommand(UiStateComposite& composite, const QModelIndex& index,
-                                           int row)
-{
-    // A composite that no spot shows so far has no button yet.
-    composite.Activate(UiProfileItem::amOrdinary);
-    if (ICompositeCommand* command = composite.GetCommand())
-        InsertCommands(index, {command}, row);
 }
 
 NodeKind SiteTreeModel::KindOf(ITreeItem* item)
@@ -269,80 +256,6 @@ NodeKind SiteTreeModel::KindOf(ITreeItem* item)
     return NodeKind::None;
 }
 
-bool SiteTreeModel::_ReadDrag(const QModelIndex& parent, int row, DropRequest& request,
-                              DragReading reading) const
-{
-    request.index = parent;
-    request.row = row;
-    request.target = GetItem(parent);
-    request.target_kind = KindOf(request.target);
-    if (!request.target)
-        return false;
-
-    IDragSource* source = GetDragSource();
-    if (auto* one = dynamic_cast<DragSource<QModelIndex>*>(source)) {
-        request.indexes.append(*one->GetPayload());
-    } else if (auto* list = dynamic_cast<DragSource<QModelIndexList>*>(source)) {
-        request.indexes = *list->GetPayload();
-    } else if (auto* commands = dynamic_cast<DragSource<QList<IUiItem*>>*>(source)) {
-        request.commands = *commands->GetPayload();
-        request.first = NodeKind::Commands;
-        return true;
-    }
-    for (const QModelIndex& index : request.indexes) {
-        auto* item = static_cast<ITreeItem*>(index.internalPointer());
-        if (!index.isValid() || !item)
-            return false;
-        const bool counts = reading == DragReading::All;
-        if (counts && request.First() && !IsOfOneKind(*request.First(), *item))
-            return false;
-        request.items.append(item);
-    }
-    request.first = KindOf(request.First());
-    return true;
-}
-
-const SiteTreeModel::DropRule* SiteTreeModel::_FindRule(const DropRules& rules,
-                                                        const DropRequest& request) const
-{
-    // Nodes move inside their own tree only; a composite becomes a button anywhere.
-    if (request.first != NodeKind::Composite) {
-        for (const QModelIndex& index : request.indexes) {
-            if (index.model() != this)
-                return nullptr;
-        }
-    }
-    for (const DropRule& rule : rules) {
-        if (rule.target == request.target_kind && rule.first == request.first)
-            return rule.on_itself || !request.items.contains(request.target) ? &rule : nullptr;
-    }
-    return nullptr;
-}
-
-bool SiteTreeModel::_CanDrop(const DropRules& rules, const DropRequest& request) const
-{
-    const DropRule* rule = _FindRule(rules, request);
-    return rule && (!rule->allowed || rule->allowed(*this, request));
-}
-
-bool SiteTreeModel::_Drop(const DropRules& rules, const QMimeData* data, Qt::DropAction action,
-                          int row, const QModelIndex& parent, DragReading reading)
-{
-    if (action == Qt::IgnoreAction)
-        return true;
-    if (!data || !data->hasFormat(CustomizeMimeType()))
-        return false;
-    DropRequest request;
-    if (!_ReadDrag(parent, row, request, reading))
-        return false;
-    const DropRule* rule = _FindRule(rules, request);
-    if (!rule)
-        return false;
-    const QScopedValueRollback<bool> dropping(m_dropping, true);
-    rule->effect(*this, request);
-    return true;
-}
-
 int SiteTreeModel::_RowOf(ITreeItem& parent, ITreeItem& child) const
 {
     if (auto* available = dynamic_cast<IStateAvailable*>(&parent)) {
@@ -353,115 +266,6 @@ int SiteTreeModel::_RowOf(ITreeItem& parent, ITreeItem& child) const
         return -1;
     }
     return parent.GetIndexOf(&child);
-}
-
-SiteTreeModel::DropRules SiteTreeModel::_SpotRules(NodeKind container, bool takes_composites)
-{
-    DropRules rules = {
-        {container, NodeKind::Commands, true,
-         [](const SiteTreeModel& model, const DropRequest& drop) {
-             return model.CanInsert(drop.index, drop.commands.size());
-         },
-         [](SiteTreeModel& model, const DropRequest& drop) {
-             model.InsertCommands(drop.index, drop.commands, drop.row);
-         }},
-        {container, NodeKind::Spot, true,
-         [](const SiteTreeModel& model, const DropRequest& drop) {
-             return model.CanMove(drop.index, drop.indexes);
-         },
-         [](SiteTreeModel& model, const DropRequest& drop) {
-             model._MoveSpots(drop.indexes, drop.index, drop.row);
-         }},
-        {NodeKind::Spot, NodeKind::Commands, true,
-         [](const SiteTreeModel& model, const DropRequest& drop) {
-             return model.CanInsert(drop.index.parent(), drop.commands.size());
-         },
-         [](SiteTreeModel& model, const DropRequest& drop) {
-             model.InsertCommands(drop.index, drop.commands, -1);
-         }},
-        {NodeKind::Spot, NodeKind::Spot, false,
-         [](const SiteTreeModel& model, const DropRequest& drop) {
-             return model.CanMove(drop.index.parent(), drop.indexes);
-         },
-         [](SiteTreeModel& model, const DropRequest& drop) {
-             model._MoveSpots(drop.indexes, drop.index.parent(), drop.index.row() + 1);
-         }},
-    };
-    if (!takes_composites)
-        return rules;
-    rules += DropRules{
-        {container, NodeKind::Composite, true,
-         [](const SiteTreeModel& model, const DropRequest& drop) {
-             return model.CanInsert(drop.index, 1);
-         },
-         [](SiteTreeModel& model, const DropRequest& drop) {
-             model.InsertCompositeCommand(*dynamic_cast<UiStateComposite*>(drop.First()), drop.index,
-                                          drop.row);
-         }},
-        {NodeKind::Spot, NodeKind::Composite, true,
-         [](const SiteTreeModel& model, const DropRequest& drop) {
-             return model.CanInsert(drop.index.parent(), 1);
-         },
-         [](SiteTreeModel& model, const DropRequest& drop) {
-             model.InsertCompositeCommand(*dynamic_cast<UiStateComposite*>(drop.First()), drop.index,
-                                          -1);
-         }},
-    };
-    return rules;
-}
-
-void SiteTreeModel::_MoveNodes(const QModelIndexList& indexes, const QModelIndex& target, int row,
-                               const std::function<ITreeItem*(ITreeItem&, int)>& take,
-                               const std::function<void(ITreeItem&, int)>& put)
-{
-    ITreeItem* container = GetItem(target);
-    const int count = rowCount(target);
-    if (row < 0 || row > count)
-        row = count;
-
-    QList<ITreeItem*> kept;
-    int shift = 0;
-    for (const QModelIndex& index : indexes) {
-        ITreeItem* item = GetItem(index);
-        ITreeItem* source = item->GetParent();
-        const int source_row = source ? _RowOf(*source, *item) : -1;
-        if (source_row < 0)
-            continue;
-        beginRemoveRows(index.parent(), source_row, source_row);
-        kept.append(take(*source, source_row));
-        endRemoveRows();
-        if (source == container && source_row < row)
-            ++shift;
-    }
-    if (kept.isEmpty())
-        return;
-    // Later rows were kept first, so that inserting each at the same row restores the order.
-    beginInsertRows(target, row - shift, row - shift + kept.size() - 1);
-    for (ITreeItem* item : kept)
-        put(*item, row - shift);
-    endInsertRows();
-}
-
-void SiteTreeModel::_MoveSpots(const QModelIndexList& indexes, const QModelIndex& target, int row)
-{
-    auto* spots = dynamic_cast<UiStateCommandSpots*>(GetItem(target));
-    if (!spots)
-        return;
-    QModelIndexList movable;
-    for (const QModelIndex& index : indexes) {
-        ITreeItem* item = GetItem(index);
-        if (!dynamic_cast<UiSpot*>(item))
-            continue;
-        const auto* command = dynamic_cast<UiSpotCommand*>(item);
-        if (item->GetParent() == spots || !command || !spots->IsContains(command->GetUiItem()))
-            movable.append(index);
-    }
-    _MoveNodes(
-        movable, target, row,
-        [](ITreeItem& source, int at) -> ITreeItem* {
-            return dynamic_cast<UiStateCommandSpots&>(source).RemoveSpot(at);
-        },
-        [spots](ITreeItem& spot, int at) { spots->InsertSpot(at, dynamic_cast<UiSpot*>(&spot)); });
 }
 
 QVariant SiteTreeModel::_CheckState(ITreeItem* item)
@@ -504,24 +308,54 @@ bool SiteTreeModel::_HasRow(const QModelIndex& parent, int row) const
 
 void SiteTreeModel::_DeleteSpot(UiStateCommandSpots& spots, const QModelIndex& parent, int row)
 {
-    beginRemoveRows(parent, row, row);
+    _BeginDelete(parent, row);
     spots.DeleteSpot(row);
-    endRemoveRows();
+    _EndRemove();
 }
 
 void SiteTreeModel::_BeginReset()
 {
-    const auto* list = dynamic_cast<DragSource<QModelIndexList>*>(GetDragSource());
-    const auto* one = dynamic_cast<DragSource<QModelIndex>*>(GetDragSource());
-    if ((list && !list->GetPayload()->isEmpty() && list->GetPayload()->first().model() == this) ||
-        (one && one->GetPayload()->model() == this))
-        SetDragSource(nullptr);
+    ForgetDraggedRows(*this);
     beginResetModel();
 }
 
 void SiteTreeModel::_EndReset()
 {
+    m_rows.clear();
+    m_changed_unheard = false;
     endResetModel();
+}
+
+void SiteTreeModel::_EndInsert()
+{
+    m_rows.clear();
+    endInsertRows();
+}
+
+void SiteTreeModel::_EndRemove()
+{
+    m_rows.clear();
+    endRemoveRows();
+}
+
+void SiteTreeModel::_EndMove()
+{
+    m_rows.clear();
+    endMoveRows();
+}
+
+void SiteTreeModel::_Follow(UiLayout* layout, const std::function<void()>& gone)
+{
+    disconnect(m_layout_gone);
+    if (layout)
+        m_layout_gone = connect(&impl::LifetimeOf(*layout), &QObject::destroyed, this, gone);
+}
+
+void SiteTreeModel::_BeginDelete(const QModelIndex& parent, int row)
+{
+    // What was dragged last may be what goes, or lie below it.
+    ForgetDraggedRows(*this);
+    beginRemoveRows(parent, row, row);
 }
 
 } // namespace ovk

@@ -3,6 +3,7 @@
 #include <ovk/core/export.h>
 
 #include <QAbstractItemModel>
+#include <QHash>
 #include <QIcon>
 #include <QList>
 #include <QStringList>
@@ -14,6 +15,7 @@ namespace ovk {
 
 class ITreeItem;
 class IUiItem;
+class UiLayout;
 class UiStateCommandSpots;
 class UiStateComposite;
 
@@ -102,6 +104,10 @@ public:
     /// The same for the button of a composite.
     void InsertCompositeCommand(UiStateComposite& composite, const QModelIndex& index, int row);
 
+    /// Shows what came to be offered, or is no longer, without an edit: a command of the host, or a
+    /// composite by what it holds now. Resets the model when something did.
+    void Refresh();
+
     /// Whether a drop is being carried out: what it inserts is not opened for renaming.
     bool IsDropping() const { return m_dropping; }
 
@@ -168,15 +174,37 @@ protected:
     /// To be called around a change of the root; indexes of a drag from here become void.
     void _BeginReset();
     void _EndReset();
+    /// Calls `gone` when the layout goes, in place of what was called for the former layout.
+    void _Follow(UiLayout* layout, const std::function<void()>& gone);
+    /// To be called in place of beginRemoveRows where the node is deleted.
+    void _BeginDelete(const QModelIndex& parent, int row);
+    /// To be called in place of Qt's functions of these names, after the tree was changed.
+    void _EndInsert();
+    void _EndRemove();
+    void _EndMove();
 
     static bool _IsLocked(ITreeItem* item);
 
 private:
+    /// The children of a node that are shown; asking for each anew would cost a walk over all.
+    struct Rows
+    {
+        int children = -1; ///< how many there were, shown or not
+        quint64 generation = 0; ///< of the commands that they were looked up in
+        QVector<ITreeItem*> shown;
+    };
+
     int _RowOf(ITreeItem& parent, ITreeItem& child) const;
+    const QVector<ITreeItem*>& _Rows(ITreeItem* item) const;
+    bool _IsAsShown(ITreeItem* item) const;
+
+    mutable QHash<ITreeItem*, Rows> m_rows; // until the next change
+    mutable bool m_changed_unheard = false; // rows came or went that nobody announced
 
     QIcon m_composite_icon;
     int m_columns;
     bool m_dropping = false;
+    QMetaObject::Connection m_layout_gone;
 };
 
 } // namespace ovk

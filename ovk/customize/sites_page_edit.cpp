@@ -44,25 +44,57 @@ void UiCustomizeSitesWidget::Impl::OnTabChanged()
     UpdateAddButton();
 }
 
-void UiCustomizeSitesWidget::Impl::OnRowsInserted(const Site& site, const QModelIndex& parent, int row)
+TreeMemory& UiCustomizeSitesWidget::Impl::MemoryOf(const Site& site)
+{
+    return m_memories[static_cast<int>(site.tree)];
+}
+
+void UiCustomizeSitesWidget::Impl::KeepRows(const Site& site, const QModelIndex& parent, int first,
+                                            int last)
+{
+    // What a drop takes out, it puts in somewhere else.
+    for (int row = first; site.model->IsDropping() && row <= last; ++row)
+        MemoryOf(site).KeepBelow(*site.view, *site.model, site.model->index(row, 0, parent));
+}
+
+void UiCustomizeSitesWidget::Impl::OnRowsDropped(const Site& site, const QModelIndex& parent,
+                                                 int first, int last)
+{
+    if (!site.model->IsDropping())
+        return;
+    for (int row = first; row <= last; ++row)
+        MemoryOf(site).RestoreBelow(*site.view, *site.model, site.model->index(row, 0, parent));
+    MemoryOf(site).Clear();
+    // What was dropped is what is seen and worked on next.
+    const QModelIndex top = site.model->index(first, 0, parent);
+    site.view->setCurrentIndex(top);
+    site.view->selectionModel()->select(
+        QItemSelection(top, site.model->index(last, site.model->columnCount() - 1, parent)),
+        QItemSelectionModel::ClearAndSelect);
+}
+
+void UiCustomizeSitesWidget::Impl::OnRowsInserted(const Site& site, const QModelIndex& parent,
+                                                  int first, int last)
 {
     SetEdited(true);
     const auto shown = [this, &site](const QModelIndex& index) {
         return site.tree == SitesTree::Composite ? m_composites_proxy.mapFromSource(index) : index;
     };
-    const QModelIndex inserted = shown(site.model->index(row, 0, parent));
-    if (!site.model->IsDropping() && inserted.isValid()) {
-        site.view->scrollTo(inserted);
-        // The user types the name of what was added at once. What was being edited is finished
-        // first, and what the buttons act on is what was added.
-        if (inserted.flags() & Qt::ItemIsEditable) {
-            site.view->setCurrentIndex(inserted);
-            site.view->edit(inserted);
-        }
-    }
     const QModelIndex above = shown(parent);
     if (above.isValid() && !site.view->isExpanded(above))
         site.view->expand(above);
+    if (site.tree != SitesTree::Composite)
+        OnRowsDropped(site, parent, first, last);
+    const QModelIndex inserted = shown(site.model->index(first, 0, parent));
+    if (site.model->IsDropping() || !inserted.isValid())
+        return;
+    site.view->scrollTo(inserted);
+    // The user types the name of what was added at once. What was being edited is finished
+    // first, and what the buttons act on is what was added.
+    if (inserted.flags() & Qt::ItemIsEditable) {
+        site.view->setCurrentIndex(inserted);
+        site.view->edit(inserted);
+    }
 }
 
 SitesSelection UiCustomizeSitesWidget::Impl::SelectionOf(const Site& site) const
@@ -131,6 +163,38 @@ QList<int> UiCustomizeSitesWidget::Impl::SelectedCommandRows() const
     return rows;
 }
 
+UiStateComposite* UiCustomizeSitesWidget::Impl::SelectedComposite() const
+{
+    for (const QModelIndex& row : mp_view_composite->selectionModel()->selectedRows()) {
+        const QModelIndex source = m_composites_proxy.mapToSource(row);
+        if (auto* composite = dynamic_cast<UiStateComposite*>(m_composites.GetItem(source)))
+            return composite;
+    }
+    return nullptr;
+}
+
+void UiCustomizeSitesWidget::Impl::SearchCommands(const QString& text)
+{
+    // The selection is the user's, not the filter's.
+    const QList<int> selected = SelectedCommandRows();
+    const int current = m_commands_proxy.mapToSource(mp_view_commands->currentIndex()).row();
+    const int column = mp_view_commands->currentIndex().column();
+    m_commands_proxy.SetSearch(text);
+    QItemSelection selection;
+    for (int row : selected) {
+        const QModelIndex index = m_commands_proxy.mapFromSource(m_commands.index(row, 0));
+        if (index.isValid())
+            selection.select(index, index.sibling(index.row(), m_commands.columnCount() - 1));
+    }
+    const QModelIndex again =
+        m_commands_proxy.mapFromSource(m_commands.index(current, qMax(column, 0)));
+    QItemSelectionModel& model = *mp_view_commands->selectionModel();
+    if (again.isValid())
+        model.setCurrentIndex(again, QItemSelectionModel::NoUpdate);
+    model.select(selection, QItemSelectionModel::ClearAndSelect);
+    UpdateAddButton();
+}
+
 void UiCustomizeSitesWidget::Impl::UpdateAddButton()
 {
     const Site* site = ActiveSite();
@@ -138,7 +202,7 @@ void UiCustomizeSitesWidget::Impl::UpdateAddButton()
     if (site) {
         const QModelIndexList rows = site->view->selectionModel()->selectedRows();
         const int commands = SelectedCommandRows().size();
-        const int composites = mp_view_composite->selectionModel()->selectedRows().size();
+        const int composites = SelectedComposite() ? 1 : 0;
         const bool refused = composites > 0 && site->tree == SitesTree::Menus;
         enabled = rows.size() == 1 && commands + composites > 0 && !refused &&
                   site->model->CanInsert(rows.first(), commands > 0 ? commands : 1);
@@ -160,13 +224,7 @@ void UiCustomizeSitesWidget::Impl::AddToSite()
     if (!commands.isEmpty()) {
         site->model->InsertCommands(target, commands, -1);
     } else {
-        const QModelIndexList selected = mp_view_composite->selectionModel()->selectedRows();
-        const QModelIndex source =
-            selected.isEmpty() ? QModelIndex() : m_composites_proxy.mapToSource(selected.first());
-        auto* composite = source.isValid()
-                              ? dynamic_cast<UiStateComposite*>(m_composites.GetItem(source))
-                              : nullptr;
-        if (composite)
+        if (UiStateComposite* composite = SelectedComposite())
             site->model->InsertCompositeCommand(*composite, target, -1);
     }
     site->view->expand(target);
@@ -204,9 +262,6 @@ void UiCustomizeSitesWidget::Impl::DeleteComposite()
     m_qab.SetLayout(layout);
     m_toolbars.SetLayout(layout);
     m_menus.SetLayout(layout);
-    mp_view_ribbon->expandAll();
-    mp_view_toolbars->expandAll();
-    mp_view_menus->expandAll();
 }
 
 void UiCustomizeSitesWidget::Impl::Run(SitesAction action)

@@ -29,6 +29,8 @@ public:
     void Restore();
     /// Lets the profile go without a change to it, for when it is about to be replaced.
     void Release();
+    /// Whether the host put another profile in the place of the one under edit.
+    bool IsStale() const;
     /// Whether something was edited, or group titles differ from how they were.
     bool HasChanges() const;
 

@@ -12,21 +12,56 @@ namespace {
 
 // Widths in average characters.
 constexpr int c_commands_width = 46;
-constexpr int c_shortcut_width = 16;
 constexpr int c_tree_width = 48;
+constexpr int c_icon_padding = 12;
 
 void SetUpTree(QTreeView& view)
 {
     view.header()->setStretchLastSection(false);
     view.header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    // Not ResizeToContents: with every edit it would measure each of thousands of rows.
     for (int column = 1; column < view.model()->columnCount(); ++column)
-        view.header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+        view.header()->setSectionResizeMode(column, QHeaderView::Fixed);
+    view.header()->setMinimumSectionSize(1);
     view.setContextMenuPolicy(Qt::CustomContextMenu);
+    view.setUniformRowHeights(true);
+    view.setAllColumnsShowFocus(true);
     view.setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                          QAbstractItemView::SelectedClicked);
 }
 
+/// The width that shows the widest of some texts in a cell, beside what a cell adds to it.
+int WidthOf(const QWidget& view, const QStringList& texts)
+{
+    int width = 0;
+    for (const QString& text : texts)
+        width = qMax(width, view.fontMetrics().horizontalAdvance(text));
+    return width + 2 * (view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1);
+}
+
 } // namespace
+
+void UiCustomizeSitesWidget::Impl::SizeColumns()
+{
+    const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this) + c_icon_padding;
+    QStringList styles;
+    for (int style = 0; style < buttonStyles.size(); ++style)
+        styles.append(ButtonStyleName(style));
+    // The arrow of the combo that is opened in the cell.
+    const int style_width = WidthOf(*this, styles) + icon;
+    for (QTreeView* view : {mp_view_ribbon, mp_view_qab, mp_view_toolbars}) {
+        view->header()->resizeSection(1, style_width);
+        view->header()->resizeSection(2, icon);
+    }
+    // A key of a menu, or of a command, or the button that is there before there is one.
+    const int key_width =
+        WidthOf(*this, {QStringLiteral("Ctrl+Alt+Shift+F12"), QObject::tr("Assign shortcut")}) + icon;
+    mp_view_menus->header()->resizeSection(1, key_width);
+    mp_view_commands->horizontalHeader()->resizeSection(1, key_width);
+    mp_view_composite->header()->resizeSection(
+        1, WidthOf(*this, {CompositeModel::tr("Composite command"), CompositeModel::tr("Menu")}) +
+               c_icon_padding);
+}
 
 void UiCustomizeSitesWidget::Impl::CreateActions()
 {
@@ -57,6 +92,7 @@ void UiCustomizeSitesWidget::Impl::Retranslate()
         m_actions[i]->setStatusTip(translate(texts.status_tip));
         m_actions[i]->setToolTip(translate(texts.status_tip));
     }
+    SizeColumns();
 }
 
 void UiCustomizeSitesWidget::Impl::ConnectModel(QAbstractItemModel& model)
@@ -71,30 +107,28 @@ void UiCustomizeSitesWidget::Impl::ConnectModel(QAbstractItemModel& model)
 void UiCustomizeSitesWidget::Impl::ConnectViews()
 {
     m_commands_proxy.setSourceModel(&m_commands);
-    m_commands_proxy.setFilterCaseSensitivity(Qt::CaseInsensitive);
     mp_view_commands->setModel(&m_commands_proxy);
-    mp_view_commands->setItemDelegateForColumn(1, &m_command_delegate);
     mp_view_commands->horizontalHeader()->hide();
     mp_view_commands->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    mp_view_commands->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Interactive);
-    mp_view_commands->horizontalHeader()->resizeSection(
-        1, fontMetrics().averageCharWidth() * c_shortcut_width);
+    mp_view_commands->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Fixed);
     mp_view_commands->verticalHeader()->hide();
     mp_view_commands->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    mp_view_commands->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
+    mp_view_commands->verticalHeader()->setDefaultSectionSize(RowDelegate::RowHeight(fontMetrics()));
     mp_view_commands->setContextMenuPolicy(Qt::CustomContextMenu);
     ConnectModel(m_commands);
 
     // A composite is found by its items too.
     m_composites_proxy.setRecursiveFilteringEnabled(true);
     m_composites_proxy.setSourceModel(&m_composites);
-    m_composites_proxy.setFilterCaseSensitivity(Qt::CaseInsensitive);
     mp_view_composite->setModel(&m_composites_proxy);
     SetUpTree(*mp_view_composite);
     ConnectModel(m_composites);
-    const Site composite = {SitesTree::Composite, mp_view_composite, &m_composites, {}};
     connect(&m_composites, &QAbstractItemModel::rowsInserted, this,
-            [this, composite](const QModelIndex& parent, int row) { OnRowsInserted(composite, parent, row); });
+            [this](const QModelIndex& parent, int first, int last) {
+                OnRowsInserted(m_composite_site, parent, first, last);
+            });
+    // A button of a composite is offered as long as something of the composite is.
+    connect(&m_composites, &QAbstractItemModel::rowsInserted, this, [this] { RefreshSites(); });
 
     for (const Site& site : m_sites) {
         site.view->setModel(site.model);
@@ -103,14 +137,32 @@ void UiCustomizeSitesWidget::Impl::ConnectViews()
         connect(site.view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                 [this, &site] { OnSelectionChanged(site); });
         connect(site.model, &QAbstractItemModel::rowsRemoved, this, [this, &site] { OnSelectionChanged(site); });
-        connect(site.model, &QAbstractItemModel::modelReset, this, [this, &site] { OnSelectionChanged(site); });
+        connect(site.model, &QAbstractItemModel::modelAboutToBeReset, this,
+                [this, &site] { MemoryOf(site).Keep(*site.view, *site.model); });
+        connect(site.model, &QAbstractItemModel::modelReset, this, [this, &site] {
+            MemoryOf(site).Restore(*site.view, *site.model);
+            MemoryOf(site).Clear();
+            OnSelectionChanged(site);
+        });
+        connect(site.model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+                [this, &site](const QModelIndex& parent, int first, int last) {
+                    KeepRows(site, parent, first, last);
+                });
         connect(site.view, &QWidget::customContextMenuRequested, this,
                 [this, &site](const QPoint& position) { ShowContextMenu(site, position); });
-        if (site.tree != SitesTree::Qab) {
-            connect(site.model, &QAbstractItemModel::rowsInserted, this,
-                    [this, &site](const QModelIndex& parent, int row) { OnRowsInserted(site, parent, row); });
-        }
+        connect(site.model, &QAbstractItemModel::rowsInserted, this,
+                [this, &site](const QModelIndex& parent, int first, int last) {
+                    if (site.tree == SitesTree::Qab)
+                        OnRowsDropped(site, parent, first, last);
+                    else
+                        OnRowsInserted(site, parent, first, last);
+                });
     }
+    for (QAbstractItemView* view : std::initializer_list<QAbstractItemView*>{
+             mp_view_commands, mp_view_composite, mp_view_ribbon, mp_view_qab, mp_view_toolbars,
+             mp_view_menus})
+        view->setItemDelegate(&m_row_delegate);
+    mp_view_commands->setItemDelegateForColumn(1, &m_command_delegate);
     mp_view_ribbon->setItemDelegateForColumn(1, &m_combo_delegate);
     mp_view_toolbars->setItemDelegateForColumn(1, &m_combo_delegate);
     mp_view_qab->setItemDelegateForColumn(1, &m_combo_delegate_qab);
@@ -149,19 +201,13 @@ void UiCustomizeSitesWidget::Impl::ConnectControls()
         UpdateAddButton();
     });
 
-    const auto search = [this](QLineEdit* edit, QSortFilterProxyModel& proxy, QTreeView* tree) {
-        connect(edit, &QLineEdit::textChanged, this, [&proxy, tree](const QString& text) {
-            const QString wanted = text.trimmed();
-            if (wanted.isEmpty())
-                proxy.setFilterRegExp(QString());
-            else
-                proxy.setFilterWildcard(QStringLiteral("*%1*").arg(wanted));
-            if (tree && !wanted.isEmpty())
-                tree->expandAll();
-        });
-    };
-    search(mp_ed_search_basic, m_commands_proxy, nullptr);
-    search(mp_ed_search_composite, m_composites_proxy, mp_view_composite);
+    connect(mp_ed_search_basic, &QLineEdit::textChanged, this,
+            [this](const QString& text) { SearchCommands(text); });
+    connect(mp_ed_search_composite, &QLineEdit::textChanged, this, [this](const QString& text) {
+        m_composites_proxy.SetSearch(text);
+        if (!text.trimmed().isEmpty())
+            mp_view_composite->expandAll();
+    });
 
     connect(mp_cb_group_title, &QCheckBox::stateChanged, this, [this](int state) {
         RibbonWindowSettings::GroupTitleVisible().SetData(state == Qt::Checked);
@@ -174,6 +220,45 @@ void UiCustomizeSitesWidget::Impl::ConnectControls()
         menus->SetMenuAutosize(state == Qt::Checked);
         SetEdited(true);
     });
+}
+
+void UiCustomizeSitesWidget::Impl::CreateEmptyHints()
+{
+    struct Row
+    {
+        QAbstractItemView* view;
+        const char* text;
+        QLineEdit* search; ///< that may be why nothing is listed
+    };
+    const Row rows[] = {
+        {mp_view_commands, QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "There are no commands"),
+         mp_ed_search_basic},
+        {mp_view_composite,
+         QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl",
+                           "Create composite commands with the context menu"),
+         mp_ed_search_composite},
+        {mp_view_ribbon, QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "Add a page to begin"),
+         nullptr},
+        {mp_view_qab, QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "Drag commands here"),
+         nullptr},
+        {mp_view_toolbars,
+         QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "Add a toolbar to begin"), nullptr},
+        {mp_view_menus, QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "Add a menu to begin"),
+         nullptr},
+    };
+    for (const Row& row : rows) {
+        // The view's, through the parent.
+        new EmptyHint(*row.view, [this, row] {
+            if (!ChosenLayout())
+                return QString();
+            const bool searched = row.search && !row.search->text().trimmed().isEmpty();
+            return QCoreApplication::translate(
+                "ovk::UiCustomizeSitesWidget::Impl",
+                searched ? QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl",
+                                             "Nothing matches the search")
+                         : row.text);
+        });
+    }
 }
 
 } // namespace ovk

@@ -10,10 +10,11 @@ template <class Suite>
 class TSiteModel : public SiteTreeModel
 {
 public:
-    /// Shows a layout's suite; null shows nothing.
+    /// Shows a layout's suite until the layout goes; null shows nothing.
     void SetLayout(UiLayout* layout)
     {
         _BeginReset();
+        _Follow(layout, [this] { SetLayout(nullptr); });
         mp_root = layout ? dynamic_cast<Suite*>(layout->GetState(Suite::GetSuiteName())) : nullptr;
         _EndReset();
     }

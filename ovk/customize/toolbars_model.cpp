@@ -112,7 +112,7 @@ void ToolbarsModel::AddToolbar(int row)
     mp_root->InsertChild(row, added);
     if (mp_root->IsActive())
         added->Activate(UiProfileItem::amOrdinary);
-    endInsertRows();
+    _EndInsert();
 }
 
 void ToolbarsModel::DeleteRow(const QModelIndex& parent, int row)
@@ -123,9 +123,9 @@ void ToolbarsModel::DeleteRow(const QModelIndex& parent, int row)
         _DeleteSpot(*toolbar, parent, row);
         return;
     }
-    beginRemoveRows(parent, row, row);
+    _BeginDelete(parent, row);
     mp_root->DeleteItem(row);
-    endRemoveRows();
+    _EndRemove();
 }
 
 void ToolbarsModel::MoveToolbars(const QModelIndexList& indexes, int row)

@@ -6,6 +6,7 @@
 #include "ovk/commands/ui_command.h"
 #include "ovk/core/pimpl_basics.h"
 #include "ovk/docking/ui_state_docking.h"
+#include "ovk/ui_state/layout_lifetime_p.h"
 #include "ui_profile.h"
 #include "ui_state_composites.h"
 #include "ui_state_dialogs.h"
@@ -15,7 +16,12 @@
 #include "ui_state_shortcuts.h"
 #include "ui_state_toolbars.h"
 
+#include <QGlobalStatic>
 #include <QJsonObject>
+#include <QObject>
+
+#include <memory>
+#include <unordered_map>
 
 namespace ovk {
 namespace {
@@ -23,7 +29,31 @@ namespace {
 const QLatin1String KEY_ID("id");
 const QLatin1String KEY_STATES("states");
 
+/// Few layouts are looked into at a time, so that their lifetimes are kept beside them.
+using Lifetimes = std::unordered_map<const UiLayout*, std::unique_ptr<QObject>>;
+Q_GLOBAL_STATIC(Lifetimes, g_lifetimes)
+
+void EndLifetime(const UiLayout* layout)
+{
+    if (!g_lifetimes.exists())
+        return;
+    const auto found = g_lifetimes->find(layout);
+    if (found == g_lifetimes->end())
+        return;
+    // Out of the table first: who hears of the end may ask for other layouts.
+    const std::unique_ptr<QObject> ending = std::move(found->second);
+    g_lifetimes->erase(found);
+}
+
 } // namespace
+
+QObject& impl::LifetimeOf(const UiLayout& layout)
+{
+    std::unique_ptr<QObject>& lifetime = (*g_lifetimes)[&layout];
+    if (!lifetime)
+        lifetime = std::make_unique<QObject>();
+    return *lifetime;
+}
 
 class UiLayout::Impl : public PimplBasics<UiLayout>
 {
@@ -31,6 +61,7 @@ public:
     explicit Impl(UiLayout& owner) : PimplBasics(owner) {}
     ~Impl() override
     {
+        EndLifetime(_pp());
         // Sites go before the composites whose live commands they show.
         while (!states.isEmpty())
             delete states.takeLast();

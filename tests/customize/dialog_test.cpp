@@ -1,4 +1,4 @@
-#include "tests/main_window/window_host.h"
+#include "tests/customize/dialog_host.h"
 #include "tests/support/test_main.h"
 
 #include <ovk/commands/ui_controller.h>
@@ -30,61 +30,6 @@
 
 using namespace ovk;
 using namespace ovk_test;
-
-namespace {
-
-struct Dialog
-{
-    explicit Dialog(const QStringList& commands = {})
-        : host(CatalogueWith(commands))
-    {
-        RibbonWindowSettings::GroupTitleVisible().SetData(false);
-        host.Start();
-        window = std::make_unique<RibbonWindow>();
-        window->show();
-        host.Activate(QStringLiteral("Model"));
-        window->SetCommandBlockerFunc([this](bool block) { blocked.append(block); });
-        RibbonWindow::OnCustomizeUI();
-    }
-    ~Dialog()
-    {
-        window->close();
-        host.Activate(QString());
-        window.reset();
-        RibbonWindowSettings::GroupTitleVisible().SetData(false);
-    }
-
-    QDialog& Get() const { return *UiCustomizeDialog::GetInstance()->GetDialog(); }
-    template <class Widget>
-    Widget* Find(const char* name) const
-    {
-        return Get().findChild<Widget*>(QLatin1String(name));
-    }
-    QPushButton* Button(QDialogButtonBox::StandardButton which) const
-    {
-        return Get().findChild<QDialogButtonBox*>()->button(which);
-    }
-    UiLayout* Layout() const { return host.Layout(QStringLiteral("Model")); }
-    UiStateRibbon* Ribbon() const
-    {
-        return dynamic_cast<UiStateRibbon*>(Layout()->GetState(UiStateRibbon::GetSuiteName()));
-    }
-    RibbonModel* Model() const
-    {
-        return qobject_cast<RibbonModel*>(Find<QTreeView>("mp_view_ribbon")->model());
-    }
-    bool ShortcutsRest() const
-    {
-        return !Layout()->GetState(UiStateShortcuts::GetSuiteName())->IsActive();
-    }
-    QByteArray Json() const { return QJsonDocument(host.Profile().ToJson()).toJson(); }
-
-    FakeHost host;
-    std::unique_ptr<RibbonWindow> window;
-    QList<bool> blocked;
-};
-
-} // namespace
 
 class CustomizeDialogTest : public QObject
 {
