@@ -2,6 +2,8 @@
 
 #include "app/main_window.h"
 #include "app/number_dialog.h"
+#include "app/settings.h"
+#include "app/transform_dialog.h"
 #include "model/arrange.h"
 #include "model/mesh_edit.h"
 
@@ -119,15 +121,48 @@ void Arrange(Host& host)
     });
 }
 
+/// An angle that was typed, in steps if the options say so.
+double Stepped(const Host& host, double degrees)
+{
+    const double step = host.settings.turn_step;
+    return host.settings.snap_turns ? std::round(degrees / step) * step : degrees;
+}
+
+/// Moves the selection and turns it to the left about its middle.
+Transform MapOf(const Host& host, const MoveTurn& move)
+{
+    return Transform::Translation(move.shift) *
+           Transform::About(SelectionCenter(host), Transform::Rotation(2, Stepped(host, move.degrees)));
+}
+
+bool StaysInside(const Host& host, const MoveTurn& move)
+{
+    constexpr double k_tolerance = 0.01;
+    const Transform map = MapOf(host, move);
+    const Box room = host.GetScene().GetPlate().Bounds();
+    for (const Part* part : host.GetScene().Selected()) {
+        if (part->locked)
+            continue;
+        const Box box = MappedBounds(*part->GetMesh(), map * part->GetPlacement());
+        for (int axis = 0; axis < 3; ++axis) {
+            if (box.low[axis] < room.low[axis] - k_tolerance || box.high[axis] > room.high[axis] + k_tolerance)
+                return false;
+        }
+    }
+    return true;
+}
+
 void AskMove(Host& host)
 {
-    NumberDialog::Ask(host.window, Texts::tr("Move By"), QString(),
-                      {{Texts::tr("Along X:"), 0, -5000, 5000, NumberField::Length},
-                       {Texts::tr("Along Y:"), 0, -5000, 5000, NumberField::Length},
-                       {Texts::tr("Along Z:"), 0, -5000, 5000, NumberField::Length}},
-                      host.workspace.Format(), [&host](const std::vector<double>& v) {
-                          MoveBy(host, Texts::Step("Move"), {v[0], v[1], v[2]});
-                      });
+    TransformDialog::Job job;
+    job.source = &host.workspace.last_move;
+    job.angle_step = host.settings.snap_turns ? host.settings.turn_step.GetData() : 5.0;
+    job.fits = [&host](const MoveTurn& move) { return StaysInside(host, move); };
+    job.apply = [&host](const MoveTurn& move) {
+        const Transform map = MapOf(host, move);
+        host.GetScene().EditSelected(Texts::Step("Move"), [&map](Part& part) { part.Apply(map); });
+    };
+    TransformDialog::Ask(host.window, Texts::tr("Move By"), job);
 }
 
 void AskTurn(Host& host)
@@ -139,9 +174,9 @@ void AskTurn(Host& host)
                        {Texts::tr("About Z:"), 0, -360, 360, NumberField::Degrees}},
                       host.workspace.Format(), [&host](const std::vector<double>& v) {
                           ApplyAboutCenter(host, Texts::Step("Turn"),
-                                           Transform::Rotation(2, v[2]) *
-                                               Transform::Rotation(1, v[1]) *
-                                               Transform::Rotation(0, v[0]));
+                                           Transform::Rotation(2, Stepped(host, v[2])) *
+                                               Transform::Rotation(1, Stepped(host, v[1])) *
+                                               Transform::Rotation(0, Stepped(host, v[0])));
                       });
 }
 

@@ -114,19 +114,21 @@ void OverlayPainter::PlateAndGrid(const Plate& plate, const ViewState& state, co
         const double pixels =
             m_camera.Scale(m_size) *
             std::max(0.12, std::abs(std::sin(qDegreesToRadians(m_camera.elevation))));
-        double step = m_format.Unit() == LengthUnit::Inch ? k_mm_per_inch / 2.0 : 10.0;
+        double step = state.grid_step > 0.0                     ? state.grid_step
+                      : m_format.Unit() == LengthUnit::Inch ? k_mm_per_inch / 2.0
+                                                            : 10.0;
         while (step * pixels < 7.0)
             step *= 5.0;
         const int columns = int(w / step), rows = int(d / step);
         for (int pass = 0; pass < 2; ++pass) {
-            const QColor color = pass == 0 ? m_colors.grid : m_colors.frame;
+            const QColor color = pass == 0 ? m_colors.grid : m_colors.strong_grid;
             m_painter.setPen(QPen(WithAlpha(color, pass == 0 ? 170 : 130), pass == 0 ? 1.0 : 1.2));
             for (int i = -columns; i <= columns; ++i) {
-                if ((i % 5 == 0) == (pass == 1))
+                if ((i % state.grid_major == 0) == (pass == 1))
                     Line({i * step, -d, 0}, {i * step, d, 0});
             }
             for (int i = -rows; i <= rows; ++i) {
-                if ((i % 5 == 0) == (pass == 1))
+                if ((i % state.grid_major == 0) == (pass == 1))
                     Line({-w, i * step, 0}, {w, i * step, 0});
             }
         }
@@ -149,7 +151,7 @@ void OverlayPainter::BoxEdges(const Box& box)
 
 void OverlayPainter::Volume(const Plate& plate)
 {
-    QPen pen(WithAlpha(m_colors.frame, 110), 1.0, Qt::DashLine);
+    QPen pen(WithAlpha(m_colors.volume, 110), 1.0, Qt::DashLine);
     m_painter.setPen(pen);
     BoxEdges(plate.Bounds());
 }
@@ -291,12 +293,13 @@ void OverlayPainter::CurrentLayer(const PartList& parts, const std::vector<const
         }
         const QColor color = QColor::fromRgb(parts[i].color);
         if (options.filled) {
-            m_painter.setPen(QPen(color.darker(150), 1.4));
+            m_painter.setPen(QPen(m_colors.contour.isValid() ? m_colors.contour : color.darker(150), 1.4));
             m_painter.setBrush(WithAlpha(color.lighter(118), options.hatched ? 150 : 225));
             m_painter.drawPath(path);
         }
         if (options.hatched) {
-            m_painter.setPen(QPen(color.darker(options.filled ? 170 : 130), 1.0));
+            m_painter.setPen(QPen(
+                m_colors.hatch.isValid() ? m_colors.hatch : color.darker(options.filled ? 170 : 130), 1.0));
             for (const Segment2& line :
                  Hatch(slice, options.hatch_spacing, options.DegreesOf(options.current)))
                 Line({line.from.x, line.from.y, slice.z}, {line.to.x, line.to.y, slice.z});
@@ -314,12 +317,12 @@ void OverlayPainter::Dot(const Vec3& point, const QColor& color)
 }
 
 void OverlayPainter::Measurements(const std::vector<Measurement>& measurements,
-                                  const std::vector<Vec3>& picked, const Vec3* candidate)
+                                  const std::vector<Vec3>& picked, const Vec3* candidate, double width)
 {
-    const QColor ink(0xe0, 0x5a, 0x1e);
+    const QColor ink = m_colors.measure;
     for (const Measurement& entry : measurements) {
         const std::vector<Vec3>& p = entry.points;
-        m_painter.setPen(QPen(ink, 1.8));
+        m_painter.setPen(QPen(ink, width));
         m_painter.setBrush(Qt::NoBrush);
         QPointF label = At(p.front());
         switch (entry.kind) {
@@ -367,7 +370,7 @@ void OverlayPainter::Measurements(const std::vector<Measurement>& measurements,
             for (const Vec3& point : p)
                 Dot(point, ink);
         }
-        Bubble(label, entry.Text(m_format), ink);
+        Bubble(label, entry.Text(m_format), ink, m_colors.measure_text);
     }
     for (const Vec3& point : picked)
         Dot(point, QColor(0xd6, 0x45, 0x41));
@@ -376,11 +379,11 @@ void OverlayPainter::Measurements(const std::vector<Measurement>& measurements,
             m_painter.setPen(QPen(ink, 1.2, Qt::DashLine));
             Line(picked.back(), *candidate);
         }
-        Dot(*candidate, QColor(0xf2, 0xc1, 0x4e));
+        Dot(*candidate, m_colors.candidate);
     }
 }
 
-void OverlayPainter::Bubble(const QPointF& center, const QString& text, const QColor& rim)
+void OverlayPainter::Bubble(const QPointF& center, const QString& text, const QColor& rim, const QColor& ink)
 {
     const QFontMetricsF metrics(m_painter.font());
     const QSizeF size(metrics.horizontalAdvance(text) + 14.0, metrics.height() + 5.0);
@@ -388,7 +391,7 @@ void OverlayPainter::Bubble(const QPointF& center, const QString& text, const QC
     m_painter.setPen(QPen(rim, 1.2));
     m_painter.setBrush(m_colors.bubble);
     m_painter.drawRoundedRect(box, 4.0, 4.0);
-    m_painter.setPen(m_colors.text);
+    m_painter.setPen(ink.isValid() ? ink : m_colors.text);
     m_painter.drawText(box, Qt::AlignCenter, text);
 }
 

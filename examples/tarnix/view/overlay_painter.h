@@ -27,14 +27,14 @@ public:
     void CurrentLayer(const PartList& parts, const std::vector<const Slice*>& slices,
                       const LayerOptions& options);
     void Measurements(const std::vector<Measurement>& measurements, const std::vector<Vec3>& picked,
-                      const Vec3* candidate);
+                      const Vec3* candidate, double width);
 
     /// A line in space, cut where it runs behind the eye.
     void Line(const Vec3& from, const Vec3& to);
     /// A filled flat shape in space, cut likewise.
     void Shape(const std::vector<Vec3>& corners);
     /// A text in a rounded bubble, centred on a place.
-    void Bubble(const QPointF& center, const QString& text, const QColor& rim);
+    void Bubble(const QPointF& center, const QString& text, const QColor& rim, const QColor& ink = QColor());
 
 private:
     bool IsAhead(const Vec3& point) const;

@@ -98,6 +98,8 @@ struct PartRenderer::Eye
 
 namespace {
 
+constexpr double k_on_plate = 1e-3; // millimetres
+
 /// A corner of a triangle in the world, with what is shared out along a cut.
 struct Corner
 {
@@ -202,7 +204,7 @@ const std::vector<float>& PartRenderer::CornerNormals(const MeshPtr& mesh)
             faces[next[triangles[i][corner]]++] = i;
     }
     // Light runs smoothly over bends up to this angle; sharper ones stay sharp.
-    const double crease = std::cos(qDegreesToRadians(32.0));
+    const double crease = m_smooth ? std::cos(qDegreesToRadians(32.0)) : 2.0;
     data.corner_normals.reserve(triangles.size() * 9);
     for (uint32_t i = 0; i < triangles.size(); ++i) {
         const Vec3& own = mesh->Normals()[i];
@@ -236,7 +238,13 @@ const std::vector<Edge>& PartRenderer::AllEdges(const MeshPtr& mesh)
 QImage PartRenderer::Draw(const PartList& parts, const Camera& camera, const ViewState& state,
                           const ViewColors& colors, const QSize& size, int samples)
 {
+    if (m_smooth != state.smooth) {
+        m_smooth = state.smooth;
+        m_meshes.clear();
+    }
     m_raster.Start(size, samples);
+    m_scale = ScaleOf(state.color_by, parts);
+    m_scale_table = m_scale.Table();
     for (auto& entry : m_meshes)
         entry.second.used = false;
     const bool layers = state.layers.shown;
@@ -285,7 +293,11 @@ void PartRenderer::DrawSurface(const Part& part, const Eye& eye, const ViewState
         const Vec3 normal = eye.map.MapNormal(mesh.Normals()[i]);
         const bool outside = eye.LooksAt(normal, points[t.a]);
         QRgb color = outside || !state.back_faces ? part.color : k_inside;
-        if (state.overhangs && outside &&
+        if (state.color_by == ColorBy::Overhang && outside)
+            color = m_scale.At(std::max({points[t.a].z, points[t.b].z, points[t.c].z}) < k_on_plate
+                                   ? 0.0
+                                   : LeanOf(normal));
+        else if (state.overhangs && outside &&
             IsOverhang(normal, std::max({points[t.a].z, points[t.b].z, points[t.c].z}),
                        state.overhang_degrees))
             color = OverhangColor(qRadiansToDegrees(std::asin(std::clamp(-normal.z, 0.0, 1.0))),
@@ -309,9 +321,16 @@ void PartRenderer::DrawSurface(const Part& part, const Eye& eye, const ViewState
         for (int k = 0; k < count && visible; ++k) {
             visible = eye.OnScreen(shape[k].at, screen[k]);
             screen[k].light = shape[k].light;
+            screen[k].value = static_cast<float>(m_scale.PlaceOf(shape[k].at.z));
         }
-        for (int k = 2; k < count && visible; ++k)
-            m_raster.Fill(screen[0], screen[k - 1], screen[k], color, owner);
+        const bool scaled = state.color_by == ColorBy::Height && (outside || !state.back_faces);
+        for (int k = 2; k < count && visible; ++k) {
+            if (scaled)
+                m_raster.FillScaled(screen[0], screen[k - 1], screen[k], m_scale_table.data(),
+                                    owner);
+            else
+                m_raster.Fill(screen[0], screen[k - 1], screen[k], color, owner);
+        }
     }
 }
 
@@ -358,6 +377,14 @@ void PartRenderer::DrawGlass(const PartList& parts, const ViewState& state, cons
             const Triangle& t = mesh.Triangles()[i];
             Pane pane;
             pane.color = part.color;
+            if (state.color_by == ColorBy::Height) {
+                const Vec3 middle = eye.map.Map((mesh.Points()[t.a] + mesh.Points()[t.b] +
+                                                 mesh.Points()[t.c]) *
+                                                (1.0 / 3.0));
+                pane.color = m_scale.At(middle.z);
+            } else if (state.color_by == ColorBy::Overhang) {
+                pane.color = m_scale.At(LeanOf(eye.map.MapNormal(mesh.Normals()[i])));
+            }
             bool visible = true;
             for (int corner = 0; corner < 3 && visible; ++corner) {
                 const Vec3 at = eye.map.Map(mesh.Points()[t[corner]]);
@@ -444,12 +471,15 @@ void PartRenderer::DrawLayers(const PartList& parts, const Camera& camera, const
         for (int layer = first; layer <= options.current; layer += step)
             DrawLayer(part, eye, (layer + 1) * options.thickness, step * options.thickness,
                       m_layers.Get(part, (layer + 0.5) * options.thickness),
-                      (layer / step) % 2 != 0, owner);
+                      (layer / step) % 2 != 0, owner,
+                      state.color_by == ColorBy::Height
+                          ? m_scale.At((layer + 0.5) * options.thickness)
+                          : part.color);
     }
 }
 
 void PartRenderer::DrawLayer(const Part& part, const Eye& eye, double top, double thickness,
-                             const Slice& slice, bool odd, uint16_t owner)
+                             const Slice& slice, bool odd, uint16_t owner, QRgb color)
 {
     if (slice.IsEmpty())
         return;
@@ -472,15 +502,15 @@ void PartRenderer::DrawLayer(const Part& part, const Eye& eye, double top, doubl
             const float light = eye.Light(Normalized(Vec3{q.y - p.y, p.x - q.x, 0.0})) * shade;
             for (ScreenPoint& corner : corners)
                 corner.light = light;
-            m_raster.Fill(corners[0], corners[1], corners[2], part.color, owner);
-            m_raster.Fill(corners[0], corners[2], corners[3], part.color, owner);
+            m_raster.Fill(corners[0], corners[1], corners[2], color, owner);
+            m_raster.Fill(corners[0], corners[2], corners[3], color, owner);
             line.push_back(corners[0]);
         }
         lines.push_back(std::move(line));
     }
     const bool from_above = eye.LooksAt({0, 0, 1}, part.Bounds().Center());
     if (from_above)
-        m_raster.FillFlat(lines, eye.PlaneAt(top), part.color, eye.Light({0, 0, 1}) * shade, owner);
+        m_raster.FillFlat(lines, eye.PlaneAt(top), color, eye.Light({0, 0, 1}) * shade, owner);
     for (const std::vector<Point2>& gap : slice.gaps) {
         for (size_t k = 0; k + 1 < gap.size(); ++k) {
             ScreenPoint a, b;

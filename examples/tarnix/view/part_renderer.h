@@ -51,7 +51,7 @@ private:
     void DrawLayers(const PartList& parts, const Camera& camera, const ViewState& state,
                     const QSize& size);
     void DrawLayer(const Part& part, const Eye& eye, double top, double thickness,
-                   const Slice& slice, bool odd, uint16_t owner);
+                   const Slice& slice, bool odd, uint16_t owner, QRgb color);
     const std::vector<float>& CornerNormals(const MeshPtr& mesh);
     const std::vector<Edge>& AllEdges(const MeshPtr& mesh);
 
@@ -63,7 +63,11 @@ private:
         bool used = false;
     };
 
+    /// The colours by a quantity, while parts are drawn by one.
+    ColorScale m_scale;
+    std::array<QRgb, 256> m_scale_table{};
     Raster m_raster;
+    bool m_smooth = true;
     LayerCache m_layers;
     std::unordered_map<const Mesh*, MeshData> m_meshes;
 };

@@ -88,6 +88,29 @@ void Raster::Fill(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint&
     });
 }
 
+void Raster::FillScaled(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c,
+                        const QRgb* table, uint16_t owner)
+{
+    const float twice_area = (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
+    if (!(std::abs(twice_area) > 1e-12f))
+        return;
+    // The value as a linear function of the place on the screen.
+    const float db = b.value - a.value, dc = c.value - a.value;
+    const float dx = (db * (c.y - a.y) - dc * (b.y - a.y)) / twice_area;
+    const float dy = (dc * (b.x - a.x) - db * (c.x - a.x)) / twice_area;
+    const auto width = static_cast<size_t>(m_width);
+    Scan(a, b, c, [&](size_t at, float depth, float light) {
+        if (depth <= m_depths[at])
+            return;
+        const float x = static_cast<float>(at % width) + 0.5f - a.x;
+        const float y = static_cast<float>(at / width) + 0.5f - a.y;
+        const float value = a.value + dx * x + dy * y;
+        m_depths[at] = depth;
+        m_colors[at] = Lit(table[std::clamp(static_cast<int>(value * 255.0f + 0.5f), 0, 255)], light);
+        m_owners[at] = owner;
+    });
+}
+
 void Raster::FillFlat(const std::vector<std::vector<ScreenPoint>>& lines, const ScreenPoint& plane,
                       QRgb color, float light, uint16_t owner)
 {

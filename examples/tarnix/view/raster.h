@@ -15,6 +15,7 @@ struct ScreenPoint
     float y = 0.0f;
     float depth = 0.0f;
     float light = 1.0f;
+    float value = 0.0f; ///< the place on a scale of colours, 0 to 1
 };
 
 /// Draws triangles and lines into a picture with a depth buffer, so that parts may run through
@@ -28,6 +29,9 @@ public:
     /// Fills a triangle with a colour times its light. `owner` is the number of its part, above 0.
     void Fill(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c, QRgb color,
               uint16_t owner);
+    /// As Fill, with the colour of each place taken from a table of 256 by its value.
+    void FillScaled(const ScreenPoint& a, const ScreenPoint& b, const ScreenPoint& c,
+                    const QRgb* table, uint16_t owner);
     /// Fills a flat shape of closed lines by the even-odd rule. Its depth is that of the plane
     /// `depth = plane.x * x + plane.y * y + plane.depth`, which a flat shape in space has on the
     /// screen in either projection.

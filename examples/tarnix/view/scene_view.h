@@ -11,6 +11,17 @@
 
 namespace tarnix {
 
+/// How the view answers to the mouse.
+struct Handling
+{
+    double orbit_speed = 1.0;
+    double zoom_speed = 1.0;
+    bool invert_wheel = false;
+    int drag_pixels = 5;
+    int flight_ms = 220; ///< 0: views jump
+    size_t former_views = 40;
+};
+
 /// The view of the scene in the middle of the window.
 ///
 /// The left button selects, drags selected parts over the plate and draws a frame round parts; the
@@ -38,6 +49,10 @@ public:
     void SetFlights(bool enabled) { m_flights = enabled; }
 
     void SetColors(const ViewColors& colors);
+    const ViewColors& Colors() const { return m_colors; }
+    void SetHandling(const Handling& handling);
+    /// Where the first look at the plate comes from; of no effect after that.
+    void SetStartView(double azimuth, double elevation);
     /// The view as a picture of its own, without waiting for a repaint.
     QImage Picture(const QSize& size);
 
@@ -87,6 +102,7 @@ private:
 
     Workspace& m_workspace;
     Camera m_camera;
+    Handling m_handling;
     std::vector<Camera> m_former;
     ViewColors m_colors;
     PartRenderer m_renderer;

@@ -2,6 +2,15 @@
 
 namespace tarnix {
 
+void ViewColors::Complete()
+{
+    volume = frame;
+    strong_grid = frame;
+    measure = QColor(0xe0, 0x5a, 0x1e);
+    measure_text = text;
+    candidate = QColor(0xf2, 0xc1, 0x4e);
+}
+
 ViewColors ViewColors::Light(const QColor& accent)
 {
     ViewColors colors;
@@ -14,6 +23,7 @@ ViewColors ViewColors::Light(const QColor& accent)
     colors.bubble = QColor(255, 255, 255, 232);
     colors.accent = accent;
     colors.edge = QColor(0x1f, 0x2a, 0x35);
+    colors.Complete();
     return colors;
 }
 
@@ -29,6 +39,7 @@ ViewColors ViewColors::Dark(const QColor& accent)
     colors.bubble = QColor(0x20, 0x24, 0x28, 225);
     colors.accent = accent;
     colors.edge = QColor(0x10, 0x14, 0x18);
+    colors.Complete();
     return colors;
 }
 

@@ -2,8 +2,10 @@
 
 #include "model/measure.h"
 #include "view/camera.h"
+#include "view/color_scale.h"
 
 #include <QColor>
+#include <QFont>
 
 namespace tarnix {
 
@@ -57,6 +59,7 @@ struct LayerOptions
 struct ViewState
 {
     DisplayMode mode = DisplayMode::Edges;
+    ColorBy color_by = ColorBy::Part;
     bool plate = true;
     bool grid = true;
     bool volume = true;
@@ -70,6 +73,12 @@ struct ViewState
     bool open_edges = false;
     bool back_faces = true;
     bool center_of_mass = false;
+    double grid_step = 0.0; ///< millimetres; 0 for the usual one of the unit
+    int grid_major = 5;     ///< every so many lines is a strong one
+    bool smooth = true;     ///< light runs over soft bends
+    bool fine = true;       ///< smooth edges in a view at rest
+    double measure_width = 1.8;
+    QFont font; ///< of texts in the scene
     Section section;
     LayerOptions layers;
 };
@@ -86,6 +95,16 @@ struct ViewColors
     QColor bubble; ///< ground of texts in the scene
     QColor accent; ///< selection
     QColor edge;   ///< edges of parts
+    QColor volume;       ///< edges of the build volume
+    QColor strong_grid;  ///< every so many lines
+    QColor measure;      ///< lines of measurements
+    QColor measure_text;
+    QColor candidate; ///< the point that a click would take
+    QColor contour;   ///< of layers; invalid for the colour of each part
+    QColor hatch;     ///< likewise
+
+    /// Gives the colours of details those that go with `frame` and `text`.
+    void Complete();
 
     static ViewColors Light(const QColor& accent);
     static ViewColors Dark(const QColor& accent);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/checks.h"
+#include "model/move_turn.h"
 #include "model/scene.h"
 #include "model/slicer.h"
 #include "view/view_state.h"
@@ -79,6 +80,8 @@ public:
 
     /// The placement that was copied; none at first.
     std::optional<Transform> copied_placement;
+    /// What the dialog of moves was told last.
+    MoveTurn last_move;
 
 Q_SIGNALS:
     void ViewChanged();
