@@ -19,6 +19,43 @@ Integer Truncate(double value)
     return 0;
 }
 
+/// The number in "-12.375" and the like. Up to 15 digits are exact in a double, and so is the power
+/// of ten by which they are divided: the result is the nearest double, as that of the long way.
+/// False for all else, which is not to say that it is no number.
+bool ReadPlainNumber(const QString& text, double& value)
+{
+    constexpr int MaxDigits = 15;
+    static constexpr double PowersOfTen[MaxDigits + 1] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                          1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const QChar* at = text.constData();
+    const QChar* const end = at + text.size();
+    const bool negative = at != end && *at == QLatin1Char('-');
+    if (negative)
+        ++at;
+    qint64 digits = 0;
+    int count = 0;
+    int fraction = -1; // digits behind the point
+    for (; at != end; ++at) {
+        const int digit = at->unicode() - '0';
+        if (digit >= 0 && digit <= 9) {
+            digits = digits * 10 + digit;
+            if (++count > MaxDigits)
+                return false;
+            if (fraction >= 0)
+                ++fraction;
+        } else if (*at == QLatin1Char('.') && fraction < 0 && count > 0) {
+            fraction = 0;
+        } else {
+            return false;
+        }
+    }
+    if (count == 0 || fraction == 0)
+        return false;
+    const double number = static_cast<double>(digits) / PowersOfTen[qMax(fraction, 0)];
+    value = negative ? -number : number;
+    return true;
+}
+
 /// The forms that QFont reads without a complaint on the console.
 bool IsFontDescription(const QString& text)
 {
@@ -162,7 +199,8 @@ template <> long long convert<QString, long long>(const QString& text)
 
 template <> double convert<QString, double>(const QString& text)
 {
-    return text.toDouble(nullptr);
+    double value = 0.0;
+    return ReadPlainNumber(text, value) ? value : text.toDouble(nullptr);
 }
 
 template <> float convert<QString, float>(const QString& text)

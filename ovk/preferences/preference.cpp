@@ -48,7 +48,7 @@ void Preference<QByteArray>::_DoSave(QXmlStreamWriter& writer)
 
 void Preference<QByteArray>::_DoLoad(QXmlStreamReader& reader)
 {
-    SetData(QByteArray::fromBase64(ReadTextElement(reader).toUtf8()));
+    SetData(QByteArray::fromBase64(ElementText(reader).Get().toUtf8()));
 }
 
 void Preference<QByteArray>::_DoRestoreDefault()
@@ -77,7 +77,7 @@ void Preference<QStringList>::_DoLoad(QXmlStreamReader& reader)
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
             if (reader.name() == QLatin1String("item"))
-                items.append(ReadTextElement(reader));
+                items.append(ElementText(reader).Get());
             break;
         case QXmlStreamReader::EndElement:
         case QXmlStreamReader::StartDocument:

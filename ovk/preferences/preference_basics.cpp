@@ -32,19 +32,9 @@ PreferenceChapter* PreferenceBasics::GetParent() const
     return mp_parent;
 }
 
-bool PreferenceBasics::IsLoaded() const
-{
-    return m_loaded;
-}
-
 void PreferenceBasics::RestoreDefault()
 {
     _DoRestoreDefault();
-}
-
-void PreferenceBasics::_SetLoaded()
-{
-    m_loaded = true;
 }
 
 void PreferenceBasics::Load(QXmlStreamReader& reader)

@@ -27,7 +27,7 @@ public:
     /// The chapter of this node; null for the root chapter.
     PreferenceChapter* GetParent() const;
     /// True once the preference has got a value from somewhere since the process began.
-    bool IsLoaded() const;
+    bool IsLoaded() const { return m_loaded; }
     /// Gives the node its default.
     void RestoreDefault();
 
@@ -45,7 +45,7 @@ protected:
     virtual void _DoRestoreDefault() = 0;
 
     /// Marks the node as loaded, for good.
-    void _SetLoaded();
+    void _SetLoaded() { m_loaded = true; }
     /// Reads the node and marks it as loaded.
     void Load(QXmlStreamReader& reader);
     /// Writes the node.

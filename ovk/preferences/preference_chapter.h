@@ -47,7 +47,7 @@ private:
 
     struct NameIndex;
 
-    PreferenceBasics* _FindItem(QStringView name);
+    PreferenceBasics* _FindByView(QStringView name);
     bool _IsIndexed();
     void _Index();
 

@@ -12,10 +12,17 @@
 #include <QXmlStreamWriter>
 
 #include <algorithm>
+#include <cstring>
 
 namespace ovk {
 
 namespace {
+
+/// Memory for the text of the next element; in a load inside a load it is in use.
+QString g_spare_text;
+
+/// In characters. Whoever keeps a text may keep memory for this many.
+constexpr int MaxSpareText = 64;
 
 bool IsForbidden(QChar character)
 {
@@ -51,31 +58,48 @@ QString WithoutForbiddenCharacters(const QString& text)
     return allowed;
 }
 
-QString ReadTextElement(QXmlStreamReader& reader)
+ElementText::ElementText(QXmlStreamReader& reader)
 {
-    QString text;
     if (!reader.isStartElement())
-        return text;
+        return;
     for (;;) {
         switch (reader.readNext()) {
         case QXmlStreamReader::Characters:
         case QXmlStreamReader::EntityReference:
-            if (text.isEmpty())
-                text = reader.text().toString();
+            if (m_text.isEmpty())
+                _Set(reader.text());
             else
-                text += reader.text();
+                m_text += reader.text();
             break;
         case QXmlStreamReader::ProcessingInstruction:
         case QXmlStreamReader::Comment:
             break;
         case QXmlStreamReader::EndElement:
-            return text;
+            return;
         default:
             if (!reader.hasError())
                 reader.raiseError(QStringLiteral("Expected character data."));
-            return text;
+            return;
         }
     }
+}
+
+ElementText::~ElementText()
+{
+    if (m_text.isDetached() && m_text.capacity() <= MaxSpareText)
+        m_text.swap(g_spare_text);
+}
+
+void ElementText::_Set(const QStringRef& text)
+{
+    // Not the reader's own text: sharing it would have the reader make a new one each time.
+    if (g_spare_text.capacity() < text.size()) {
+        m_text = QString(text.unicode(), text.size());
+        return;
+    }
+    m_text.swap(g_spare_text);
+    m_text.resize(text.size());
+    std::memcpy(m_text.data(), text.unicode(), size_t(text.size()) * sizeof(QChar));
 }
 
 void WriteTextElement(QXmlStreamWriter& writer, const QString& name, const QString& text)
@@ -110,9 +134,9 @@ void PreferenceValueBasics::_DoSave(QXmlStreamWriter& writer)
 
 void PreferenceValueBasics::_DoLoad(QXmlStreamReader& reader)
 {
-    const QString text = ReadTextElement(reader);
+    const ElementText text(reader);
     if (PreferencesController::GetInstance()->IsPreferenceLoadable(this))
-        _FromString(text);
+        _FromString(text.Get());
 }
 
 void PreferenceValueBasics::_FromString(const QString& /*text*/)

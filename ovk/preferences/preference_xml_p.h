@@ -11,9 +11,26 @@ namespace ovk {
 /// that follows it in the file unreadable.
 QString WithoutForbiddenCharacters(const QString& text);
 
-/// The text of the element on whose start \a reader stands: QXmlStreamReader::readElementText(), which
-/// makes three texts of each. A child element is an error of the reader here, too.
-QString ReadTextElement(QXmlStreamReader& reader);
+/// The text of the element on whose start \a reader stands, read as by
+/// QXmlStreamReader::readElementText(): a child element is an error of the reader here, too.
+///
+/// Most values only look at their text, so that one piece of memory serves one after the other. Who
+/// keeps a copy of the text gets that piece with it.
+class ElementText
+{
+public:
+    explicit ElementText(QXmlStreamReader& reader);
+    ~ElementText();
+    ElementText(const ElementText&) = delete;
+    ElementText& operator=(const ElementText&) = delete;
+
+    const QString& Get() const { return m_text; }
+
+private:
+    void _Set(const QStringRef& text);
+
+    QString m_text;
+};
 
 /// Writes an element with a text that is read back as it is, but for characters that no XML
 /// document can hold.

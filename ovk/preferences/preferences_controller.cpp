@@ -202,7 +202,8 @@ bool PreferencesController::_LoadCurrentFile(const QString& path)
         return false;
     PreferenceBasics& root = *mp_root;
     QFile file(path);
-    const bool opened = file.open(QIODevice::ReadOnly);
+    // The reader has a buffer of its own.
+    const bool opened = file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     if (opened) {
         QXmlStreamReader reader(&file);
         root.Load(reader);
