@@ -255,7 +255,9 @@ void RibbonBackstageView::actionEvent(QActionEvent* event)
         break;
     }
     d->columnCache = -1;
-    d->layout();
+    // Otherwise it is laid out when it is shown.
+    if (!isHidden())
+        d->layout();
     QWidget::actionEvent(event);
 }
 

@@ -67,9 +67,8 @@ RibbonBar::~RibbonBar()
     }
     // A peeking area is a child of the window.
     delete d->area;
-    for (const RibbonBarPrivate::Corner& corner : d->corner)
-        delete corner.button;
-    d->corner.clear();
+    while (!d->corner.empty())
+        delete d->corner.back().button;
 }
 
 QAction* RibbonBar::addAction(const QIcon& icon, const QString& text, Qt::ToolButtonStyle style,
@@ -122,6 +121,14 @@ void RibbonBarPrivate::removeCorner(QAction* action)
     corner.erase(it);
     delete button;
     layout();
+}
+
+void RibbonBarPrivate::buttonGone(RibbonButton* button)
+{
+    const auto it = std::find_if(corner.begin(), corner.end(),
+                                 [button](const Corner& c) { return c.button == button; });
+    if (it != corner.end())
+        corner.erase(it);
 }
 
 void RibbonBarPrivate::buttonChanged()

@@ -113,6 +113,8 @@ void RibbonBarPrivate::endPeek()
     if (!peeking)
         return;
     peeking = false;
+    if (keyTips->isOnPage())
+        keyTips->stop();
     qApp->removeEventFilter(q);
     hidePopups();
     const bool had_focus = area->isAncestorOf(QApplication::focusWidget());
@@ -154,8 +156,16 @@ bool RibbonBarPrivate::filterPeek(QObject* watched, QEvent* event)
         endPeek();
         return true;
     case QEvent::WindowDeactivate:
-        if (watched == watchedWindow && !QApplication::activePopupWidget())
-            endPeek();
+        // What takes over is known only afterwards: a popup of the page is part of it.
+        if (watched == watchedWindow)
+            QMetaObject::invokeMethod(
+                q,
+                [this] {
+                    if (!QApplication::activePopupWidget() &&
+                        QApplication::activeWindow() != watchedWindow)
+                        endPeek();
+                },
+                Qt::QueuedConnection);
         return false;
     default:
         return false;

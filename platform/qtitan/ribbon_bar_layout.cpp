@@ -241,7 +241,7 @@ QRect RibbonBarPrivate::titleRect() const
     // In the middle of the window where that is free, otherwise in the middle of what is left.
     const int middle = row.width() / 2;
     const int reach = qMin(middle - left, right - middle);
-    const QString title = q->window()->windowTitle();
+    const QString title = shortened(q->window()->windowTitle());
     const int wanted = q->fontMetrics().horizontalAdvance(title) + metrics.px(16);
     if (2 * reach >= wanted)
         return directed(QRect(middle - reach, 0, 2 * reach, row.height()), q->width(),
@@ -263,7 +263,7 @@ void RibbonBarPrivate::paint(QPainter& painter)
     if (captionHeight() > 0) {
         RibbonPaintOption option = base;
         option.rect = captionRect();
-        option.text = q->window()->windowTitle();
+        option.text = shortened(q->window()->windowTitle());
         option.text.remove(QLatin1String("[*]"));
         option.anchor = titleRect();
         RibbonPainter::drawCaption(painter, option);
@@ -333,10 +333,10 @@ void RibbonBarPrivate::watchWindow()
     QWindow* handle = window->windowHandle();
     if (!handle)
         return;
-    screenConnection = QObject::connect(handle, &QWindow::screenChanged, q, [this](QScreen*) {
-        watchWindow();
-        screenChanged();
-    });
+    // That the window came to another screen is told to every widget; here only whose resolution
+    // is watched changes.
+    screenConnection =
+        QObject::connect(handle, &QWindow::screenChanged, q, [this](QScreen*) { watchWindow(); });
     if (handle->screen())
         dpiConnection = QObject::connect(handle->screen(), &QScreen::logicalDotsPerInchChanged, q,
                                          [this] { screenChanged(); });

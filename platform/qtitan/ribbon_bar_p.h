@@ -35,12 +35,15 @@ public:
 
     void create();
     void buttonChanged() override;
+    void buttonGone(RibbonButton* button) override;
 
     // Pages (ribbon_bar.cpp)
     void tabsChanged();
     void pageGone(RibbonPage* page);
     void pageVisibilityChanged(RibbonPage* page);
     void takeOut(RibbonPage* page);
+    /// The current page went from an index: another takes over, or there is none left.
+    void currentGone(int index);
     void makeCurrent(RibbonPage* page);
     /// The nearest page with a tab, seen from an index; null when there is none.
     RibbonPage* nearestShown(int index) const;

@@ -103,12 +103,22 @@ void RibbonBarPrivate::takeOut(RibbonPage* page)
     if (explicitly)
         page->setVisible(!hidden);
     delete holder;
-    if (current == page) {
-        current = nullptr;
-        tabBar->setPages(shownPages());
-        makeCurrent(nearestShown(index));
-    }
+    if (current == page)
+        currentGone(index);
     tabsChanged();
+}
+
+void RibbonBarPrivate::currentGone(int index)
+{
+    current = nullptr;
+    tabBar->setPages(shownPages());
+    RibbonPage* next = nearestShown(index);
+    if (next) {
+        makeCurrent(next);
+        return;
+    }
+    endPeek();
+    Q_EMIT q->currentPageChanged(nullptr);
 }
 
 void RibbonBarPrivate::pageGone(RibbonPage* page)
@@ -128,11 +138,8 @@ void RibbonBarPrivate::pageGone(RibbonPage* page)
         page->setParent(nullptr);
         delete holder;
     }
-    if (current == page) {
-        current = nullptr;
-        tabBar->setPages(shownPages());
-        makeCurrent(nearestShown(index));
-    }
+    if (current == page)
+        currentGone(index);
     tabsChanged();
 }
 

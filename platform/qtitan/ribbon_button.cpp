@@ -35,7 +35,11 @@ RibbonButton::RibbonButton(RibbonGround ground, RibbonButtonHost* host, QWidget*
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-RibbonButton::~RibbonButton() = default;
+RibbonButton::~RibbonButton()
+{
+    if (m_host)
+        m_host->buttonGone(this);
+}
 
 void RibbonButton::setUp(QAction* action, Qt::ToolButtonStyle style, ToolButtonPopupMode mode,
                          QMenu* menu)
@@ -97,7 +101,7 @@ void RibbonButton::setWantedStyle(Qt::ToolButtonStyle style)
 
 QString RibbonButton::label() const
 {
-    return defaultAction() ? defaultAction()->iconText() : plainText(text());
+    return defaultAction() ? shortened(defaultAction()->iconText()) : plainText(text());
 }
 
 bool RibbonButton::hasMenu() const

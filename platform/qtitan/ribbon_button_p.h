@@ -9,11 +9,15 @@
 
 namespace Qtitan {
 
+class RibbonButton;
+
 /// Whoever lays out ribbon buttons hears when one of them wants another size.
 class RibbonButtonHost
 {
 public:
     virtual void buttonChanged() = 0;
+    /// A button is being deleted, by the host itself or by somebody whose it is not.
+    virtual void buttonGone(RibbonButton* button) = 0;
 
 protected:
     ~RibbonButtonHost() = default;

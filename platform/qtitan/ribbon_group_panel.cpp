@@ -93,7 +93,9 @@ RibbonGroupPanel::RibbonGroupPanel(RibbonGroup* group) : QWidget(group), m_group
 RibbonGroupPanel::~RibbonGroupPanel()
 {
     // Buttons still tell of changes while the base deletes them.
-    for (Item& item : m_items)
+    const std::vector<Item> items = std::move(m_items);
+    m_items.clear();
+    for (const Item& item : items)
         if (item.button)
             delete item.button;
 }
@@ -415,6 +417,18 @@ void RibbonGroupPanel::invalidateAll()
 void RibbonGroupPanel::buttonChanged()
 {
     invalidate();
+}
+
+void RibbonGroupPanel::buttonGone(RibbonButton* button)
+{
+    for (Item& item : m_items) {
+        if (item.button != button)
+            continue;
+        // The action is still in the group and gets another.
+        item.button = nullptr;
+        m_allMade = false;
+        invalidate();
+    }
 }
 
 bool RibbonGroupPanel::event(QEvent* event)

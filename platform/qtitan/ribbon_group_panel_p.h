@@ -87,6 +87,7 @@ public:
     /// Forgets those of the buttons too: they are measured anew.
     void invalidateAll();
     void buttonChanged() override;
+    void buttonGone(RibbonButton* button) override;
 
     /// How often the steps of all panels were computed, for tests.
     static int computations();

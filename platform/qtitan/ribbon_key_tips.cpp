@@ -155,6 +155,8 @@ void RibbonKeyTips::back()
         enter(Level::Page);
         break;
     case Level::Page:
+        // The walk goes on in the row of tabs; the end of the peek is not its end.
+        m_level = Level::Bar;
         bar->endPeek();
         enter(Level::Bar);
         break;

@@ -49,6 +49,7 @@ public:
 
     Level level() const { return m_level; }
     bool isActive() const { return m_level != Level::Away; }
+    bool isOnPage() const { return m_level == Level::Page || m_level == Level::Popup; }
     void start();
     void stop();
     /// One character typed. False when no tip begins so.

@@ -45,6 +45,7 @@ RibbonMetrics RibbonMetrics::compute(int fontHeight, int averageCharWidth, qreal
     m.groupPadding = m.px(3);
     m.groupTop = m.px(3);
     m.groupHeight = m.largeHeight + m.groupTitleHeight + m.groupTop;
+    m.maxContextWidth = m.px(240);
     m.maxTitleWidth = m.px(320);
     m.maxButtonWidth = m.px(360);
     m.groupSpacing = m.px(2);

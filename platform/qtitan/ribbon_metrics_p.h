@@ -42,6 +42,7 @@ struct OVK_TEST_EXPORT RibbonMetrics
     int groupPadding = 3;       ///< left and right of the buttons of a group
     int groupTop = 3;           ///< above the buttons of a group
     int groupHeight = 87;       ///< buttons, title strip and groupTop
+    int maxContextWidth = 240;  ///< of the title above contextual tabs; a longer one is elided
     int maxTitleWidth = 320;    ///< of a group's title; a longer one is elided
     int maxButtonWidth = 360;   ///< of a button; a longer label is elided
     int groupSpacing = 2;       ///< between groups

@@ -62,7 +62,7 @@ QSize RibbonSystemButton::sizeHint() const
                                  : bar->tabRowHeight();
         return QSize(diameter, diameter);
     }
-    const QString text = defaultAction() ? defaultAction()->iconText() : plainText(this->text());
+    const QString text = defaultAction() ? shortened(defaultAction()->iconText()) : plainText(this->text());
     int width = fontMetrics().horizontalAdvance(text) + 2 * metrics.px(14);
     if (toolButtonStyle() != Qt::ToolButtonTextOnly && !icon().isNull())
         width = text.isEmpty() || toolButtonStyle() == Qt::ToolButtonIconOnly
@@ -143,7 +143,7 @@ void RibbonSystemButton::paintEvent(QPaintEvent*)
     if (toolButtonStyle() != Qt::ToolButtonTextOnly)
         option.icon = icon();
     if (!isRound() && (toolButtonStyle() != Qt::ToolButtonIconOnly || icon().isNull()))
-        option.text = defaultAction() ? defaultAction()->iconText() : plainText(text());
+        option.text = defaultAction() ? shortened(defaultAction()->iconText()) : plainText(text());
     const int extent = isRound() && rect().height() > metrics.largeIcon ? metrics.largeIcon * 3 / 4
                                                                         : metrics.smallIcon;
     option.iconSize = QSize(extent, extent);

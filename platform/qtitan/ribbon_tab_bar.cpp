@@ -87,6 +87,26 @@ const std::vector<int>& RibbonTabBar::titleWidths() const
     return m_titles;
 }
 
+std::vector<RibbonTabRun> RibbonTabBar::contextRuns() const
+{
+    const RibbonMetrics& metrics = RibbonMetrics::of(this);
+    std::vector<RibbonTabRun> runs;
+    for (int i = 0; i < m_pages.size();) {
+        const RibbonPage* first = m_pages.at(i);
+        int end = i;
+        while (end < m_pages.size() && m_pages.at(end)->isContextual() == first->isContextual() &&
+               m_pages.at(end)->contextTitle() == first->contextTitle() &&
+               m_pages.at(end)->contextColor() == first->contextColor())
+            ++end;
+        if (first->isContextual()) {
+            const int title = fontMetrics().horizontalAdvance(plainText(first->contextTitle()));
+            runs.push_back({i, end - i, qMin(title + metrics.px(14), metrics.maxContextWidth)});
+        }
+        i = end;
+    }
+    return runs;
+}
+
 int RibbonTabBar::measurements()
 {
     return g_measurements;
@@ -103,6 +123,7 @@ const RibbonTabGeometry& RibbonTabBar::geometryOfTabs() const
 {
     if (m_geometryWidth != width()) {
         m_geometry = layoutRibbonTabs(titleWidths(), width(), tabMetrics());
+        widenRibbonTabs(m_geometry, contextRuns(), width());
         m_geometryWidth = width();
     }
     return m_geometry;

@@ -69,6 +69,8 @@ protected:
 
 private:
     const std::vector<int>& titleWidths() const;
+    /// The tabs below the title of a context, and how wide that is.
+    std::vector<RibbonTabRun> contextRuns() const;
     RibbonTabMetrics tabMetrics() const;
     void setHovered(int index);
     void setOffset(int offset);

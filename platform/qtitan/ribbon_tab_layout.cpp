@@ -73,4 +73,30 @@ RibbonTabGeometry layoutRibbonTabs(const std::vector<int>& titles, int available
     return geometry;
 }
 
+void widenRibbonTabs(RibbonTabGeometry& geometry, const std::vector<RibbonTabRun>& runs,
+                     int available)
+{
+    for (const RibbonTabRun& run : runs) {
+        if (run.count <= 0 || run.first + run.count > static_cast<int>(geometry.tabs.size()))
+            continue;
+        const auto at = [&geometry](int i) -> RibbonTabGeometry::Tab& {
+            return geometry.tabs[static_cast<std::size_t>(i)];
+        };
+        const RibbonTabGeometry::Tab& last = at(run.first + run.count - 1);
+        const int missing = std::min(run.wanted - (last.x + last.width - at(run.first).x),
+                                     available - geometry.contentWidth);
+        if (missing <= 0)
+            continue;
+        int given = 0;
+        for (int i = run.first; i < static_cast<int>(geometry.tabs.size()); ++i) {
+            at(i).x += given;
+            const int place = i - run.first + 1;
+            const int share = place <= run.count ? missing * place / run.count - given : 0;
+            at(i).width += share;
+            given += share;
+        }
+        geometry.contentWidth += missing;
+    }
+}
+
 } // namespace Qtitan

@@ -41,4 +41,16 @@ struct OVK_TEST_EXPORT RibbonTabGeometry
 OVK_TEST_EXPORT RibbonTabGeometry layoutRibbonTabs(const std::vector<int>& titles, int available,
                                                    const RibbonTabMetrics& metrics);
 
+/// Tabs that stand below a title of their own.
+struct RibbonTabRun
+{
+    int first = 0;
+    int count = 0;
+    int wanted = 0; ///< how wide they must be together for the title to be read
+};
+
+/// Makes the tabs of each run as wide as it wants, as far as there is room left in `available`.
+OVK_TEST_EXPORT void widenRibbonTabs(RibbonTabGeometry& geometry,
+                                     const std::vector<RibbonTabRun>& runs, int available);
+
 } // namespace Qtitan

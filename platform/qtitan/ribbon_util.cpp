@@ -10,8 +10,21 @@
 
 namespace Qtitan {
 
-QString plainText(const QString& text)
+namespace {
+
+/// More than fits on any screen. Measuring and eliding what is longer takes long and shows nothing.
+constexpr int MostShown = 400;
+
+} // namespace
+
+QString shortened(const QString& text)
 {
+    return text.size() <= MostShown ? text : text.left(MostShown) + QChar(0x2026);
+}
+
+QString plainText(const QString& title)
+{
+    const QString text = shortened(title);
     QString result;
     result.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {

@@ -15,7 +15,9 @@ namespace Qtitan {
 class RibbonBar;
 struct RibbonMetrics;
 
-/// A text as it is shown: "&x" without the ampersand, "&&" as one.
+/// The text, or the beginning of one that is far longer than anything could show.
+OVK_TEST_EXPORT QString shortened(const QString& text);
+/// A text as it is shown: shortened, "&x" without the ampersand, "&&" as one.
 OVK_TEST_EXPORT QString plainText(const QString& text);
 /// A text with every ampersand doubled, for painters and menus that read mnemonics.
 OVK_TEST_EXPORT QString escapedText(const QString& text);

@@ -147,8 +147,12 @@ private Q_SLOTS:
         QCOMPARE(w.bar->currentPageIndex(), 0);
         QCOMPARE(spy.count(), 1);
         w.bar->removePage(w.bar->getPage(0));
+        QCOMPARE(spy.count(), 2);
         w.bar->clearPages();
         QCOMPARE(w.bar->currentPageIndex(), -1);
+        // That none is left is told too.
+        QCOMPARE(spy.count(), 3);
+        QVERIFY(!spy.last().first().value<RibbonPage*>());
         Window::Settle();
     }
 

@@ -471,6 +471,9 @@ private Q_SLOTS:
         QVERIFY(group->isPopupVisible());
         QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
         QVERIFY(!group->isPopupVisible());
+        group->showPopup();
+        group->hidePopup();
+        QVERIFY(!group->isPopupVisible());
     }
 
     void aGroupWithAnOpenPopupCanGo()

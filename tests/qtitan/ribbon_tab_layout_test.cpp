@@ -111,6 +111,29 @@ private Q_SLOTS:
                     geometry.padding == metrics.minPadding);
         }
     }
+
+    void tabsOfAContextGrowToTheirTitleWhereThereIsRoom()
+    {
+        const RibbonTabMetrics metrics;
+        const std::vector<int> titles{50, 40, 40, 60};
+        const RibbonTabGeometry before = layoutRibbonTabs(titles, 1000, metrics);
+        RibbonTabGeometry after = before;
+        widenRibbonTabs(after, {{1, 2, 301}}, 1000);
+        QCOMPARE(after.tabs[0].width, before.tabs[0].width);
+        QCOMPARE(after.tabs[2].x + after.tabs[2].width - after.tabs[1].x, 301);
+        QCOMPARE(after.tabs[1].textWidth, before.tabs[1].textWidth);
+        QCOMPARE(after.tabs[2].x, after.tabs[1].x + after.tabs[1].width + metrics.spacing);
+        QCOMPARE(after.tabs[3].x, after.tabs[2].x + after.tabs[2].width + metrics.spacing);
+        QCOMPARE(after.contentWidth, after.tabs[3].x + after.tabs[3].width);
+        // Only into what is free.
+        RibbonTabGeometry tight = layoutRibbonTabs(titles, before.contentWidth + 10, metrics);
+        widenRibbonTabs(tight, {{1, 2, 301}}, before.contentWidth + 10);
+        QCOMPARE(tight.contentWidth, before.contentWidth + 10);
+        RibbonTabGeometry full = layoutRibbonTabs(titles, 200, metrics);
+        const int width = full.contentWidth;
+        widenRibbonTabs(full, {{1, 2, 301}, {3, 1, 50}, {3, 4, 900}}, 200);
+        QCOMPARE(full.contentWidth, width);
+    }
 };
 
 OVK_TEST_CLASS(RibbonTabLayoutTest)
