@@ -438,7 +438,9 @@ QPalette RibbonTheme::palette() const
     const QColor shade = dark ? QColor(Qt::black) : window.text;
     set(QPalette::Light, light, light);
     set(QPalette::Midlight, DrawHelpers::mix(ground, light, 0.5), DrawHelpers::mix(ground, light, 0.5));
-    set(QPalette::Mid, DrawHelpers::mix(ground, shade, 0.22), DrawHelpers::mix(ground, shade, 0.22));
+    // Views write their disabled rows in it, so it must read on their grounds.
+    const QColor mid = DisabledText(edit.text, {view.middle, disabled_base, look(Element::ViewAlternate).middle});
+    set(QPalette::Mid, mid, mid);
     set(QPalette::Dark, DrawHelpers::mix(ground, shade, 0.38), DrawHelpers::mix(ground, shade, 0.38));
     set(QPalette::Shadow, DrawHelpers::mix(ground, shade, 0.7), DrawHelpers::mix(ground, shade, 0.7));
     return palette;
