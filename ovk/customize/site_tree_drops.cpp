@@ -92,6 +92,7 @@ bool SiteTreeModel::_ReadDrag(const QModelIndex& parent, int row, DropRequest& r
 {
     request.index = parent;
     request.row = row;
+    request.first_only = reading == DragReading::FirstOnly;
     request.target = GetItem(parent);
     request.target_kind = KindOf(request.target);
     if (!request.target)
@@ -132,7 +133,7 @@ const SiteTreeModel::DropRule* SiteTreeModel::_FindRule(const DropRules& rules,
     }
     for (const DropRule& rule : rules) {
         if (rule.target == request.target_kind && rule.first == request.first)
-            return rule.on_itself || !request.items.contains(request.target) ? &rule : nullptr;
+            return rule.on_itself || !request.IsOnItself() ? &rule : nullptr;
     }
     return nullptr;
 }

@@ -58,7 +58,9 @@ struct DropRequest
     QList<ITreeItem*> items;      ///< the dragged nodes
     QModelIndexList indexes;      ///< and their indexes, later rows first
     QList<IUiItem*> commands;     ///< or the dragged commands
+    bool first_only = false;      ///< the first of the nodes decides alone
     ITreeItem* First() const { return items.isEmpty() ? nullptr : items.first(); }
+    bool IsOnItself() const { return first_only ? First() == target : items.contains(target); }
 };
 
 /// A tree over one suite of the layout under edit. It shows what resolves in the current product

@@ -63,17 +63,28 @@ RefNode* ReferenceSite::FindIn(RefNode& node, const void* id)
     return nullptr;
 }
 
-const RefNode* ReferenceSite::Find(const void* id) const
+const RefNode* ReferenceSite::FindIn(const RefNode& node, const void* id)
 {
-    return FindIn(const_cast<RefNode&>(m_root), id);
+    if (id && node.id == id)
+        return &node;
+    for (const RefNode& child : node.children) {
+        if (const RefNode* found = FindIn(child, id))
+            return found;
+    }
+    return nullptr;
 }
 
-RefNode* ReferenceSite::ParentOf(RefNode& node, const void* id)
+const RefNode* ReferenceSite::Find(const void* id) const
 {
-    for (RefNode& child : node.children) {
+    return FindIn(m_root, id);
+}
+
+const RefNode* ReferenceSite::ParentIn(const RefNode& node, const void* id)
+{
+    for (const RefNode& child : node.children) {
         if (child.id == id)
             return &node;
-        if (RefNode* found = ParentOf(child, id))
+        if (const RefNode* found = ParentIn(child, id))
             return found;
     }
     return nullptr;
@@ -81,8 +92,7 @@ RefNode* ReferenceSite::ParentOf(RefNode& node, const void* id)
 
 const RefNode* ReferenceSite::ParentOf(const void* id) const
 {
-    auto* self = const_cast<ReferenceSite*>(this);
-    return self->ParentOf(self->m_root, id);
+    return ParentIn(m_root, id);
 }
 
 QList<const RefNode*> ReferenceSite::Shown(const RefNode& node)
@@ -139,7 +149,7 @@ bool ReferenceSite::MayDrop(const RefDrag& drag, const void* target_id, int,
         return false;
     const RefNode& first = *source->Find(drag.nodes.first());
     if (composites) {
-        if (source != this || drag.nodes.contains(target_id))
+        if (source != this || drag.nodes.first() == target_id)
             return false;
         if (first.kind == NodeKind::Composite)
             return target.kind == NodeKind::Composite;
@@ -220,7 +230,7 @@ void ReferenceSite::Move(const QList<const void*>& nodes, const void* container_
     const void* anchor = Anchor(*Find(container_id), row, moving);
     QList<RefNode> block;
     for (const void* id : moving) {
-        RefNode* from = ParentOf(m_root, id);
+        RefNode* from = FindIn(m_root, ParentOf(id)->id);
         for (int i = 0; i < from->children.size(); ++i) {
             if (from->children.at(i).id == id) {
                 block.append(from->children.takeAt(i));
@@ -287,7 +297,10 @@ void ReferenceSite::Drop(const RefDrag& drag, const void* target_id, int row,
         if (!same && Holds(composite, first.name))
             return;
         QList<const RefNode*> rest = Shown(composite);
+        const int own = rest.indexOf(Find(first.id));
         rest.removeAll(Find(first.id));
+        if (same && (at == own || (own == rest.size() && (at < 0 || at > rest.size()))))
+            return;
         const void* anchor = at >= 0 && at < rest.size() ? rest.at(at)->id : nullptr;
         const int anchor_row = anchor ? Shown(composite).indexOf(Find(anchor)) : -1;
         Move({first.id}, container, anchor_row, false);

@@ -51,7 +51,8 @@ public:
 private:
     static RefNode Take(const ovk::ITreeItem& node);
     static RefNode* FindIn(RefNode& node, const void* id);
-    RefNode* ParentOf(RefNode& node, const void* id);
+    static const RefNode* FindIn(const RefNode& node, const void* id);
+    static const RefNode* ParentIn(const RefNode& node, const void* id);
     const RefNode* ParentOf(const void* id) const;
     static QList<const RefNode*> Shown(const RefNode& node);
     bool Holds(const RefNode& container, const QString& command) const;

@@ -76,7 +76,7 @@ public:
         for (const QModelIndex& index : *dragged->GetPayload())
             drag.nodes.prepend(source->GetItem(index));
         // Composites are read by the first of the list alone.
-        if (&model == &m_sites.composites && !drag.nodes.isEmpty())
+        if (source == &m_sites.composites && !drag.nodes.isEmpty())
             std::reverse(drag.nodes.begin(), drag.nodes.end());
         return drag;
     }
@@ -195,6 +195,21 @@ private Q_SLOTS:
     void swapsOfCompositesDoWhatPlainListsDo();
 
 private:
+    static QString Difference(const ReferenceSite& before, const ReferenceSite& expected,
+                              const ReferenceSite& found)
+    {
+        // From the first line that differs on, a few of each.
+        const QStringList wanted = expected.Lines();
+        const QStringList got = found.Lines();
+        int from = 0;
+        while (from < wanted.size() && from < got.size() && wanted.at(from) == got.at(from))
+            ++from;
+        const auto part = [from](const QStringList& lines) {
+            return lines.mid(qMax(0, from - 4), 12).join(QStringLiteral("; "));
+        };
+        return QStringLiteral("\nbefore:   %1\nexpected: %2\nfound:    %3")
+            .arg(part(before.Lines()), part(wanted), part(got));
+    }
     static ReferenceSite Reference(const SiteTreeModel& model)
     {
         return ReferenceSite(*model.GetRootItem(), model.GetMaxItems());
@@ -237,8 +252,16 @@ void SiteRandomDragsTest::everyDragDoesWhatPlainListsDo()
         ReferenceSite expected = Reference(model);
         const ReferenceSite from = Reference(*source);
         const ReferenceSite* origin = source == &model ? &expected : &from;
-        const QString context = QStringLiteral("step %1 of seed %2").arg(step).arg(seed);
         const bool allowed = expected.MayDrop(drag, node, row, origin);
+        QStringList dragged = drag.commands;
+        for (const void* id : drag.nodes)
+            dragged.append(origin->Find(id)->name);
+        const QString context = QStringLiteral("step %1 of seed %2: %3 on %4 at %5")
+                                    .arg(step)
+                                    .arg(seed)
+                                    .arg(dragged.join(QStringLiteral(", ")),
+                                         expected.Find(node)->name)
+                                    .arg(row);
         QVERIFY2(sites.CanDrop(model, target, row) == allowed, qPrintable(context));
         if (!allowed) {
             ++refused;
@@ -248,8 +271,8 @@ void SiteRandomDragsTest::everyDragDoesWhatPlainListsDo()
         const ReferenceSite before = expected;
         expected.Drop(drag, node, row, source == &model ? &before : &from);
         QVERIFY(sites.Drop(model, target, row));
-        const QStringList lines = Reference(model).Lines();
-        QVERIFY2(lines == expected.Lines(), qPrintable(context));
+        QVERIFY2(Reference(model).Lines() == expected.Lines(),
+                 qPrintable(context + Difference(before, expected, Reference(model))));
         QVERIFY(sites.Root()->CheckConsistency());
     }
     QVERIFY2(accepted > 150 && refused > 150,
