@@ -18,13 +18,13 @@ QStringList ReadLines(const QString& path)
     return lines;
 }
 
-/// The blocks of C++ of a guide.
+/// The blocks of C++ and of JSON of a guide.
 QList<QStringList> Blocks(const QStringList& guide)
 {
     QList<QStringList> blocks;
     bool inside = false;
     for (const QString& line : guide) {
-        if (line == "```cpp") {
+        if (line == "```cpp" || line == "```json") {
             blocks << QStringList();
             inside = true;
         } else if (line == "```") {
@@ -47,7 +47,9 @@ bool StandsIn(const QStringList& block, const QStringList& source)
         if (!indent.trimmed().isEmpty())
             continue;
         int line = 0;
-        while (line < block.size() && source.at(start + line) == (block.at(line).isEmpty() ? QString() : indent + block.at(line)))
+        while (line < block.size() &&
+               source.at(start + line) ==
+                   (block.at(line).isEmpty() ? QString() : indent + block.at(line)))
             ++line;
         if (line == block.size())
             return true;
@@ -80,7 +82,8 @@ void GuidesTest::everyBlockStandsInItsSource()
 {
     QFETCH(QString, source);
     const QStringList lines = ReadLines(QStringLiteral(OVK_GUIDE_SOURCES "/") + source);
-    const QStringList guide = ReadLines(QStringLiteral(OVK_DOCS "/") + QString(source).replace("_guide.cpp", ".md"));
+    const QStringList guide =
+        ReadLines(QStringLiteral(OVK_DOCS "/") + QString(source).replace("_guide.cpp", ".md"));
     const QList<QStringList> blocks = Blocks(guide);
     QVERIFY(!blocks.isEmpty());
     for (const QStringList& block : blocks) {
