@@ -1,12 +1,14 @@
 #include "ovk/widgets/check_combo_box.h"
 
 #include "check_combo_model_p.h"
+#include "widget_accessibility_p.h"
 
 #include "ovk/core/pimpl_basics.h"
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 namespace ovk {
@@ -81,6 +83,7 @@ bool CheckComboBox::Impl::eventFilter(QObject* receiver, QEvent* event)
 CheckComboBox::CheckComboBox(QWidget* parent)
     : QComboBox(parent), mp_impl(std::make_unique<Impl>(*this))
 {
+    InstallWidgetAccessibility();
     auto* const model = new CheckComboModel(this);
     setModel(model);
     Impl* const impl = mp_impl.get();
@@ -90,6 +93,9 @@ CheckComboBox::CheckComboBox(QWidget* parent)
     connect(model, &CheckComboModel::checkStateChanged, impl, &Impl::Update);
     connect(model, &QAbstractItemModel::rowsInserted, impl, &Impl::Update);
     connect(model, &QAbstractItemModel::rowsRemoved, impl, &Impl::Update);
+
+    // The usual one of a combo box leaves the check boxes no air, and draws them past the style.
+    setItemDelegate(new QStyledItemDelegate(this));
 
     auto* const edit = new QLineEdit(this);
     edit->setReadOnly(true);

@@ -253,7 +253,10 @@ void ColorEdit::paintEvent(QPaintEvent* event)
         initStyleOption(&option);
         const QRect arrow = style()->subControlRect(QStyle::CC_ToolButton, &option,
                                                     QStyle::SC_ToolButtonMenu, this);
-        r.setRight(r.right() - arrow.width());
+        if (isRightToLeft())
+            r.setLeft(r.left() + arrow.width());
+        else
+            r.setRight(r.right() - arrow.width());
     }
     r = r.marginsRemoved(m_margins);
 

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace ovk {
 
@@ -20,6 +21,21 @@ namespace {
 QString LabelText(double value)
 {
     return QString::number(value, 'g', 6);
+}
+
+/// The colour at a fraction of a gradient; \a colors has one at least.
+QColor ColorAt(const std::vector<QColor>& colors, double fraction)
+{
+    const double position = fraction * static_cast<double>(colors.size() - 1);
+    const auto below = static_cast<std::size_t>(position);
+    if (below + 1 >= colors.size())
+        return colors.back();
+    const double part = position - static_cast<double>(below);
+    const QColor& a = colors[below];
+    const QColor& b = colors[below + 1];
+    const auto mix = [part](qreal from, qreal to) { return from + part * (to - from); };
+    return QColor::fromRgbF(mix(a.redF(), b.redF()), mix(a.greenF(), b.greenF()),
+                            mix(a.blueF(), b.blueF()));
 }
 
 } // namespace
@@ -84,6 +100,16 @@ QSize ColorLegend::_EstimateLabelsSize() const
     return first.size().expandedTo(last.size());
 }
 
+QSize ColorLegend::minimumSizeHint() const
+{
+    // The minimum that comes with the first painting is too late for a layout, which would give
+    // nothing to paint on.
+    const QSize labels = _EstimateLabelsSize();
+    return m_orientation == Vertical
+               ? QSize(m_color_size + m_offset + labels.width(), 2 * labels.height())
+               : QSize(2 * labels.width(), m_color_size + m_offset + labels.height());
+}
+
 void ColorLegend::_redraw(const QSize& size)
 {
     const QSize labels = _EstimateLabelsSize();
@@ -99,6 +125,8 @@ void ColorLegend::_redraw(const QSize& size)
         if (m_draw_marks)
             _drawMarks(m_image);
     }
+    if (std::exchange(m_least_size, minimumSizeHint()) != m_least_size)
+        updateGeometry();
     update();
 }
 
@@ -197,11 +225,7 @@ double ColorLegend::GetReadingStep() const
 
 QString ColorLegend::GetReadingText() const
 {
-    const QString value = LabelText(GetReadingValue());
-    const QPoint at = _ReadingPoint();
-    if (!m_image.valid(at))
-        return value;
-    return value + QLatin1String(", ") + ColorText(m_image.pixelColor(at));
+    return LabelText(GetReadingValue()) + QLatin1String(", ") + ColorText(ColorAt(m_colors, m_reading));
 }
 
 QPoint ColorLegend::_ReadingPoint() const

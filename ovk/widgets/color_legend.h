@@ -43,6 +43,8 @@ public:
     /// The value at which the legend is read, and its colour in words.
     QString GetReadingText() const;
 
+    /// Room for the colours and both labels.
+    QSize minimumSizeHint() const override;
     bool eventFilter(QObject* object, QEvent* event) override;
 
 protected:
@@ -77,6 +79,8 @@ private:
     /// A fraction of the length: 0 for the first value, 1 for the last.
     double m_reading = 0.0;
     bool m_reading_shown = false;
+    /// What layouts were told last.
+    QSize m_least_size;
 };
 
 } // namespace ovk

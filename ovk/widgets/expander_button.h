@@ -26,6 +26,10 @@ public Q_SLOTS:
     /// Expands or collapses.
     void setExpanded(bool expanded);
 
+protected:
+    /// Is not drawn pressed in while it is expanded: that is what the arrow says.
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     void _OnToggled(bool checked);
 };

@@ -2,6 +2,7 @@
 
 #include "color_text_p.h"
 
+#include "ovk/widgets/check_combo_box.h"
 #include "ovk/widgets/color_edit.h"
 #include "ovk/widgets/color_legend.h"
 #include "ovk/widgets/color_range_selection.h"
@@ -9,9 +10,11 @@
 #include "ovk/widgets/m_switcher.h"
 #include "ovk/widgets/tooltip.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QCoreApplication>
+#include <QLineEdit>
 #include <QTextDocumentFragment>
 
 #include <memory>
@@ -115,6 +118,74 @@ public:
 
 private:
     ExpanderButton* Button() const { return static_cast<ExpanderButton*>(object()); }
+};
+
+/// Unlike Qt's, it bears the name of its label where there is one; the texts of the checked rows are
+/// its value.
+class AccessibleCheckCombo : public QAccessibleWidget
+{
+public:
+    explicit AccessibleCheckCombo(CheckComboBox* combo)
+        : QAccessibleWidget(combo, QAccessible::ComboBox)
+    {
+    }
+
+    int childCount() const override { return 2; }
+
+    QAccessibleInterface* child(int index) const override
+    {
+        switch (index) {
+        case 0: return QAccessible::queryAccessibleInterface(Combo()->view());
+        case 1: return QAccessible::queryAccessibleInterface(Combo()->lineEdit());
+        default: return nullptr;
+        }
+    }
+
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        if (child && child->object() == Combo()->view())
+            return 0;
+        return child && child->object() == Combo()->lineEdit() ? 1 : -1;
+    }
+
+    QAccessibleInterface* childAt(int x, int y) const override
+    {
+        return rect().contains(x, y) ? child(1) : nullptr;
+    }
+
+    QString text(QAccessible::Text type) const override
+    {
+        return type == QAccessible::Value ? Combo()->currentText() : QAccessibleWidget::text(type);
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.hasPopup = true;
+        state.expandable = true;
+        state.expanded = Combo()->view()->isVisible();
+        state.collapsed = !state.expanded;
+        state.readOnly = true;
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        return QStringList{showMenuAction(), pressAction()} + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString& name) override
+    {
+        if (name != showMenuAction() && name != pressAction())
+            QAccessibleWidget::doAction(name);
+        else if (Combo()->view()->isVisible())
+            Combo()->QComboBox::hidePopup();
+        else
+            Combo()->showPopup();
+    }
+
+private:
+    CheckComboBox* Combo() const { return static_cast<CheckComboBox*>(object()); }
 };
 
 /// The value of a colour edit is told in words. It stands in the description as well, since not
@@ -278,8 +349,14 @@ class AccessibleColorRange : public QAccessibleWidget
 {
 public:
     explicit AccessibleColorRange(ColorRangeSelection* range)
-        : QAccessibleWidget(range, QAccessible::Grouping, range->windowTitle())
+        : QAccessibleWidget(range, QAccessible::Grouping)
     {
+    }
+
+    QString text(QAccessible::Text type) const override
+    {
+        const QString own = QAccessibleWidget::text(type);
+        return type == QAccessible::Name && own.isEmpty() ? widget()->windowTitle() : own;
     }
 };
 
@@ -289,6 +366,8 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object)
         return std::make_unique<AccessibleSwitcher>(switcher).release();
     if (auto* const expander = qobject_cast<ExpanderButton*>(object))
         return std::make_unique<AccessibleExpander>(expander).release();
+    if (auto* const combo = qobject_cast<CheckComboBox*>(object))
+        return std::make_unique<AccessibleCheckCombo>(combo).release();
     if (auto* const edit = qobject_cast<ColorEdit*>(object))
         return std::make_unique<AccessibleColorEdit>(edit).release();
     if (auto* const legend = qobject_cast<ColorLegend*>(object))

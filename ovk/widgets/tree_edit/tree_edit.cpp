@@ -7,6 +7,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 
 namespace ovk {
 
@@ -63,6 +64,13 @@ void TreeEdit::CreateEditors()
         _OpenEditor(index);
         return true;
     });
+}
+
+void TreeEdit::drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const
+{
+    if (GetItem(index)->IsSection())
+        painter->fillRect(rect, palette().color(QPalette::AlternateBase));
+    QTreeView::drawBranches(painter, rect, index);
 }
 
 void TreeEdit::reset()

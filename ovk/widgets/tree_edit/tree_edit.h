@@ -41,6 +41,8 @@ protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     bool event(QEvent* event) override;
     void rowsInserted(const QModelIndex& parent, int start, int end) override;
+    /// The band of a section begins at the edge of the view.
+    void drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const override;
 
 private:
     void _OnCurrentChanged(const QModelIndex& current, const QModelIndex& previous);
