@@ -102,16 +102,12 @@ void InstallDockAccessibility()
 
 void AnnounceDockName(QWidget& panel)
 {
-    if (!QAccessible::isActive())
-        return;
     QAccessibleEvent event(&panel, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&event);
 }
 
 void AnnounceDockFolding(QWidget& panel)
 {
-    if (!QAccessible::isActive())
-        return;
     QAccessible::State changed;
     changed.expanded = true;
     changed.collapsed = true;

@@ -13,6 +13,7 @@ namespace ovk {
 namespace {
 
 constexpr int c_memory = 250; // milliseconds
+constexpr int c_misses = 3;
 
 QWidget* DeepestAt(QWidget& window, const QPoint& pos)
 {
@@ -135,19 +136,21 @@ void DockDragController::ClearPreviews()
 
 QWidget* DockDragController::FindWidget(const QPoint& pos) const
 {
-    QWidget* const widget = SearchWindows(pos);
-    if (widget) {
-        mp_found = widget;
+    if (QWidget* const widget = SearchWindows(pos)) {
+        mp_found = widget->window();
         m_found_at.start();
+        m_misses = 0;
         return widget;
     }
     // The hole that the search punches into the dragged panel takes effect when the window manager
-    // has taken note of it. Till then there seems to be nothing under the cursor.
-    const bool fresh = mp_found && mp_found->isVisible() && m_found_at.isValid() &&
-                       !m_found_at.hasExpired(c_memory);
-    if (fresh && mp_found->rect().contains(mp_found->mapFromGlobal(pos)))
-        return mp_found;
-    return nullptr;
+    // has taken note of it. Till then there seems to be nothing under the cursor: only when that
+    // goes on, nothing is there. A hand that rested before it let go asks but once.
+    ++m_misses;
+    const bool late = m_misses < c_misses || !m_found_at.hasExpired(c_memory);
+    if (!late || !mp_found || !mp_found->isVisible() ||
+        !mp_found->rect().contains(mp_found->mapFromGlobal(pos)))
+        return nullptr;
+    return DeepestAt(*mp_found, pos);
 }
 
 QWidget* DockDragController::SearchWindows(const QPoint& pos) const
@@ -188,10 +191,11 @@ IDockDragTarget* DockDragController::FindTarget(const QPoint& pos) const
 
 bool DockDragController::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == mp_widget) {
+    // A panel that is dropped stops being a window: it hides, and the focus leaves it.
+    if (watched == mp_widget && !m_dropping) {
         const QEvent::Type type = event->type();
         // Closed by its owner, its last page gone, or away with all floating panels.
-        const bool gone = type == QEvent::Hide && !event->spontaneous() && !m_dropping;
+        const bool gone = type == QEvent::Hide && !event->spontaneous();
         if (gone || type == QEvent::WindowDeactivate || type == QEvent::WindowBlocked)
             Cancel();
     }

@@ -66,8 +66,10 @@ private:
     IDockDragTarget* mp_current = nullptr;
     WidgetAt m_widget_at;
     bool m_dropping = false;
+    /// The window that was seen last under the dragged panel, and how often none was since then.
     mutable QPointer<QWidget> mp_found;
     mutable QElapsedTimer m_found_at;
+    mutable int m_misses = 0;
 };
 
 } // namespace ovk

@@ -63,6 +63,8 @@ bool DockToolboxSite::InsertWidget(int index, DockWidget* widget)
     if (mp_impl->minimized)
         mp_impl->ApplyMinimized(*widget);
     mp_impl->InvalidateSizes();
+    // A panel that comes straight from another site is visible already and will not say so.
+    _UpdateSizer();
     return true;
 }
 

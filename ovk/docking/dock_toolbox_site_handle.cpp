@@ -73,16 +73,24 @@ void DockToolboxSiteHandle::Init(DockToolboxSite* site)
 
 void DockToolboxSiteHandle::Update()
 {
+    // Asked for with each panel that comes or goes; what it looks like changes with the folding.
+    if (m_dressed_for != mp_site->IsMinimized())
+        Dress();
+    if (!mp_site->IsMinimized() && !mp_site->_pp()->HasVisibleItem())
+        hide();
+    else
+        setVisible(mp_site->count() > 1 && mp_site->IsMinimizeAvailable());
+}
+
+void DockToolboxSiteHandle::Dress()
+{
+    m_dressed_for = mp_site->IsMinimized();
     mp_button->setIcon(GetIcon());
     const SideTexts& texts = c_texts[mp_site->GetSide()];
     const QString meaning = tr(mp_site->IsMinimized() ? texts.unfold : texts.fold);
     mp_button->setToolTip(meaning);
     mp_button->setAccessibleName(meaning);
     setAccessibleName(tr(texts.name));
-    if (!mp_site->IsMinimized() && !mp_site->_pp()->HasVisibleItem())
-        hide();
-    else
-        setVisible(mp_site->count() > 1 && mp_site->IsMinimizeAvailable());
 }
 
 bool DockToolboxSiteHandle::IsSiteMinimized() const
@@ -108,8 +116,14 @@ void DockToolboxSiteHandle::mousePressEvent(QMouseEvent* event)
 
 void DockToolboxSiteHandle::mouseMoveEvent(QMouseEvent* event)
 {
-    if (event->buttons() & Qt::LeftButton)
-        mp_site->_pp()->ResizeBy(Along(*event) - m_press_pos);
+    if (!(event->buttons() & Qt::LeftButton))
+        return;
+    // The last step may not have moved the handle yet: the position is that of where it was.
+    const QPoint before = pos();
+    mp_site->_pp()->EnsureLaidOut();
+    const QPoint shift = pos() - before;
+    const int moved = mp_site->IsVertical() ? shift.x() : shift.y();
+    mp_site->_pp()->ResizeBy(Along(*event) - moved - m_press_pos);
 }
 
 void DockToolboxSiteHandle::mouseReleaseEvent(QMouseEvent* event)
@@ -124,7 +138,9 @@ void DockToolboxSiteHandle::paintEvent(QPaintEvent*)
 {
     // Nothing but the button while it rests. The button is too small for a frame of focus, so the
     // whole handle shows it.
-    const bool warm = m_pressed || underMouse() || mp_button->hasFocus();
+    const bool by_key =
+        mp_button->hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
+    const bool warm = m_pressed || underMouse() || by_key;
     if (!warm)
         return;
     QStyleOption option;
@@ -133,6 +149,14 @@ void DockToolboxSiteHandle::paintEvent(QPaintEvent*)
     option.state |= m_pressed ? QStyle::State_Sunken : QStyle::State_Raised;
     QPainter painter(this);
     style()->drawPrimitive(QStyle::PE_PanelButtonTool, &option, &painter, this);
+}
+
+void DockToolboxSiteHandle::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    const QEvent::Type type = event->type();
+    if (mp_site && (type == QEvent::StyleChange || type == QEvent::LanguageChange))
+        Dress();
 }
 
 bool DockToolboxSiteHandle::eventFilter(QObject* watched, QEvent* event)

@@ -2,6 +2,8 @@
 
 #include <QtWidgets/QWidget>
 
+#include <optional>
+
 #include <ovk/core/export.h>
 
 class QIcon;
@@ -35,6 +37,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public:
@@ -48,7 +51,10 @@ protected:
 
 private:
     int Along(const QMouseEvent& event) const;
+    /// Icon and texts.
+    void Dress();
 
+    std::optional<bool> m_dressed_for; // folded or not
     bool m_pressed = false;
     int m_press_pos = 0;
     QToolButton* mp_button;

@@ -390,4 +390,42 @@ QString DockToolboxSite::Impl::CheckConsistency() const
     return {};
 }
 
+QString DockToolboxSite::Impl::CheckLaidOut() const
+{
+    const bool vertical = site->IsVertical();
+    const QRect rect = site->geometry();
+    if (rect.isNull() || minimized || !GetArea()->isVisible())
+        return {};
+    const auto along = [vertical](const QSize& size) {
+        return vertical ? size.height() : size.width();
+    };
+    const QList<DockWidget*> panels = GetPanels();
+    const dock_space::Space space = CalcFreeSpace();
+    const bool can_fit = along(site->minimumSize()) <= along(rect.size());
+    if (vertical && can_fit && space.free < 0)
+        return QStringLiteral("more is open than there is room for");
+    // A window that is smaller than it may be squeezes everybody.
+    const bool fits = can_fit && (!vertical || space.free >= 0);
+    const auto begin = [vertical](const QRect& r) { return vertical ? r.top() : r.left(); };
+    int end = begin(rect);
+    for (const DockWidget* panel : panels) {
+        if (!panel->isVisible())
+            continue;
+        const QRect geometry = panel->geometry();
+        if (vertical && panel->IsCollapsed() &&
+            panel->height() != panel->_Impl()->GetCollapsedMin().height())
+            return panel->GetName() + QStringLiteral(" is folded and not as low as its title");
+        if (!fits)
+            continue;
+        if (along(geometry.size()) < along(panel->minimumSize()))
+            return panel->GetName() + QStringLiteral(" is smaller than it may be");
+        if (begin(geometry) < end)
+            return panel->GetName() + QStringLiteral(" lies over its neighbour");
+        end = begin(geometry) + along(geometry.size());
+    }
+    if (end > begin(rect) + along(rect.size()))
+        return QStringLiteral("the panels leave their site");
+    return {};
+}
+
 } // namespace ovk

@@ -108,6 +108,8 @@ public:
 
     /// States the rules of the site. Empty if all hold, else what is wrong.
     QString CheckConsistency() const;
+    /// States the rules of the geometry, which hold once the layout has come to rest.
+    QString CheckLaidOut() const;
 
 private:
     /// Has the area been given a size, by the screen, a layout or its owner?

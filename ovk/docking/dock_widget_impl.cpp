@@ -152,7 +152,6 @@ void DockWidget::Impl::UpdateTitle()
     title->SetTitle(text);
     // What the window manager lists while the panel floats.
     window->setWindowTitle(text);
-    tab_bar->setAccessibleName(text);
     AnnounceDockName(*window);
 }
 

@@ -189,6 +189,13 @@ void DockWindow::Impl::ResizeTo(const QPoint& pos)
         resize_start = window->geometry();
 }
 
+/// Where an event is in the window. What comes from a window system may be late: it was measured
+/// from where the window was then, and a border that is dragged would run away from the pointer.
+QPoint DockWindow::Impl::PlaceOf(const QMouseEvent& event) const
+{
+    return event.spontaneous() ? window->mapFromGlobal(event.globalPos()) : event.pos();
+}
+
 DockWindow::DockWindow(Impl* impl, QWidget* parent)
     : QFrame(parent, Qt::FramelessWindowHint | Qt::CustomizeWindowHint), mp_impl(impl)
 {
@@ -233,15 +240,15 @@ void DockWindow::mouseMoveEvent(QMouseEvent* event)
     if (!mp_impl->CanResize())
         return;
     if (event->buttons() & Qt::LeftButton)
-        mp_impl->ResizeTo(event->pos());
+        mp_impl->ResizeTo(mp_impl->PlaceOf(*event));
     else
-        mp_impl->HitTest(event->pos());
+        mp_impl->HitTest(mp_impl->PlaceOf(*event));
 }
 
 void DockWindow::mousePressEvent(QMouseEvent* event)
 {
     if ((event->buttons() & Qt::LeftButton) && mp_impl->CanResize())
-        mp_impl->StoreResizeStart(event->pos());
+        mp_impl->StoreResizeStart(mp_impl->PlaceOf(*event));
 }
 
 } // namespace ovk

@@ -50,6 +50,7 @@ public:
     void LayoutTitle();
     /// Ends a drag of which the release was lost. Nothing while none is under way.
     void AbortDrag();
+    QPoint PlaceOf(const QMouseEvent& event) const;
     void HitTest(const QPoint& pos);
     void ResizeTo(const QPoint& pos);
     void StoreResizeStart(const QPoint& pos);

@@ -124,12 +124,13 @@ void UiStateDockToolboxSite::_Activate(ActivationMode mode)
         const QPointer<DockWidget> panel = child->Materialize();
         if (!panel)
             continue;
+        child->GivePlace(*panel);
         if (before_spacer)
             site->AddWidget(panel);
         else
             site->InsertWidget(-1, panel);
         if (panel)
-            panel->setVisible(child->IsVisible());
+            child->ShowAsStored(*panel);
     }
     site->setEnabled(true);
 }

@@ -211,7 +211,7 @@ DockWidget* UiStateDockWidget::Materialize()
     mp_widget = manager->CreateDockWidget();
     DockWidget& panel = *mp_widget;
     panel.setVisible(false);
-    panel.SetName(GetName());
+    panel.SetName(GetName().isEmpty() ? manager->_Impl()->UniqueName() : GetName());
     panel.SetDeleteOnClose(false);
     panel.SetDeleteOnEmpty(!IsPersistent());
     panel.SetOwnWidgets(false);
@@ -225,6 +225,22 @@ DockWidget* UiStateDockWidget::Materialize()
     panel.SetMovable(m_movable);
     _AddPages(panel);
     return mp_widget;
+}
+
+void UiStateDockWidget::GivePlace(DockWidget& panel) const
+{
+    // In a folded site a panel has no width, but a place.
+    const QSize size = m_geometry.size();
+    if (!size.isNull() && size.width() >= 0 && size.height() >= 0)
+        panel.setGeometry(QRect(m_geometry.topLeft(), FitToScreen(size)));
+}
+
+void UiStateDockWidget::ShowAsStored(DockWidget& panel) const
+{
+    const QPointer<DockWidget> guard(&panel);
+    panel.setVisible(IsVisible());
+    if (guard && panel.GetCount(DockWidget::Visible) == 0)
+        panel.QWidget::setVisible(false);
 }
 
 void UiStateDockWidget::_AddPages(DockWidget& panel)
@@ -267,12 +283,15 @@ void UiStateDockWidget::_Activate(ActivationMode)
         panel->resize(size);
         // A page that is used again must not bring the size that it had in another layout.
         IDockPage* const page = panel->GetCurrentPage();
+        const QSize open = page ? page->GetPrefferedSize() : QSize();
         if (page && !m_minimized)
             page->SetPrefferedSize(size);
+        else if (page && open.isValid())
+            page->SetPrefferedSize({size.width(), open.height()}); // how high it opens is not stored
     }
     panel->SetFloated(m_geometry.topLeft());
     if (panel)
-        panel->setVisible(IsVisible());
+        ShowAsStored(*panel);
 }
 
 } // namespace ovk

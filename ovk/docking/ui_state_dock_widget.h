@@ -50,6 +50,14 @@ public:
     /// dock manager. The panel belongs to the manager.
     DockWidget* Materialize();
 
+    /// Puts a panel where it was. A site that lays it out anew has the last word; a hidden panel
+    /// keeps what it had.
+    void GivePlace(DockWidget& panel) const;
+
+    /// Shows or hides a panel that was made. One whose pages the user has all hidden comes with the
+    /// first of them.
+    void ShowAsStored(DockWidget& panel) const;
+
     /// The live panel, null if there is none.
     DockWidget* GetWidget() const { return mp_widget; }
 

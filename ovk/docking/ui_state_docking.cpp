@@ -226,10 +226,26 @@ void UiStateDocking::_Deactivate(ActivationMode mode)
 
 void UiStateDocking::_Store()
 {
-    if (GetChildCount() == 0) {
-        AppendChild(new UiStateAreas);
-        AppendChild(new UiStateFloated);
+    // One of each, in this order, whatever a file brought: a second one would store all panels once
+    // more, and without one they would be lost.
+    UiStateAreas* areas = nullptr;
+    UiStateFloated* floated = nullptr;
+    for (int i = 0; i < GetChildCount();) {
+        UiProfileItem* const child = GetItem(i);
+        auto* const found_areas = dynamic_cast<UiStateAreas*>(child);
+        auto* const found_floated = dynamic_cast<UiStateFloated*>(child);
+        if ((found_areas && areas) || (found_floated && floated)) {
+            DeleteItem(i);
+            continue;
+        }
+        areas = found_areas ? found_areas : areas;
+        floated = found_floated ? found_floated : floated;
+        ++i;
     }
+    if (!areas)
+        InsertChild(0, new UiStateAreas);
+    if (!floated)
+        AppendChild(new UiStateFloated);
     TUiState::_Store();
 }
 

@@ -2,7 +2,6 @@
 #include "tests/support/test_main.h"
 
 #include <QElapsedTimer>
-#include <QRandomGenerator>
 
 using namespace ovk;
 using namespace ovk_test;
@@ -20,8 +19,6 @@ private Q_SLOTS:
     void restoringACopyLeavesThePanels();
     void aSwitchFromInsideAPageIsSafe();
     void aFoldedSiteIsRestored();
-    void randomArrangementsComeBackEqual_data();
-    void randomArrangementsComeBackEqual();
     void aHundredPanelsAreRestoredAtOnce();
 };
 
@@ -163,57 +160,6 @@ void DockStateRestoreTest::aFoldedSiteIsRestored()
     host.Site(DockLayout::Right).SetMinimized(false);
     DockFixture::Settle();
     QCOMPARE(host.Site(DockLayout::Right).geometry().width(), 140);
-}
-
-void DockStateRestoreTest::randomArrangementsComeBackEqual_data()
-{
-    QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= 8; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-}
-
-void DockStateRestoreTest::randomArrangementsComeBackEqual()
-{
-    QFETCH(quint32, seed);
-    QRandomGenerator random(seed);
-    DockHost host;
-    int counter = 0;
-    const auto panel = [&](const QRect& rect) {
-        QStringList pages;
-        for (int i = 1 + random.bounded(3); i > 0; --i)
-            pages.append(QStringLiteral("page%1").arg(++counter));
-        QJsonObject json = Panel(QStringLiteral("panel%1").arg(++counter), pages, rect);
-        if (random.bounded(3) == 0)
-            json.insert("movable", false);
-        if (random.bounded(3) == 0)
-            json.insert("minimized", true);
-        if (random.bounded(4) == 0)
-            json.insert("visible", false);
-        if (random.bounded(4) == 0)
-            json.insert("persistence", 4);
-        return json;
-    };
-    QMap<QString, QJsonArray> docked;
-    for (const char* side : {"left", "right", "top", "bottom"}) {
-        QJsonArray panels;
-        for (int i = random.bounded(3); i > 0; --i)
-            panels.append(panel({}));
-        panels.append(c_spacer);
-        for (int i = random.bounded(3); i > 0; --i)
-            panels.append(panel({}));
-        docked.insert(QString::fromLatin1(side), panels);
-    }
-    QJsonArray floated;
-    for (int i = random.bounded(4); i > 0; --i)
-        floated.append(panel(QRect(random.bounded(400), random.bounded(300),
-                                   200 + random.bounded(200), 200 + random.bounded(200))));
-    host.Load(Docking(docked, floated, 120 + random.bounded(60)));
-    const QByteArray first = Text(host.Captured());
-    for (int i = 0; i < 3; ++i) {
-        host.Load(host.Captured());
-        QCOMPARE(Text(host.Captured()), first);
-    }
-    QCOMPARE(host.Manager()._Impl()->CheckConsistency(), QString());
 }
 
 void DockStateRestoreTest::aHundredPanelsAreRestoredAtOnce()

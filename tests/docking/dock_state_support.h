@@ -144,4 +144,17 @@ inline QByteArray Text(const QJsonObject& object)
     return QJsonDocument(object).toJson(QJsonDocument::Indented);
 }
 
+/// The first line in which two texts differ; empty if they are equal.
+inline QString Difference(const QByteArray& actual, const QByteArray& expected)
+{
+    const QList<QByteArray> left = actual.split('\n');
+    const QList<QByteArray> right = expected.split('\n');
+    for (int i = 0; i < qMin(left.size(), right.size()); ++i) {
+        if (left.at(i) != right.at(i))
+            return QString::fromUtf8(left.at(i).trimmed() + " instead of " +
+                                     right.at(i).trimmed());
+    }
+    return left.size() == right.size() ? QString() : QStringLiteral("one is longer");
+}
+
 } // namespace ovk_test

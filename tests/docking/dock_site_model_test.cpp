@@ -2,6 +2,7 @@
 #include "tests/support/test_main.h"
 
 #include <QRandomGenerator>
+#include <QSet>
 
 using namespace ovk;
 using ovk_test::DockFixture;
@@ -19,6 +20,7 @@ public:
     void Step()
     {
         m_what.clear();
+        mp_touched = nullptr;
         switch (m_random.bounded(14)) {
         case 0:
         case 1:
@@ -65,6 +67,9 @@ public:
         DockFixture::Settle();
     }
 
+    /// Lets the layout come to rest.
+    void Rest() { DockFixture::Settle(); }
+
     /// Empty if all is as it should be.
     QString Check()
     {
@@ -85,10 +90,56 @@ public:
         return {};
     }
 
+    /// Folding by hand and for want of room are told apart: what the user folded nobody opens, and
+    /// what the user left open only folds because it must.
+    QString CheckFolding()
+    {
+        for (DockWidget* panel : qAsConst(m_panels)) {
+            const bool by_hand = panel->IsCollapsed() && !panel->IsForcedCollapsed();
+            const bool for_room = panel->_Impl()->folded_for_room;
+            if (panel != mp_touched) {
+                if (m_by_hand.contains(panel) && !by_hand)
+                    return panel->GetName() + QStringLiteral(", folded by hand, opened");
+                if (!m_by_hand.contains(panel) && by_hand && !for_room)
+                    return panel->GetName() + QStringLiteral(" folded and nobody did it");
+            }
+            if (by_hand)
+                m_by_hand.insert(panel);
+            else
+                m_by_hand.remove(panel);
+        }
+        return {};
+    }
+
+    /// A site that cannot make the room that it is asked for leaves everything as it is.
+    QString CheckRefusal()
+    {
+        DockToolboxSite::Impl& site = *m_fixture.Site(DockLayout::Side(m_random.bounded(4)))->_pp();
+        const QList<DockWidget*> panels = site.GetPanels();
+        DockWidget* const exclude =
+            panels.isEmpty() ? nullptr : panels.at(m_random.bounded(panels.size()));
+        const auto folded = [&panels] {
+            QList<bool> result;
+            for (const DockWidget* panel : panels)
+                result << panel->IsCollapsed() << panel->IsForcedCollapsed();
+            return result;
+        };
+        const QList<bool> before = folded();
+        const int needed = m_random.bounded(1500);
+        if (!site.EnsureSpace(exclude, needed) && folded() != before)
+            return QStringLiteral("a refusal of %1 folded somebody").arg(needed);
+        return {};
+    }
+
     /// What holds once the layout has come to rest: nobody is squeezed below his least size while
     /// he could fold, and folded panels are as low as their titles.
     QString CheckSettled()
     {
+        for (int side = 0; side < 4; ++side) {
+            const QString error = m_fixture.Site(DockLayout::Side(side))->_pp()->CheckLaidOut();
+            if (!error.isEmpty())
+                return QStringLiteral("side %1: %2").arg(side).arg(error);
+        }
         for (const DockLayout::Side side : {DockLayout::Left, DockLayout::Right}) {
             DockToolboxSite* const site = m_fixture.Site(side);
             const dock_space::Panels panels =
@@ -118,6 +169,7 @@ private:
 
     void Forget(DockWidget* panel)
     {
+        mp_touched = panel;
         for (QStringList& order : m_order)
             order.removeAll(panel->GetName());
         m_floating.removeAll(panel->GetName());
@@ -171,6 +223,7 @@ private:
         m_what = QStringLiteral("delete %1").arg(panel->GetName());
         Forget(panel);
         m_panels.removeAll(panel);
+        m_by_hand.remove(panel);
         delete panel;
     }
 
@@ -180,6 +233,7 @@ private:
         if (!panel)
             return;
         m_what = QStringLiteral("fold %1").arg(panel->GetName());
+        mp_touched = panel;
         panel->SetCollapsed(!panel->IsCollapsed(), false);
     }
 
@@ -232,121 +286,50 @@ private:
     QStringList m_floating;
     int m_counter = 0;
     QString m_what;
+    DockWidget* mp_touched = nullptr;
+    QSet<DockWidget*> m_by_hand;
 };
 
 } // namespace
 
-class DockModelTest : public QObject
+class DockSiteModelTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void panelsStayWhereTheyWerePut_data();
     void panelsStayWhereTheyWerePut();
-    void dragsEndClean_data();
-    void dragsEndClean();
 };
 
-void DockModelTest::panelsStayWhereTheyWerePut_data()
+void DockSiteModelTest::panelsStayWhereTheyWerePut_data()
 {
     QTest::addColumn<quint32>("seed");
     for (const quint32 seed : {1u, 2u, 3u, 77u, 20260301u})
         QTest::addRow("seed %u", seed) << seed;
 }
 
-void DockModelTest::panelsStayWhereTheyWerePut()
+void DockSiteModelTest::panelsStayWhereTheyWerePut()
 {
     QFETCH(quint32, seed);
     SiteModel model(seed);
     for (int step = 0; step < 800; ++step) {
         model.Step();
-        const QString error = model.Check();
+        QString error = model.Check();
+        if (error.isEmpty())
+            error = model.CheckFolding();
+        if (error.isEmpty() && step % 3 == 0) {
+            model.Rest();
+            error = model.CheckSettled();
+        }
+        if (error.isEmpty())
+            error = model.CheckFolding();
+        if (error.isEmpty())
+            error = model.CheckRefusal();
         QVERIFY2(error.isEmpty(),
                  qPrintable(QStringLiteral("step %1, %2: %3").arg(step).arg(model.What(), error)));
-        if (step % 25 != 24)
-            continue;
-        model.Settle();
-        const QString settled = model.CheckSettled();
-        QVERIFY2(settled.isEmpty(),
-                 qPrintable(QStringLiteral("step %1: %2").arg(step).arg(settled)));
     }
 }
 
-void DockModelTest::dragsEndClean_data()
-{
-    panelsStayWhereTheyWerePut_data();
-}
+OVK_TEST_CLASS(DockSiteModelTest)
 
-void DockModelTest::dragsEndClean()
-{
-    QFETCH(quint32, seed);
-    QRandomGenerator random(seed);
-    DockFixture fixture;
-    DockDragController& controller = *fixture.manager->_Impl()->controller;
-    QList<QPointer<DockWidget>> panels;
-    for (int i = 0; i < 6; ++i) {
-        panels.append(fixture.Panel(QStringLiteral("p%1").arg(i),
-                                    QSize(80 + random.bounded(100), 70 + random.bounded(120))));
-        fixture.Site(DockLayout::Side(i % 4))->AddWidget(panels.last());
-    }
-    DockFixture::Settle();
-    int pages = 6;
-    for (int round = 0; round < 60; ++round) {
-        DockSettings::Animated().SetData(random.bounded(4) == 0);
-        panels.erase(std::remove_if(panels.begin(), panels.end(),
-                                    [](const QPointer<DockWidget>& p) { return p.isNull(); }),
-                     panels.end());
-        QVERIFY(!panels.isEmpty());
-        const QPointer<DockWidget> dragged = panels.at(random.bounded(panels.size()));
-        if (!dragged->IsVisible())
-            continue;
-        dragged->SetFloated(QPoint(random.bounded(600), random.bounded(500)));
-        controller.Begin(*dragged, QPoint(0, 0));
-        const int steps = 1 + random.bounded(12);
-        for (int i = 0; i < steps; ++i) {
-            const QPoint pos(random.bounded(820) - 10, random.bounded(620) - 10);
-            controller.Update(pos);
-            if (random.bounded(2))
-                DockFixture::Settle();
-            const QString error = fixture.Inconsistency();
-            QVERIFY2(error.isEmpty(),
-                     qPrintable(QStringLiteral("round %1: %2").arg(round).arg(error)));
-        }
-        switch (random.bounded(8)) {
-        case 0:
-            controller.Cancel();
-            break;
-        case 1:
-            delete panels.takeAt(random.bounded(panels.size()));
-            controller.Cancel();
-            pages = -1; // counted anew below
-            break;
-        default:
-            controller.End(QPoint(random.bounded(820) - 10, random.bounded(620) - 10));
-            break;
-        }
-        DockFixture::Settle();
-        QVERIFY(!controller.IsDragging());
-        const QString error = fixture.Inconsistency();
-        QVERIFY2(error.isEmpty(), qPrintable(QStringLiteral("round %1: %2").arg(round).arg(error)));
-        // No page is lost and none is in two panels.
-        int count = 0;
-        for (const DockWidget* panel : fixture.manager->GetWidgetsList()) {
-            count += panel->GetCount(DockWidget::All);
-            QVERIFY(!panel->_Impl()->overlay);
-        }
-        if (pages >= 0)
-            QCOMPARE(count, pages);
-        pages = count;
-        if (panels.size() < 4) {
-            panels.append(fixture.Panel(QStringLiteral("n%1").arg(round)));
-            fixture.Left()->AddWidget(panels.last());
-            ++pages;
-        }
-        DockFixture::Settle();
-    }
-}
-
-OVK_TEST_CLASS(DockModelTest)
-
-#include "dock_model_test.moc"
+#include "dock_site_model_test.moc"
