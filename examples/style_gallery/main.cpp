@@ -43,7 +43,7 @@ int TakeAllPictures(const QVector<PictureSet>& sets, const QString& themes, cons
         process->setProcessChannelMode(QProcess::ForwardedChannels);
         process->setProcessEnvironment(Surroundings(set.scale, set.dpi));
         QStringList arguments{QStringLiteral("--pictures=") + folder.path(),
-                              QStringLiteral("--set=") + set.folder};
+                              QStringLiteral("--set=") + set.folder, QStringLiteral("--here")};
         if (!themes.isEmpty())
             arguments.append(QStringLiteral("--themes=") + themes);
         process->start(QCoreApplication::applicationFilePath(), arguments);
@@ -107,6 +107,10 @@ int main(int argc, char** argv)
                       QStringLiteral("name")});
     parser.addOption(
         {QStringLiteral("list"), QStringLiteral("Prints the names of the pictures and leaves.")});
+    // How the program calls itself, with the scale of the set.
+    QCommandLineOption here(QStringLiteral("here"));
+    here.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(here);
     parser.process(application);
 
     const QString themes = parser.value(QStringLiteral("themes"));
@@ -133,8 +137,8 @@ int main(int argc, char** argv)
         }
         if (sets.isEmpty())
             return 1;
-        return only.isEmpty() ? TakeAllPictures(sets, themes, folder)
-                              : TakeSet(sets.first(), folder);
+        return parser.isSet(here) ? TakeSet(sets.first(), folder)
+                                  : TakeAllPictures(sets, themes, folder);
     }
     return RunWindow(Look::Read(parser));
 }

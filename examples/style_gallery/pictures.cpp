@@ -3,6 +3,7 @@
 #include "viewer_window.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QMenu>
@@ -33,13 +34,19 @@ void Settle(int milliseconds = 30)
     } while (clock.elapsed() < milliseconds);
 }
 
+/// A dialog with its frame.
+QRect FrameOf(const QRect& dialog)
+{
+    return dialog.adjusted(-1, -QFontMetrics(QApplication::font()).height() - 14, 1, 1);
+}
+
 /// A plain frame around a dialog, in the place of the one that its window system gives it.
 void DrawFrame(QPainter& painter, const QRect& place, const QString& title)
 {
     const QPalette palette = QApplication::palette();
-    const int height = QFontMetrics(QApplication::font()).height() + 14;
-    const QRect caption(place.left() - 1, place.top() - height, place.width() + 2, height);
-    painter.fillRect(caption | place.adjusted(-1, 0, 1, 1), palette.color(QPalette::Mid));
+    const QRect frame = FrameOf(place);
+    const QRect caption(frame.left(), frame.top(), frame.width(), place.top() - frame.top());
+    painter.fillRect(frame, palette.color(QPalette::Mid));
     painter.fillRect(caption.adjusted(1, 1, -1, 0), palette.color(QPalette::Base));
     painter.setPen(palette.color(QPalette::Text));
     painter.setFont(QApplication::font());
@@ -55,7 +62,7 @@ QPixmap Shot(QWidget& main)
         if (window == &main || !window->isVisible() || window->width() < 4)
             continue;
         windows.append(window);
-        area |= window->geometry();
+        area |= qobject_cast<QDialog*>(window) ? FrameOf(window->geometry()) : window->geometry();
     }
     const qreal ratio = main.devicePixelRatioF();
     QPixmap picture(area.size() * ratio);
@@ -114,7 +121,9 @@ void ShowToolTip(ViewerWindow& window)
             QToolButton* button = group->buttonForAction(action);
             if (!button || action->text() != QLatin1String("Cut"))
                 continue;
-            RibbonToolTip::showToolTip(button->mapToGlobal(QPoint(4, button->height() + 8)),
+            const int below = window.ribbonBar()->height() + 4;
+            RibbonToolTip::showToolTip(QPoint(button->mapToGlobal(QPoint(4, 0)).x(),
+                                              window.mapToGlobal(QPoint(0, below)).y()),
                                        QStringLiteral("Cut (Ctrl+X)"), action->toolTip(),
                                        action->icon(), button);
         }
@@ -189,7 +198,7 @@ const std::vector<Scene>& Scenes()
          {}},
         {"states",
          "Buttons of the ribbon and all controls in all states",
-         {1380, 1120},
+         {1500, 1180},
          true,
          [](W& w) {
              w.ShowPage(W::tr("Button states"));
@@ -353,6 +362,12 @@ QStringList PictureNames(const PictureSet& set)
 bool TakePictures(ViewerWindow& window, const PictureSet& set, const QDir& folder)
 {
     const QString home = window.ribbonBar()->getPage(0)->title();
+    // No pointer over the pictures, and the window in its best colours.
+    QCursor::setPos(QApplication::primaryScreen()->geometry().bottomRight());
+    window.activateWindow();
+    QApplication::setActiveWindow(&window);
+    for (int i = 0; i < 50 && !window.isActiveWindow(); ++i)
+        Settle(20);
     // At a higher resolution the same window holds more dots.
     const qreal grown = set.dpi / 96.0;
     bool good = true;

@@ -248,6 +248,7 @@ void DrawItem(const Cell& cell)
     option.features = QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration;
     option.showDecorationSelected = true;
     option.displayAlignment = Qt::AlignVCenter | Qt::AlignLeading;
+    option.decorationAlignment = Qt::AlignCenter;
     option.viewItemPosition = QStyleOptionViewItem::OnlyOne;
     if (option.state & (S::State_On | S::State_Sunken))
         option.state |= S::State_Selected;
@@ -365,7 +366,7 @@ int StateSheet::RowHeight() const
 
 int StateSheet::ColumnWidth() const
 {
-    return std::max(fontMetrics().horizontalAdvance(QStringLiteral("Disabled, checked")) + 8, 108);
+    return std::max(fontMetrics().horizontalAdvance(QStringLiteral("Disabled, checked")) + 14, 108);
 }
 
 int StateSheet::HeadWidth() const

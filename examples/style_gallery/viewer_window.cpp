@@ -103,6 +103,8 @@ void ViewerWindow::FloatPanel(bool on)
 void ViewerWindow::ShowSheet(Sheet sheet)
 {
     m_sheets->setCurrentIndex(sheet);
+    // Or the focus of the former sheet would go to whatever comes next.
+    m_sheets->setFocus();
 }
 
 void ViewerWindow::ShowPage(const QString& title)

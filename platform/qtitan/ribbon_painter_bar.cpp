@@ -86,16 +86,17 @@ ThemeLook TabLook(const RibbonPaintOption& option)
                                      : Element::TabStrip;
     if (!option.contextColor.isValid())
         return theme[element];
-    const bool flat = theme.family() == Family::Office2013;
-    ThemeLook look = theme.tinted(element, option.contextColor, selected ? flat ? 0.0 : 0.12
-                                                                : hover  ? 0.30
-                                                                         : 0.20);
-    if (flat) {
-        // The flat themes write the colour instead of wearing it.
-        look.text = DrawHelpers::legible(option.contextColor, look.grounds(), RibbonTheme::TextContrast);
-        if (selected)
-            look.border = theme[element].border;
-    }
+    if (theme.isHighContrast())
+        return theme[element];
+    if (theme.family() != Family::Office2013)
+        return theme.tinted(element, option.contextColor, selected ? 0.12 : hover ? 0.30 : 0.20);
+    // The flat themes write the colour instead of wearing it.
+    ThemeLook look = theme.tinted(element, option.contextColor, selected ? 0.0 : hover ? 0.14 : 0.0);
+    if (!selected && !hover)
+        look.top = look.middle = look.bottom = QColor(0, 0, 0, 0);
+    const ThemeLook& ground = look.isTransparent() ? theme[Element::TabStrip] : look;
+    look.text = DrawHelpers::legible(option.contextColor, ground.grounds(), RibbonTheme::TextContrast);
+    look.border = selected ? theme[element].border : QColor(0, 0, 0, 0);
     return look;
 }
 
@@ -108,10 +109,22 @@ void DrawTabGround(QPainter& painter, const RibbonPaintOption& option, const The
     const bool context = option.contextColor.isValid();
     if (!selected && !context && (!hover || option.has(RibbonState::Disabled) || look.isTransparent()))
         return;
-    // A tab that is not selected stands on the line of the page, the selected one opens it.
-    const QRect rect = selected ? option.rect : option.rect.adjusted(0, Px(option, 1), 0, -1);
-    if (!selected && context && !hover) {
-        painter.fillRect(rect, SurfaceBrush(look, rect));
+    // A tab that is not selected stands on the line of the page, the selected one opens it. One of a
+    // context hangs together with the title above it.
+    const QRect rect = selected ? option.rect : option.rect.adjusted(0, context ? -1 : Px(option, 1), 0, -1);
+    if (!selected && context) {
+        // The colour comes from above and fades towards the page.
+        if (!look.isTransparent()) {
+            const ThemeLook& strip = theme[Element::TabStrip];
+            QLinearGradient fade(rect.topLeft(), QPointF(rect.left(), rect.bottom() + 1));
+            fade.setColorAt(0.0, look.top);
+            fade.setColorAt(1.0, radius > 0 ? DrawHelpers::mix(look.bottom, strip.bottom, 0.35) : look.bottom);
+            painter.fillRect(rect, fade);
+        }
+        if (radius > 0 && look.border.alpha()) {
+            painter.fillRect(rect.left(), rect.top(), 1, rect.height(), look.border);
+            painter.fillRect(rect.right(), rect.top(), 1, rect.height(), look.border);
+        }
     } else {
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing, radius > 0);
@@ -131,9 +144,6 @@ void DrawTabGround(QPainter& painter, const RibbonPaintOption& option, const The
         }
         painter.restore();
     }
-    if (context && !theme.isHighContrast())
-        painter.fillRect(rect.left() + (selected ? 1 : 0), rect.top() + (selected && radius ? 1 : 0),
-                         rect.width() - (selected ? 2 : 0), Px(option, 2), option.contextColor);
 }
 
 } // namespace
@@ -218,13 +228,16 @@ void RibbonPainter::drawTabSeparator(QPainter& painter, const RibbonPaintOption&
 void RibbonPainter::drawContextTitle(QPainter& painter, const RibbonPaintOption& option)
 {
     const RibbonTheme& theme = RibbonTheme::current();
-    const ThemeLook look = theme.tinted(Element::Caption, option.contextColor, 0.3);
+    const bool flat = theme.family() == Family::Office2013;
+    const ThemeLook look = theme.tinted(Element::Caption, option.contextColor, flat ? 0.14 : 0.3);
     painter.save();
     FillSurface(painter, option.rect, look);
     const QColor color = option.contextColor.isValid() ? option.contextColor : look.border;
-    painter.fillRect(option.rect.left(), option.rect.top(), option.rect.width(), Px(option, 3), color);
-    painter.fillRect(option.rect.left(), option.rect.top(), 1, option.rect.height(), look.border);
-    painter.fillRect(option.rect.right(), option.rect.top(), 1, option.rect.height(), look.border);
+    painter.fillRect(option.rect.left(), option.rect.top(), option.rect.width(), Px(option, flat ? 4 : 3), color);
+    if (!flat) {
+        painter.fillRect(option.rect.left(), option.rect.top(), 1, option.rect.height(), look.border);
+        painter.fillRect(option.rect.right(), option.rect.top(), 1, option.rect.height(), look.border);
+    }
     DrawLine(painter, option.rect.adjusted(Px(option, 6), Px(option, 3), -Px(option, 6), 0),
              Qt::AlignCenter, option.text, look.text, option);
     painter.restore();
@@ -284,8 +297,12 @@ void RibbonPainter::drawSystemButton(QPainter& painter, const RibbonPaintOption&
     painter.setRenderHint(QPainter::Antialiasing, theme.cornerRadius() > 0);
     painter.setBrush(ButtonBrush(look, option.rect));
     painter.setPen(look.border.alpha() ? QPen(look.border, 1) : QPen(Qt::NoPen));
-    const QRectF outline = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    // The word stands on the line of the tabs' titles.
+    const int lowered = text ? Px(option, 2) : 0;
+    QRectF outline = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
     if (theme.family() == Family::Office2007) {
+        if (text)
+            outline.adjust(0, lowered, 0, 0);
         // A drop of glass: round for an icon alone, a pill for text.
         const qreal radius = text ? theme.cornerRadius() + 1 : outline.height() / 2;
         QRectF round = outline;
@@ -302,7 +319,7 @@ void RibbonPainter::drawSystemButton(QPainter& painter, const RibbonPaintOption&
     } else {
         painter.fillRect(option.rect, look.middle);
     }
-    QRect content = option.rect;
+    QRect content = option.rect.adjusted(0, 2 * lowered, 0, 0);
     if (!option.icon.isNull()) {
         QRect icon(QPoint(), option.iconSize);
         icon.moveCenter(content.center());

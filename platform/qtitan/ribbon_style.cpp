@@ -6,6 +6,8 @@
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -84,6 +86,17 @@ QWidget* HoverTarget(QWidget* widget)
         || qobject_cast<QTextEdit*>(widget) || qobject_cast<QPlainTextEdit*>(widget))
         return widget;
     return nullptr;
+}
+
+/// The docking library's titles, which stand on a strip of their own.
+bool IsDockTitle(const QObject* object)
+{
+    return object->inherits("ovk::DockTitle");
+}
+
+void ColorDockTitle(QWidget& title, const RibbonTheme& theme)
+{
+    title.setPalette(style_draw::TextPalette(title.palette(), QPalette::WindowText, theme[Element::DockTitle]));
 }
 
 } // namespace
@@ -172,6 +185,9 @@ QSize RibbonStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
 QRect RibbonStyle::subElementRect(SubElement element, const QStyleOption* option,
                                   const QWidget* widget) const
 {
+    const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    if (header && (element == SE_HeaderArrow || element == SE_HeaderLabel))
+        return style_draw::HeaderRect(*header, element, this, widget);
     return OfficeStyle::subElementRect(element, option, widget);
 }
 
@@ -260,16 +276,30 @@ void RibbonStyle::polish(QWidget* widget)
     OfficeStyle::polish(widget);
     if (QWidget* target = HoverTarget(widget))
         target->setAttribute(Qt::WA_Hover, true);
-    if (widget->inherits("ovk::DockTitle"))
-        widget->setPalette(style_draw::TextPalette(
-            widget->palette(), QPalette::WindowText, ribbonTheme()[Element::DockTitle]));
+    if (IsDockTitle(widget))
+        ColorDockTitle(*widget, ribbonTheme());
+    if (qobject_cast<QTabBar*>(widget) || IsDockTitle(widget))
+        widget->installEventFilter(this);
 }
 
 void RibbonStyle::unpolish(QWidget* widget)
 {
     if (QWidget* target = HoverTarget(widget))
         target->setAttribute(Qt::WA_Hover, false);
+    if (qobject_cast<QTabBar*>(widget) || IsDockTitle(widget))
+        widget->removeEventFilter(this);
     OfficeStyle::unpolish(widget);
+}
+
+bool RibbonStyle::eventFilter(QObject* watched, QEvent* event)
+{
+    // A tab bar hears of the direction, but leaves its close buttons where they were.
+    if (event->type() == QEvent::LayoutDirectionChange && qobject_cast<QTabBar*>(watched))
+        QCoreApplication::postEvent(watched, new QEvent(QEvent::StyleChange));
+    // A theme came: the colour that a title was given is that of the former one.
+    if (event->type() == QEvent::StyleChange && IsDockTitle(watched))
+        ColorDockTitle(*static_cast<QWidget*>(watched), ribbonTheme());
+    return OfficeStyle::eventFilter(watched, event);
 }
 
 } // namespace Qtitan

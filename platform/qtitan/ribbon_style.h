@@ -39,6 +39,9 @@ public:
     void unpolish(QWidget* widget) override;
     using OfficeStyle::polish;
     using OfficeStyle::unpolish;
+
+    /// Lets tab bars lay out their buttons anew when their direction changes.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 } // namespace Qtitan

@@ -195,22 +195,106 @@ bool DrawButtonPrimitive(QStyle::PrimitiveElement element, const Canvas& canvas)
     }
 }
 
+namespace {
+
+/// The focus of something that is pressed, inside its border, once the keyboard has been used.
+void DrawButtonFocus(const Canvas& canvas, const QRect& rect, const QColor& ground)
+{
+    if (!canvas.has(QStyle::State_HasFocus) || !canvas.has(QStyle::State_KeyboardFocusChange))
+        return;
+    QStyleOptionFocusRect focus;
+    focus.QStyleOption::operator=(*canvas.option);
+    const int inset = Px(canvas.widget, 2) + 1;
+    focus.rect = rect.adjusted(inset, inset, -inset, -inset);
+    focus.backgroundColor = ground;
+    canvas.style->proxy()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, canvas.painter, canvas.widget);
+}
+
+/// Icon and text in the middle as one, the arrow of a menu at the end.
+void DrawPushButtonLabel(const Canvas& canvas, const QStyleOptionButton& button)
+{
+    QPainter& painter = *canvas.painter;
+    const bool flat = (button.features & QStyleOptionButton::Flat) && !canvas.hovered()
+                      && !canvas.has(QStyle::State_Sunken) && !canvas.has(QStyle::State_On);
+    QPalette palette = button.palette;
+    if (!flat && !HasOwnColor(canvas))
+        palette = TextPalette(palette, QPalette::ButtonText, ButtonLook(canvas));
+    const QColor ink = palette.color(canvas.enabled() ? QPalette::Active : QPalette::Disabled,
+                                     QPalette::ButtonText);
+    const auto visual = [&](const QRect& rect) {
+        return QStyle::visualRect(button.direction, button.rect, rect);
+    };
+    QRect content = button.rect;
+    if (button.features & QStyleOptionButton::HasMenu) {
+        const int space = Px(canvas.widget, 14);
+        const QRect arrow(content.right() + 1 - space, content.top(), space, content.height());
+        DrawHelpers::drawArrow(painter, visual(arrow), Qt::DownArrow, ink, Px(canvas.widget, 7));
+        content.setRight(arrow.left() - 1);
+    }
+    const bool underline = canvas.style->proxy()->styleHint(QStyle::SH_UnderlineShortcut, &button, canvas.widget);
+    const int flags = Qt::AlignVCenter | (underline ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
+    if (button.icon.isNull()) {
+        canvas.style->proxy()->drawItemText(&painter, visual(content), flags | Qt::AlignHCenter, palette,
+                                            canvas.enabled(), button.text, QPalette::ButtonText);
+        return;
+    }
+    const int gap = button.text.isEmpty() ? 0 : Px(canvas.widget, 5);
+    const int text = button.fontMetrics.size(Qt::TextShowMnemonic, button.text).width();
+    const QSize size = button.iconSize.boundedTo(content.size());
+    const int whole = std::min(content.width(), size.width() + gap + text);
+    QRect icon(QPoint(content.left() + (content.width() - whole) / 2,
+                      content.top() + (content.height() - size.height()) / 2),
+               size);
+    const QRect words(icon.right() + 1 + gap, content.top(),
+                      std::max(0, content.left() + (content.width() - whole) / 2 + whole - icon.right() - 1 - gap),
+                      content.height());
+    DrawHelpers::drawIcon(painter, visual(icon), button.icon, size,
+                          !canvas.enabled()  ? QIcon::Disabled
+                          : canvas.hovered() ? QIcon::Active
+                                             : QIcon::Normal,
+                          canvas.has(QStyle::State_On) ? QIcon::On : QIcon::Off, ink);
+    canvas.style->proxy()->drawItemText(&painter, visual(words), flags | Qt::AlignHCenter, palette,
+                                        canvas.enabled(), button.text, QPalette::ButtonText);
+}
+
+} // namespace
+
 bool DrawButtonControl(QStyle::ControlElement element, const Canvas& canvas)
 {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(canvas.option);
-    if (!button || element != QStyle::CE_PushButtonLabel)
+    if (!button)
         return false;
-    QStyleOptionButton label = *button;
-    const bool flat = (button->features & QStyleOptionButton::Flat) && !canvas.hovered()
-                      && !canvas.has(QStyle::State_Sunken) && !canvas.has(QStyle::State_On);
-    if (!flat && !HasOwnColor(canvas))
-        label.palette = TextPalette(label.palette, QPalette::ButtonText, ButtonLook(canvas));
-    if (!label.icon.isNull())
-        label.icon = DrawHelpers::visibleIcon(label.icon, label.iconSize,
-                                              canvas.painter->device()->devicePixelRatioF(),
-                                              label.palette.color(QPalette::Active, QPalette::ButtonText));
-    canvas.style->drawControl(element, &label, canvas.painter, canvas.widget);
-    return true;
+    const QStyle* style = canvas.style->proxy();
+    switch (element) {
+    case QStyle::CE_PushButton: {
+        style->drawControl(QStyle::CE_PushButtonBevel, button, canvas.painter, canvas.widget);
+        QStyleOptionButton label = *button;
+        label.rect = style->subElementRect(QStyle::SE_PushButtonContents, button, canvas.widget);
+        style->drawControl(QStyle::CE_PushButtonLabel, &label, canvas.painter, canvas.widget);
+        DrawButtonFocus(canvas, canvas.rect(), ButtonLook(canvas).middle);
+        return true;
+    }
+    case QStyle::CE_PushButtonBevel:
+        DrawPushButtonPanel(canvas);
+        return true;
+    case QStyle::CE_PushButtonLabel:
+        DrawPushButtonLabel(canvas, *button);
+        return true;
+    default:
+        return false;
+    }
+}
+
+QSize ToolButtonSize(const QStyleOptionToolButton& tool, const QSize& size, const QWidget* widget)
+{
+    if (tool.toolButtonStyle != Qt::ToolButtonTextBesideIcon || tool.icon.isNull() || tool.text.isEmpty())
+        return size;
+    // The button reserves two spaces beside its text, which would part the text from its arrow, and
+    // nothing for the arrow of a button that is all menu.
+    const int spare = 2 * tool.fontMetrics.horizontalAdvance(QLatin1Char(' ')) - Px(widget, 2);
+    const bool arrow = (tool.features & QStyleOptionToolButton::HasMenu)
+                       && !(tool.features & QStyleOptionToolButton::MenuButtonPopup);
+    return QSize(size.width() - std::max(0, spare) + (arrow ? Px(widget, 10) : 0), size.height());
 }
 
 bool DrawToolButton(QStyle::ComplexControl control, const Canvas& canvas)
@@ -276,12 +360,7 @@ bool DrawToolButton(QStyle::ComplexControl control, const Canvas& canvas)
     else if (!arrow.isNull())
         DrawHelpers::drawArrow(*canvas.painter, arrow, Qt::DownArrow, ink, Px(canvas.widget, 5));
 
-    if ((tool->state & QStyle::State_HasFocus) && (tool->state & QStyle::State_KeyboardFocusChange)) {
-        QStyleOptionFocusRect focus;
-        focus.QStyleOption::operator=(*tool);
-        focus.rect = button.adjusted(2, 2, -2, -2);
-        style->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, canvas.painter, canvas.widget);
-    }
+    DrawButtonFocus(canvas, button, auto_raise ? canvas.look(Element::Window).middle : ButtonLook(canvas).middle);
     return true;
 }
 

@@ -44,10 +44,19 @@ bool DrawField(QStyle::ComplexControl control, const Canvas& canvas);
 bool DrawSlider(QStyle::ComplexControl control, const Canvas& canvas);
 bool DrawToolButton(QStyle::ComplexControl control, const Canvas& canvas);
 bool DrawGroupBox(QStyle::ComplexControl control, const Canvas& canvas);
+bool DrawDial(QStyle::ComplexControl control, const Canvas& canvas);
+bool DrawToolBoxControl(QStyle::ControlElement element, const Canvas& canvas);
 /// \}
+
+/// The size of a tool button for the size that its parts ask for.
+QSize ToolButtonSize(const QStyleOptionToolButton& tool, const QSize& size, const QWidget* widget);
 
 /// The size of a menu's item for its text's size.
 QSize MenuItemSize(const QStyleOptionMenuItem& item, const QSize& contents, const QWidget* widget);
+
+/// Where text and sort arrow of a header's section are: the arrow stands at the end.
+QRect HeaderRect(const QStyleOptionHeader& header, QStyle::SubElement element, const QStyle* style,
+                 const QWidget* widget);
 
 /// Where the parts of a group box are: its title stands in the upper line of its frame.
 QRect GroupBoxRect(const QStyleOptionGroupBox& box, QStyle::SubControl control, const QStyle* style,
@@ -76,8 +85,11 @@ void FillGround(const Canvas& canvas, const QRect& rect, const ThemeLook& look,
 QPalette TextPalette(const QPalette& palette, QPalette::ColorRole role, const ThemeLook& look);
 
 /// An icon that draws itself in the theme's colours whenever it is asked, so that it follows a
-/// change of theme; null for pictures that are not ours.
-QIcon GlyphIcon(QStyle::StandardPixmap pixmap);
+/// change of theme; null for pictures that are not ours. The widget says what it will lie on.
+QIcon GlyphIcon(QStyle::StandardPixmap pixmap, const QWidget* widget = nullptr);
+
+/// The same for the signs of messages, and for folders and files.
+QIcon SignIcon(QStyle::StandardPixmap pixmap);
 
 } // namespace style_draw
 } // namespace Qtitan

@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QLineEdit>
@@ -60,10 +61,14 @@ void DrawLineEdit(const Canvas& canvas)
         return;
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(canvas.option);
     const bool framed = frame && frame->lineWidth > 0;
-    // The ground is the palette's, for hosts that colour a field to say something.
+    // The ground is the palette's, for hosts that colour a field to say something; what can only be
+    // read has the ground of its window.
+    const QBrush& base = canvas.option->palette.brush(QPalette::Base);
+    const bool fixed = canvas.has(QStyle::State_ReadOnly)
+                       && base.color() == QApplication::palette().color(QPalette::Active, QPalette::Base);
     DrawHelpers::drawFrame(*canvas.painter, canvas.rect(),
                            framed ? canvas.look(FieldElement(canvas)).border : QColor(),
-                           canvas.option->palette.brush(QPalette::Base));
+                           fixed ? QBrush(canvas.look(Element::EditDisabled).middle) : base);
 }
 
 /// The frame around a tab widget's page, open towards the tabs where the selected one is.

@@ -2,6 +2,8 @@
 
 #include "draw_helpers.h"
 
+#include <QApplication>
+#include <QCalendarWidget>
 #include <QIcon>
 #include <QIconEngine>
 #include <QPixmap>
@@ -14,12 +16,17 @@ namespace {
 class GlyphEngine : public QIconEngine
 {
 public:
-    explicit GlyphEngine(QStyle::StandardPixmap pixmap) : m_pixmap(pixmap) {}
+    GlyphEngine(QStyle::StandardPixmap pixmap, bool highlighted)
+        : m_pixmap(pixmap), m_highlighted(highlighted)
+    {
+    }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
     {
         const ThemeLook& look = RibbonTheme::current()[Element::DockTitle];
-        const QColor color = mode == QIcon::Disabled ? look.disabled : look.text;
+        const QColor color = m_highlighted ? QApplication::palette().color(QPalette::HighlightedText)
+                             : mode == QIcon::Disabled ? look.disabled
+                                                       : look.text;
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing, true);
         const qreal side = std::min(rect.width(), rect.height());
@@ -40,7 +47,7 @@ public:
         return result;
     }
 
-    QIconEngine* clone() const override { return new GlyphEngine(m_pixmap); }
+    QIconEngine* clone() const override { return new GlyphEngine(m_pixmap, m_highlighted); }
 
 private:
     /// In a square of 16 around the origin.
@@ -64,6 +71,20 @@ private:
         case QStyle::SP_TitleBarUnshadeButton:
             DrawHelpers::drawChevron(painter, QRect(-6, -6, 12, 12), Qt::DownArrow, color, 8);
             break;
+        case QStyle::SP_ArrowLeft:
+        case QStyle::SP_ArrowBack:
+            DrawHelpers::drawChevron(painter, QRect(-7, -6, 12, 12), Qt::LeftArrow, color, 9);
+            break;
+        case QStyle::SP_ArrowRight:
+        case QStyle::SP_ArrowForward:
+            DrawHelpers::drawChevron(painter, QRect(-5, -6, 12, 12), Qt::RightArrow, color, 9);
+            break;
+        case QStyle::SP_ArrowUp:
+            DrawHelpers::drawChevron(painter, QRect(-6, -7, 12, 12), Qt::UpArrow, color, 9);
+            break;
+        case QStyle::SP_ArrowDown:
+            DrawHelpers::drawChevron(painter, QRect(-6, -5, 12, 12), Qt::DownArrow, color, 9);
+            break;
         case QStyle::SP_LineEditClearButton:
             painter.drawLine(QPointF(-3, -3), QPointF(3, 3));
             painter.drawLine(QPointF(3, -3), QPointF(-3, 3));
@@ -84,11 +105,12 @@ private:
     }
 
     QStyle::StandardPixmap m_pixmap;
+    bool m_highlighted; ///< lies on the colour of selections
 };
 
 } // namespace
 
-QIcon GlyphIcon(QStyle::StandardPixmap pixmap)
+QIcon GlyphIcon(QStyle::StandardPixmap pixmap, const QWidget* widget)
 {
     switch (pixmap) {
     case QStyle::SP_DockWidgetCloseButton:
@@ -98,10 +120,16 @@ QIcon GlyphIcon(QStyle::StandardPixmap pixmap)
     case QStyle::SP_TitleBarNormalButton:
     case QStyle::SP_TitleBarShadeButton:
     case QStyle::SP_TitleBarUnshadeButton:
+    case QStyle::SP_ArrowLeft:
+    case QStyle::SP_ArrowRight:
+    case QStyle::SP_ArrowUp:
+    case QStyle::SP_ArrowDown:
+    case QStyle::SP_ArrowBack:
+    case QStyle::SP_ArrowForward:
     case QStyle::SP_LineEditClearButton:
     case QStyle::SP_ToolBarHorizontalExtensionButton:
     case QStyle::SP_ToolBarVerticalExtensionButton:
-        return QIcon(new GlyphEngine(pixmap));
+        return QIcon(new GlyphEngine(pixmap, qobject_cast<const QCalendarWidget*>(widget)));
     default:
         return QIcon();
     }

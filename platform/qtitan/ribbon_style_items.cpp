@@ -2,6 +2,7 @@
 
 #include "draw_helpers.h"
 
+#include <QApplication>
 #include <QTreeView>
 
 namespace Qtitan {
@@ -121,6 +122,20 @@ void DrawHeaderSection(const Canvas& canvas)
 
 } // namespace
 
+QRect HeaderRect(const QStyleOptionHeader& header, QStyle::SubElement element, const QStyle* style,
+                 const QWidget* widget)
+{
+    const int margin = style->pixelMetric(QStyle::PM_HeaderMargin, &header, widget);
+    const int arrow = header.sortIndicator == QStyleOptionHeader::None ? 0 : Px(widget, 9);
+    const QRect inner = header.rect.adjusted(margin, 0, -margin, 0);
+    QRect rect = inner;
+    if (element == QStyle::SE_HeaderArrow)
+        rect.setLeft(std::max(inner.left(), inner.right() + 1 - arrow));
+    else if (arrow > 0)
+        rect.setRight(std::max(inner.left(), inner.right() - arrow - margin / 2));
+    return QStyle::visualRect(header.direction, header.rect, rect);
+}
+
 bool DrawItemPrimitive(QStyle::PrimitiveElement element, const Canvas& canvas)
 {
     switch (element) {
@@ -153,7 +168,8 @@ bool DrawItemControl(QStyle::ControlElement element, const Canvas& canvas)
             // A colour that the model gave to the text stays as long as it reads.
             const QPalette::ColorGroup group = canvas.enabled() ? QPalette::Active : QPalette::Disabled;
             const QColor own = cell.palette.color(group, QPalette::Text);
-            const QColor text = DrawHelpers::legible(own, look.grounds(),
+            const bool usual = canvas.enabled() && own == QApplication::palette().color(QPalette::Text);
+            const QColor text = DrawHelpers::legible(usual ? look.text : own, look.grounds(),
                                                      canvas.enabled() ? RibbonTheme::TextContrast
                                                                       : RibbonTheme::DisabledContrast);
             for (const QPalette::ColorGroup each : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})

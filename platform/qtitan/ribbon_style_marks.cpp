@@ -78,6 +78,15 @@ void DrawArrowMark(const Canvas& canvas, Qt::ArrowType type)
                            std::max(5, size));
 }
 
+QColor HeaderInk(const Canvas& canvas)
+{
+    const ThemeLook& look = canvas.look(!canvas.enabled()                  ? Element::Header
+                                        : canvas.has(QStyle::State_Sunken) ? Element::HeaderPressed
+                                        : canvas.hovered()                 ? Element::HeaderHover
+                                                                           : Element::Header);
+    return canvas.enabled() ? look.text : look.disabled;
+}
+
 /// Opens or closes a row of a tree.
 void DrawBranch(const Canvas& canvas)
 {
@@ -201,7 +210,7 @@ bool DrawMarkPrimitive(QStyle::PrimitiveElement element, const Canvas& canvas)
             DrawHelpers::drawArrow(*canvas.painter, canvas.rect(),
                                    header->sortIndicator == QStyleOptionHeader::SortUp ? Qt::UpArrow
                                                                                        : Qt::DownArrow,
-                                   canvas.look(Element::Header).text, Px(canvas.widget, 7));
+                                   HeaderInk(canvas), Px(canvas.widget, 7));
         return true;
     }
     case QStyle::PE_IndicatorBranch:

@@ -93,6 +93,54 @@ void DrawTabShape(const Canvas& canvas, const QStyleOptionTab& tab)
     painter.restore();
 }
 
+/// Icon and text of a tab, turned with it when it stands.
+void DrawTabLabel(const Canvas& canvas, const QStyleOptionTab& tab)
+{
+    const QStyle* style = canvas.style->proxy();
+    QPainter& painter = *canvas.painter;
+    const Side side = SideOf(tab.shape);
+    const bool stands = side == Side::West || side == Side::East;
+    const ThemeLook look = TabLook(canvas);
+    // A colour set for this tab alone stays.
+    const auto* bar = qobject_cast<const QTabBar*>(canvas.widget);
+    const int index = bar ? bar->tabAt(tab.rect.center()) : -1;
+    const QColor own = bar && index >= 0 ? bar->tabTextColor(index) : QColor();
+    const QColor ink = !canvas.enabled() ? look.disabled : own.isValid() ? own : look.text;
+    QRect text = style->subElementRect(QStyle::SE_TabBarTabText, &tab, canvas.widget);
+    painter.save();
+    if (stands) {
+        const bool east = side == Side::East;
+        painter.translate(east ? tab.rect.right() + 1 : tab.rect.left(),
+                          east ? tab.rect.top() : tab.rect.bottom() + 1);
+        painter.rotate(east ? 90 : -90);
+    }
+    if (!tab.icon.isNull()) {
+        const int usual = style->pixelMetric(QStyle::PM_TabBarIconSize, &tab, canvas.widget);
+        const QSize size = tab.iconSize.isValid() ? tab.iconSize : QSize(usual, usual);
+        // The base keeps the icon's place to itself: it ends a gap before the text.
+        const bool mirrored = !stands && canvas.rightToLeft();
+        const int gap = 4;
+        const QRect icon(mirrored ? text.right() + 1 + gap : text.left() - gap - size.width(),
+                         text.center().y() - size.height() / 2 + (size.height() % 2 ? 0 : 1), size.width(),
+                         size.height());
+        DrawHelpers::drawIcon(painter, icon, tab.icon, size,
+                              canvas.enabled() ? QIcon::Normal : QIcon::Disabled,
+                              canvas.has(QStyle::State_Selected) ? QIcon::On : QIcon::Off, ink);
+    }
+    const bool underline = style->styleHint(QStyle::SH_UnderlineShortcut, &tab, canvas.widget);
+    painter.setPen(ink);
+    painter.drawText(text, Qt::AlignCenter | (underline ? Qt::TextShowMnemonic : Qt::TextHideMnemonic), tab.text);
+    if (canvas.has(QStyle::State_HasFocus) && canvas.has(QStyle::State_KeyboardFocusChange)) {
+        QStyleOptionFocusRect focus;
+        focus.QStyleOption::operator=(tab);
+        const QSize words = tab.fontMetrics.size(Qt::TextShowMnemonic, tab.text);
+        focus.rect = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, words + QSize(6, 2), text);
+        focus.backgroundColor = look.middle;
+        style->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, canvas.widget);
+    }
+    painter.restore();
+}
+
 } // namespace
 
 bool DrawTabControl(QStyle::ControlElement element, const Canvas& canvas)
@@ -105,15 +153,7 @@ bool DrawTabControl(QStyle::ControlElement element, const Canvas& canvas)
         return true;
     }
     if (element == QStyle::CE_TabBarTabLabel) {
-        QStyleOptionTab label = *tab;
-        // A colour set for this tab alone stays.
-        const QWidget* widget = canvas.widget;
-        const auto* bar = qobject_cast<const QTabBar*>(widget);
-        const int index = bar ? bar->tabAt(tab->rect.center()) : -1;
-        const bool own_color = bar && index >= 0 && bar->tabTextColor(index).isValid();
-        if (!own_color)
-            label.palette = TextPalette(label.palette, QPalette::WindowText, TabLook(canvas));
-        canvas.style->drawControl(element, &label, canvas.painter, canvas.widget);
+        DrawTabLabel(canvas, *tab);
         return true;
     }
     return false;

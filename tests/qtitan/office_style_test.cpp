@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 #include <qtitan/draw_helpers.h>
+#include <qtitan/ribbon.h>
 #include <qtitan/style.h>
 
 using Qtitan::OfficeStyle;
@@ -37,6 +38,46 @@ protected:
         updates += event->type() == QEvent::UpdateRequest;
         return QWidget::event(event);
     }
+};
+
+/// Counts the passes that each widget of a window goes through.
+class PassCounter : public QObject
+{
+public:
+    explicit PassCounter(QWidget& window) : m_window(window) { qApp->installEventFilter(this); }
+
+    /// The number for the widget that had most of it.
+    int Most(QEvent::Type type) const
+    {
+        int most = 0;
+        for (const auto& entry : m_counts)
+            most = std::max(most, entry.value(type));
+        return most;
+    }
+    QString Worst(QEvent::Type type) const
+    {
+        QStringList names;
+        for (auto it = m_counts.begin(); it != m_counts.end(); ++it) {
+            if (it->value(type) > 1)
+                names.append(QStringLiteral("%1 %2 times").arg(QLatin1String(m_names.value(it.key()))).arg(it->value(type)));
+        }
+        return QStringLiteral("event %1: ").arg(int(type)) + names.join(QLatin1String(", "));
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto* widget = qobject_cast<QWidget*>(watched);
+        if (widget && widget->window() == &m_window) {
+            ++m_counts[watched][event->type()];
+            m_names[watched] = watched->metaObject()->className();
+        }
+        return false;
+    }
+
+private:
+    QWidget& m_window;
+    QHash<const QObject*, QHash<int, int>> m_counts;
+    QHash<const QObject*, QByteArray> m_names;
 };
 
 QPalette HighContrastBlack()
@@ -69,6 +110,8 @@ private Q_SLOTS:
     void anyColourCanBeTheAccent();
     void anAccentWaitsForAThemeThatHasOne();
     void openWindowsAreRestyledInOnePass();
+    void aRibbonWindowIsPolishedAndPaintedOnce_data();
+    void aRibbonWindowIsPolishedAndPaintedOnce();
     void theSameThemeAgainDoesNothing();
     void coloursThatTheApplicationSetStay();
     void aHighContrastPaletteStaysWhole();
@@ -240,6 +283,59 @@ void OfficeStyleTest::openWindowsAreRestyledInOnePass()
     style->setAccentColor(OfficeStyle::AccentColorRed);
     QTRY_COMPARE(window.updates, 1);
     QCOMPARE(window.style_changes, 1);
+}
+
+void OfficeStyleTest::aRibbonWindowIsPolishedAndPaintedOnce_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("after");
+    QTest::addColumn<QColor>("accent");
+    QTest::newRow("another family") << 0 << 8 << QColor();
+    QTest::newRow("another theme of the family") << 5 << 6 << QColor();
+    QTest::newRow("dark") << 9 << 10 << QColor();
+    QTest::newRow("a named accent") << 8 << 8 << OfficeStyle::accentColor(OfficeStyle::AccentColorRed);
+    QTest::newRow("any accent") << 10 << 10 << QColor(12, 200, 90);
+}
+
+void OfficeStyleTest::aRibbonWindowIsPolishedAndPaintedOnce()
+{
+    QFETCH(int, before);
+    QFETCH(int, after);
+    QFETCH(QColor, accent);
+    style_test::ApplicationStyle style;
+    style->setTheme(static_cast<OfficeStyle::Theme>(before));
+    Qtitan::RibbonMainWindow window;
+    for (const char* title : {"First", "Second"}) {
+        Qtitan::RibbonGroup* group = window.ribbonBar()->addPage(QLatin1String(title))->addGroup(QStringLiteral("Group"));
+        for (int i = 0; i < 6; ++i)
+            group->addAction(QIcon(), QStringLiteral("Command %1").arg(i), Qt::ToolButtonTextBesideIcon);
+    }
+    window.setCentralWidget(new QPushButton(QStringLiteral("Button")));
+    window.resize(500, 300);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    for (int i = 0; i < 20; ++i) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents();
+    }
+
+    PassCounter counter(window);
+    if (before != after)
+        style->setTheme(static_cast<OfficeStyle::Theme>(after));
+    else
+        style->setAccentColor(accent);
+    QTRY_VERIFY(counter.Most(QEvent::Paint) > 0);
+    for (int i = 0; i < 5; ++i)
+        QCoreApplication::processEvents();
+    // One round of painting; in it the window system's surface may ask a widget for two regions.
+    for (const QEvent::Type pass : {QEvent::StyleChange, QEvent::PaletteChange, QEvent::UpdateRequest})
+        QVERIFY2(counter.Most(pass) <= 1, qPrintable(counter.Worst(pass)));
+    QVERIFY2(counter.Most(QEvent::Paint) <= 2, qPrintable(counter.Worst(QEvent::Paint)));
+    QCOMPARE(counter.Most(QEvent::StyleChange), 1);
+    QCOMPARE(counter.Most(QEvent::UpdateRequest), 1);
+    QCOMPARE(counter.Most(QEvent::Polish), 0);
+    // The page that is not shown has nothing to do with it.
+    QVERIFY(!window.ribbonBar()->getPage(1)->isVisible());
 }
 
 void OfficeStyleTest::theSameThemeAgainDoesNothing()
