@@ -142,6 +142,8 @@ private Q_SLOTS:
     void anEditorIsMadeAndLoadedOnce();
     void aRowThatHidesOrShowsLeavesTheOthersAlone_data();
     void aRowThatHidesOrShowsLeavesTheOthersAlone();
+    void hidingTheFocusedRowOpensNoOtherEditor_data();
+    void hidingTheFocusedRowOpensNoOtherEditor();
     void aRowThatIsAddedLeavesTheOthersAlone();
     void aRowThatIsDisabledLeavesTheOthersAlone();
     void aValueThatIsWrittenLeavesTheOthersAlone();
@@ -196,6 +198,38 @@ void TreeEditEffortTest::aRowThatHidesOrShowsLeavesTheOthersAlone()
         if (int(i) < row)
             QCOMPARE(counted.efforts[i].moved, 0);
     }
+}
+
+void TreeEditEffortTest::hidingTheFocusedRowOpensNoOtherEditor_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::newRow("first") << 0;
+    QTest::newRow("middle") << 5;
+    QTest::newRow("last") << 9;
+}
+
+void TreeEditEffortTest::hidingTheFocusedRowOpensNoOtherEditor()
+{
+    QFETCH(int, row);
+    CountedForm counted(10);
+    counted.form.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&counted.form));
+    TreeEditItem* const item = counted.items[std::size_t(row)];
+    counted.form.setCurrentIndex(counted.form.Cell(row));
+    item->GetEditor()->setFocus();
+    QCOMPARE(QApplication::focusWidget(), item->GetEditor());
+    counted.Forget();
+    item->SetVisible(false);
+    counted.Settle();
+    for (const Effort& effort : counted.efforts)
+        QCOMPARE(effort.made, 0);
+    QVERIFY(!item->GetEditor());
+    // The work goes on beside it.
+    QVERIFY(counted.form.currentIndex().isValid());
+    QVERIFY(QApplication::focusWidget() && counted.form.isAncestorOf(QApplication::focusWidget()));
+    item->SetVisible(true);
+    counted.Settle();
+    QCOMPARE(counted.efforts[std::size_t(row)].made, 1);
 }
 
 void TreeEditEffortTest::aRowThatIsAddedLeavesTheOthersAlone()

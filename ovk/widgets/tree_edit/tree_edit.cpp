@@ -93,6 +93,29 @@ void TreeEdit::rowsInserted(const QModelIndex& parent, int start, int end)
     }
 }
 
+/// True if the editor of the row, or of one below it, has the focus.
+bool TreeEdit::_HasFocusBelow(const QModelIndex& index) const
+{
+    const QWidget* const focus = window()->focusWidget();
+    return !Utilities::ForEach(index, [focus](const QModelIndex& row) {
+        const QWidget* const editor = GetItem(row)->GetEditor();
+        return !editor || (editor != focus && !editor->isAncestorOf(focus));
+    });
+}
+
+void TreeEdit::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end)
+{
+    for (int row = start; row <= end; ++row) {
+        // An editor that is hidden hands the focus on, and the view would open another one in a row
+        // that goes with it.
+        if (_HasFocusBelow(mp_model->index(row, 0, parent))) {
+            setFocus();
+            break;
+        }
+    }
+    QTreeView::rowsAboutToBeRemoved(parent, start, end);
+}
+
 void TreeEdit::SetFirstActive()
 {
     QModelIndex index = mp_model->index(0, 0);

@@ -41,12 +41,14 @@ protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     bool event(QEvent* event) override;
     void rowsInserted(const QModelIndex& parent, int start, int end) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
     /// The band of a section begins at the edge of the view.
     void drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const override;
 
 private:
     void _OnCurrentChanged(const QModelIndex& current, const QModelIndex& previous);
     void _OpenEditor(const QModelIndex& index);
+    bool _HasFocusBelow(const QModelIndex& index) const;
     void _HandFocusOn(bool next);
 
     SettingsItemsModel* mp_model;
