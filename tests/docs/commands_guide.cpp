@@ -19,10 +19,7 @@ class Context : public ovk::UpdatableContext
 public:
     void Refresh() override { m_document = g_document; } // once a cycle, for all commands
     quint64 GetPartsOnActiveDataSet() const override { return quint64(m_document.parts); }
-    quint64 GetSelectedPartsOnActiveDataSet() const override
-    {
-        return quint64(m_document.selected);
-    }
+    quint64 GetSelectedPartsOnActiveDataSet() const override { return quint64(m_document.selected); }
     quint64 GetSlicesOnActiveDataSet() const override { return 0; }
     quint64 GetSelectedSlicesOnActiveDataSet() const override { return 0; }
     quint64 GetPartsOnModelerSet() const override { return 0; }
@@ -39,8 +36,7 @@ class DeleteParts : public ovk::UiCommand
 public:
     DeleteParts() : UiCommand("Edit.Delete")
     {
-        SetStrings("Delete", "Takes the selected parts away", "Delete the selected parts", true,
-                   true, true);
+        SetStrings("Delete", "Takes the selected parts away", "Delete the selected parts", true, true, true);
     }
 
 protected:
@@ -59,10 +55,7 @@ protected:
 class EditCommands : public ovk::ICommandsFactory
 {
 public:
-    ovk::UiCommand* GetCommand(const QString& id, int) override
-    {
-        return id == m_delete.GetId() ? &m_delete : nullptr;
-    }
+    ovk::UiCommand* GetCommand(const QString& id, int) override { return id == m_delete.GetId() ? &m_delete : nullptr; }
     void CreateCommands(const QSet<QString>&) override {}
     bool ResolveDynamicCommand(const QString& id, QList<ovk::UiCommand*>& commands) override
     {
@@ -137,8 +130,7 @@ private Q_SLOTS:
         factory.recent << &recent;
         ui.InvalidateLayouts();
         ui.ValidateLayouts();
-        QCOMPARE(features.GetAvailableCommand("Model", "Recent.1", 0),
-                 static_cast<ovk::UiCommand*>(nullptr));
+        QCOMPARE(features.GetAvailableCommand("Model", "Recent.1", 0), static_cast<ovk::UiCommand*>(nullptr));
         QList<ovk::UiCommand*> commands;
         features.GetLayoutCommands("Model", commands);
         QVERIFY(commands.contains(&recent));

@@ -18,13 +18,13 @@ QStringList ReadLines(const QString& path)
     return lines;
 }
 
-/// The blocks of C++ and of JSON of a guide.
+/// The blocks of code of a guide: C++, JSON and CMake.
 QList<QStringList> Blocks(const QStringList& guide)
 {
     QList<QStringList> blocks;
     bool inside = false;
     for (const QString& line : guide) {
-        if (line == "```cpp" || line == "```json") {
+        if (line == "```cpp" || line == "```json" || line == "```cmake") {
             blocks << QStringList();
             inside = true;
         } else if (line == "```") {
@@ -48,8 +48,7 @@ bool StandsIn(const QStringList& block, const QStringList& source)
             continue;
         int line = 0;
         while (line < block.size() &&
-               source.at(start + line) ==
-                   (block.at(line).isEmpty() ? QString() : indent + block.at(line)))
+               source.at(start + line) == (block.at(line).isEmpty() ? QString() : indent + block.at(line)))
             ++line;
         if (line == block.size())
             return true;
@@ -72,23 +71,33 @@ private Q_SLOTS:
 
 void GuidesTest::everyBlockStandsInItsSource_data()
 {
-    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("guide");
+    QTest::addColumn<QStringList>("sources");
     // A guide is checked as soon as it has a source here.
-    for (const QString& source : QDir(OVK_GUIDE_SOURCES).entryList({"*_guide.cpp"}))
-        QTest::newRow(qPrintable(source)) << source;
+    for (const QString& source : QDir(OVK_GUIDE_SOURCES).entryList({"*_guide.cpp"})) {
+        QTest::newRow(qPrintable(source)) << QString(source).replace("_guide.cpp", ".md")
+                                          << QStringList{QStringLiteral(OVK_GUIDE_SOURCES "/") + source};
+    }
+    // The first window is an example that is built and run against the installed library.
+    QStringList minimal;
+    for (const QFileInfo& file : QDir(OVK_MINIMAL).entryInfoList(QDir::Files))
+        minimal << file.filePath();
+    QTest::newRow("minimal") << QStringLiteral("first_window.md") << minimal;
+    QTest::newRow("README") << QStringLiteral("../README.md") << minimal;
 }
 
 void GuidesTest::everyBlockStandsInItsSource()
 {
-    QFETCH(QString, source);
-    const QStringList lines = ReadLines(QStringLiteral(OVK_GUIDE_SOURCES "/") + source);
-    const QStringList guide =
-        ReadLines(QStringLiteral(OVK_DOCS "/") + QString(source).replace("_guide.cpp", ".md"));
-    const QList<QStringList> blocks = Blocks(guide);
+    QFETCH(QString, guide);
+    QFETCH(QStringList, sources);
+    QStringList lines;
+    for (const QString& source : sources)
+        lines << ReadLines(source);
+    const QList<QStringList> blocks = Blocks(ReadLines(QStringLiteral(OVK_DOCS "/") + guide));
     QVERIFY(!blocks.isEmpty());
     for (const QStringList& block : blocks) {
         QVERIFY(!block.isEmpty());
-        QVERIFY2(StandsIn(block, lines), qPrintable("not in " + source + ":\n" + block.join('\n')));
+        QVERIFY2(StandsIn(block, lines), qPrintable("nowhere in " + sources.join(", ") + ":\n" + block.join('\n')));
     }
 }
 

@@ -41,8 +41,7 @@ class Machine : public ovk::PreferenceChapter
 {
 public:
     explicit Machine(ovk::PreferenceChapter& machines)
-        : PreferenceChapter(machines, "Machine"), width(*this, "Width", 0.0),
-          heated(*this, "Heated")
+        : PreferenceChapter(machines, "Machine"), width(*this, "Width", 0.0), heated(*this, "Heated")
     {
     }
 
@@ -53,10 +52,7 @@ public:
 class Machines : public ovk::PreferenceCollectionBasics
 {
 public:
-    explicit Machines(ovk::PreferenceChapter& chapter)
-        : PreferenceCollectionBasics(chapter, "Machines")
-    {
-    }
+    explicit Machines(ovk::PreferenceChapter& chapter) : PreferenceCollectionBasics(chapter, "Machines") {}
     ~Machines() override { Clear(); }
 
 protected:
@@ -66,23 +62,14 @@ protected:
 class CameraPreference : public ovk::PreferenceCustomize
 {
 public:
-    CameraPreference(ovk::PreferenceChapter& chapter, const QString& name)
-        : PreferenceCustomize(chapter, name)
-    {
-    }
+    CameraPreference(ovk::PreferenceChapter& chapter, const QString& name) : PreferenceCustomize(chapter, name) {}
 
     double distance = 1.0;
 
 protected:
     void _AfterLoad() override {}
-    void _DoSave(QXmlStreamWriter& writer) override
-    {
-        writer.writeTextElement(GetName(), QString::number(distance));
-    }
-    void _DoLoad(QXmlStreamReader& reader) override
-    {
-        distance = reader.readElementText().toDouble();
-    }
+    void _DoSave(QXmlStreamWriter& writer) override { writer.writeTextElement(GetName(), QString::number(distance)); }
+    void _DoLoad(QXmlStreamReader& reader) override { distance = reader.readElementText().toDouble(); }
     void _DoRestoreDefault() override { distance = 1.0; }
     void _LoadFromLegacyMap(const QString& path, QMap<QString, QString>& values) override
     {
@@ -151,8 +138,7 @@ void PreferencesGuideTest::anOlderVersionIsTakenOver()
     const FakeApplication application;
     ovk::PreferenceChapter view("View"); // a tree of its own: the guide's was taken down above
     ovk::Preference<bool> show_grid(view, "ShowGrid");
-    QVERIFY(WriteFile(application.GetPreferencesPath() + application.Version(-1).ToString() +
-                          "/preferences.xml",
+    QVERIFY(WriteFile(application.GetPreferencesPath() + application.Version(-1).ToString() + "/preferences.xml",
                       "<PreferencesRoot><View><ShowGrid>true</ShowGrid></View></PreferencesRoot>"));
     QStringList log;
 
@@ -173,14 +159,11 @@ void PreferencesGuideTest::filesAreRead()
     ovk::Preference<bool> show_grid(view, "ShowGrid");
     CameraPreference camera(view, "Camera");
     const QString legacy = DataHome() + "/gui.xml";
-    QVERIFY(WriteFile(
-        legacy,
-        "<preferences><view><camera>3.5</camera><showgrid>true</showgrid></view></preferences>"));
+    QVERIFY(WriteFile(legacy, "<preferences><view><camera>3.5</camera><showgrid>true</showgrid></view></preferences>"));
 
     ovk::PreferencesController* preferences = ovk::PreferencesController::GetInstance();
     const ovk::PreferenceBasics* kept = &show_grid;
-    preferences->SetIgnoreLoadMethod(
-        [kept](ovk::PreferenceBasics* preference) { return preference != kept; });
+    preferences->SetIgnoreLoadMethod([kept](ovk::PreferenceBasics* preference) { return preference != kept; });
     preferences->LoadVisualisationFromGUIFile(legacy);
     preferences->SetIgnoreLoadMethod(nullptr);
 

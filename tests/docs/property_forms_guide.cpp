@@ -64,8 +64,7 @@ private Q_SLOTS:
 
         ovk::TreeEdit form;
         ovk::TreeEditSectionItem* shape = form.AddSection("Shape", "What the part looks like");
-        ovk::TreeEditItem* scale_row =
-            shape->AddItem("Scale", new ovk::DoubleSpinBoxDelegate(0.0, 100.0));
+        ovk::TreeEditItem* scale_row = shape->AddItem("Scale", new ovk::DoubleSpinBoxDelegate(0.0, 100.0));
         scale_row->SetDataProvider(&scale);
         ovk::TreeEditItem* locked_row = shape->AddItem("Locked", new ovk::CheckBoxDelegate);
         locked_row->SetDataProvider(&locked);

@@ -15,16 +15,14 @@ class ThicknessBinding : public ovk::DataBinding
 public:
     explicit ThicknessBinding(ovk::EditDblUnits& editor) : m_editor(editor)
     {
-        QObject::connect(&m_editor, qOverload<double>(&QDoubleSpinBox::valueChanged), &m_context,
-                         [this] {
-                             m_modified = true;
-                             _NotifyOnValueChanged();
-                         });
-        QObject::connect(&m_editor, &ovk::EditDblSuffix::validityChanged, &m_context,
-                         [this](bool valid) {
-                             m_valid = valid;
-                             _NotifyOnValidityChanged();
-                         });
+        QObject::connect(&m_editor, qOverload<double>(&QDoubleSpinBox::valueChanged), &m_context, [this] {
+            m_modified = true;
+            _NotifyOnValueChanged();
+        });
+        QObject::connect(&m_editor, &ovk::EditDblSuffix::validityChanged, &m_context, [this](bool valid) {
+            m_valid = valid;
+            _NotifyOnValidityChanged();
+        });
     }
 
 protected:
