@@ -104,15 +104,17 @@ void RibbonBarPrivate::layout()
 
     if (caption) {
         caption->follow(q->window());
-        const QSize size = caption->sizeHint();
-        caption_right = width - size.width();
-        put(caption, QRect(caption_right, 0, size.width(), caption_row.height()));
+        // In a narrow window the buttons become narrower before they push the rest out of the row.
+        const int caption_width = qMin(caption->sizeHint().width(), width / 2);
+        caption_right = width - caption_width;
+        put(caption, QRect(caption_right, 0, caption_width, caption_row.height()));
     }
 
-    quickAccessClip->setVisible(quickAccessVisible);
-    if (quickAccessVisible) {
+    const QSize button = overflow->sizeHint();
+    const bool has_room = caption_right - caption_left >= button.width();
+    quickAccessClip->setVisible(quickAccessVisible && has_room);
+    if (quickAccessVisible && has_room) {
         RibbonQuickAccessBarPrivate* bar = RibbonQuickAccessBarPrivate::get(quickAccess);
-        const QSize button = overflow->sizeHint();
         // The title keeps a little of the row.
         const int title = frameThemed ? qMin(metrics.px(80), width / 4) : 0;
         const int room = qMax(button.width(), caption_right - caption_left - title);
@@ -306,8 +308,9 @@ QVector<RibbonBarPrivate::ContextHeading> RibbonBarPrivate::contextHeadings() co
         if (!first->isContextual() || rect.isEmpty())
             continue;
         rect.translate(tabBar->pos());
+        // Down to its tabs, which begin a little below the upper edge of their row.
+        rect.setBottom(std::max(captionHeight(), rect.top()) - 1);
         rect.setTop(RibbonMetrics::of(q).px(2));
-        rect.setBottom(captionHeight() - 1);
         // Buttons of the quick access bar are more use than a heading behind them.
         const bool covered = (quickAccessVisible && rect.intersects(quickAccessClip->geometry())) ||
                              (!overflow->isHidden() && rect.intersects(overflow->geometry())) ||

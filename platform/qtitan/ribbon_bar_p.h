@@ -41,6 +41,8 @@ public:
     void tabsChanged();
     void pageGone(RibbonPage* page);
     void pageVisibilityChanged(RibbonPage* page);
+    /// Closes what a page that goes has opened, and gives the focus back.
+    void prepareToGo(RibbonPage* page);
     void takeOut(RibbonPage* page);
     /// The current page went from an index: another takes over, or there is none left.
     void currentGone(int index);

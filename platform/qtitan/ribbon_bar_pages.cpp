@@ -1,9 +1,12 @@
 #include "ribbon_bar.h"
 #include "ribbon_bar_p.h"
 #include "ribbon_key_tips_p.h"
+#include "ribbon_keyboard_p.h"
 #include "ribbon_page_area_p.h"
 #include "ribbon_page_p.h"
 #include "ribbon_tab_bar_p.h"
+
+#include <QApplication>
 
 #include <algorithm>
 
@@ -86,12 +89,20 @@ void RibbonBar::clearPages()
         removePage(d->pages.last());
 }
 
+void RibbonBarPrivate::prepareToGo(RibbonPage* page)
+{
+    keyTips->stop();
+    RibbonPagePrivate::get(page)->hidePopups();
+    // The focus goes back to the content, not on to whatever comes next in the ribbon.
+    if (page->isAncestorOf(QApplication::focusWidget()))
+        RibbonKeyboard::leave(q);
+}
+
 void RibbonBarPrivate::takeOut(RibbonPage* page)
 {
     const int index = pages.indexOf(page);
     RibbonPagePrivate* pd = RibbonPagePrivate::get(page);
-    keyTips->stop();
-    pd->hidePopups();
+    prepareToGo(page);
     const bool hidden = page->isHidden();
     const bool explicitly = page->testAttribute(Qt::WA_WState_ExplicitShowHide);
     pages.removeAt(index);
@@ -127,8 +138,7 @@ void RibbonBarPrivate::pageGone(RibbonPage* page)
     if (index < 0)
         return;
     RibbonPagePrivate* pd = RibbonPagePrivate::get(page);
-    keyTips->stop();
-    pd->hidePopups();
+    prepareToGo(page);
     pages.removeAt(index);
     RibbonPageHolder* holder = pd->holder;
     pd->holder = nullptr;
@@ -192,8 +202,12 @@ void RibbonBarPrivate::makeCurrent(RibbonPage* page)
 {
     if (page == current)
         return;
-    if (current)
+    if (current) {
         RibbonPagePrivate::get(current)->hidePopups();
+        // The walk goes on from the tab of the new page.
+        if (page && current->isAncestorOf(QApplication::focusWidget()))
+            tabBar->setFocus(Qt::OtherFocusReason);
+    }
     RibbonPageHolder* old = current ? RibbonPagePrivate::get(current)->holder : nullptr;
     current = page;
     // The new page is there before the old one goes, or the ground would flash between them.

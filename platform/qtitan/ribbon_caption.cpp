@@ -100,14 +100,16 @@ void RibbonCaptionBox::follow(const QWidget* window)
 
 void RibbonCaptionBox::resizeEvent(QResizeEvent*)
 {
-    const int width = RibbonMetrics::of(this).captionButtonWidth;
+    int left = 0;
+    for (const RibbonCaptionWidget* button : {m_minimize, m_maximize, m_close})
+        left += button->isHidden() ? 0 : 1;
     int x = 0;
     for (RibbonCaptionWidget* button : {m_minimize, m_maximize, m_close}) {
         if (button->isHidden())
             continue;
-        button->setGeometry(
-            directed(QRect(x, 0, width, height()), this->width(), layoutDirection()));
-        x += width;
+        const int share = (width() - x) / left--;
+        button->setGeometry(directed(QRect(x, 0, share, height()), width(), layoutDirection()));
+        x += share;
     }
 }
 

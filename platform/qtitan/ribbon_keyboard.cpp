@@ -109,6 +109,9 @@ QRect globalRect(const QWidget* widget)
 
 void focus(QWidget* widget)
 {
+    // Qt notices by itself only that Tab was pressed; without this the style would not show where an
+    // arrow has led.
+    widget->window()->setAttribute(Qt::WA_KeyboardFocusChange);
     widget->setFocus(Qt::TabFocusReason);
     for (QWidget* w = widget; w; w = w->parentWidget())
         if (auto* holder = qobject_cast<RibbonPageHolder*>(w)) {

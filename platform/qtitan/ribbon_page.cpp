@@ -176,6 +176,11 @@ QSize RibbonPage::minimumSizeHint() const
 bool RibbonPage::event(QEvent* event)
 {
     switch (event->type()) {
+    case QEvent::Hide:
+        // Before Qt hands the focus on to whatever comes next.
+        if (d->bar && isHidden())
+            RibbonBarPrivate::get(d->bar)->prepareToGo(this);
+        break;
     case QEvent::ShowToParent:
     case QEvent::HideToParent:
         if (d->bar)

@@ -84,12 +84,15 @@ private Q_SLOTS:
     void aThemeIsAppliedAtOnce_data();
     void aThemeIsAppliedAtOnce();
     void theThemeMinusOneLeavesAnOpenWindowAlone();
+    void aWindowThatIsMadeWhileTheThemeIsMinusOneChangesNothing();
     void withoutARibbonStyleNoThemeIsApplied();
     void anAccentIsNamedDefaultOrPacked_data();
     void anAccentIsNamedDefaultOrPacked();
     void groupTitlesFollowTheirSetting();
     void theContextMenuListsPages();
+    void theContextMenuOpensWhereTheWindowPutsIt();
     void theContextMenuWorksWithoutButtons();
+    void aDerivedWindowIsNotAskedDuringConstruction();
     void aDeadWindowIsNotCalledBySettings();
     void theDeadWindowStaysTheInstanceButNotTheLiveOne();
     void theBlockerIsCalledWhenThereIsOne();
@@ -274,6 +277,18 @@ void RibbonWindowTest::theThemeMinusOneLeavesAnOpenWindowAlone()
     QCOMPARE(int(window.GetTheme()), int(OfficeStyle::Office2013Dark));
 }
 
+void RibbonWindowTest::aWindowThatIsMadeWhileTheThemeIsMinusOneChangesNothing()
+{
+    RibbonStyleScope scope;
+    scope.Style().setTheme(OfficeStyle::Office2013Dark);
+    FakeHost host(CatalogueWith(WindowCommands()));
+    RibbonWindowSettings::OfficeTheme().SetData(static_cast<OfficeStyle::Theme>(-1));
+    RibbonWindow window;
+    QCOMPARE(int(window.GetTheme()), int(OfficeStyle::Office2013Dark));
+    // The number is handed on all the same, and it is none of those whose button shows a word.
+    QCOMPARE(window.ribbonBar()->getSystemButton()->toolButtonStyle(), Qt::ToolButtonFollowStyle);
+}
+
 void RibbonWindowTest::withoutARibbonStyleNoThemeIsApplied()
 {
     FakeHost host;
@@ -359,6 +374,35 @@ void RibbonWindowTest::theContextMenuListsPages()
     QVERIFY(seen);
     QVERIFY(!page->IsVisible());
     host.Activate(QString());
+}
+
+void RibbonWindowTest::theContextMenuOpensWhereTheWindowPutsIt()
+{
+    FakeHost host(CatalogueWith(WindowCommands()));
+    RibbonWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.setContentsMargins(30, 40, 0, 0);
+    QTRY_VERIFY(window.ribbonBar()->pos() != QPoint(0, 0));
+    QPoint place;
+    OnNextMenu([&](QMenu& menu) { place = menu.pos(); });
+    Q_EMIT window.ribbonBar()->customContextMenuRequested(QPoint(5, 7));
+    // The position comes from the bar, and is taken for one of the window: that is how it was.
+    QCOMPARE(place, window.mapToGlobal(QPoint(5, 7)));
+}
+
+void RibbonWindowTest::aDerivedWindowIsNotAskedDuringConstruction()
+{
+    class Derived : public RibbonWindow
+    {
+    public:
+        QString fileMenuText() override { return QStringLiteral("Start"); }
+        QWidget* GetCentralViewWidget() const override { return nullptr; }
+    };
+    FakeHost host(CatalogueWith(WindowCommands()));
+    const Derived window;
+    QCOMPARE(window.ribbonBar()->getSystemButton()->text(), QStringLiteral("File"));
+    QVERIFY(!window.GetCentralViewWidget());
 }
 
 void RibbonWindowTest::theContextMenuWorksWithoutButtons()

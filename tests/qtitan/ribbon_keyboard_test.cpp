@@ -2,6 +2,7 @@
 #include "platform/qtitan/ribbon_key_tips_p.h"
 #include "platform/qtitan/ribbon_group_p.h"
 #include "tests/qtitan/ribbon_test_window.h"
+#include "tests/qtitan/style_test_support.h"
 
 #include <QLineEdit>
 #include <QSpinBox>
@@ -376,6 +377,87 @@ private Q_SLOTS:
         Keys::Press(Qt::Key_Tab);
         QVERIFY(!spin->hasFocus());
         QVERIFY(w.bar->isAncestorOf(QApplication::focusWidget()));
+    }
+
+    void theFocusIsSeenWhereverItIs()
+    {
+        const style_test::ApplicationStyle style;
+        Keys w(1, 6, QSize(320, 400));
+        w.bar->addAction(ribbon_test::MakeIcon(), QStringLiteral("Help"), Qt::ToolButtonIconOnly);
+        w.Group(0)->setOptionButtonVisible(true);
+        Window::Settle();
+        QList<QWidget*> elements{w.TabBar(), w.bar->getSystemButton(), w.Group(5),
+                                 w.bar->buttonForAction(w.bar->actions().first()),
+                                 w.bar->quickAccessBar()->widgetForAction(
+                                     w.bar->quickAccessBar()->actions().first())};
+        w.window.resize(1600, 400);
+        Window::Settle();
+        elements << w.Button(0) << w.Button(5) << w.Button(10);
+        for (QWidget* element : qAsConst(elements)) {
+            w.content->setFocus();
+            w.window.resize(element == w.Group(5) ? 320 : 1600, 400);
+            Window::Settle();
+            const QImage before = element->grab().toImage();
+            element->window()->setAttribute(Qt::WA_KeyboardFocusChange);
+            element->setFocus(Qt::TabFocusReason);
+            QVERIFY(element->hasFocus());
+            QVERIFY2(element->grab().toImage() != before,
+                     qPrintable(element->objectName() + QLatin1Char(' ') +
+                                QString::fromLatin1(element->metaObject()->className())));
+        }
+    }
+
+    void theFocusIsSeenWhereAnArrowHasLed()
+    {
+        const style_test::ApplicationStyle style;
+        Keys w;
+        w.window.setAttribute(Qt::WA_KeyboardFocusChange, false);
+        QWidget* quick = w.bar->quickAccessBar()->widgetForAction(
+            w.bar->quickAccessBar()->actions().first());
+        const QImage before = quick->grab().toImage();
+        Keys::Press(Qt::Key_F10);
+        Keys::Press(Qt::Key_Up);
+        Keys::Press(Qt::Key_Up);
+        Keys::Press(Qt::Key_Right);
+        QVERIFY(quick->hasFocus());
+        QVERIFY(quick->grab().toImage() != before);
+    }
+
+    void theFocusGoesBackToTheContentWhenItsPageGoes_data()
+    {
+        QTest::addColumn<QString>("how");
+        for (const char* how : {"detached", "removed", "deleted", "hidden"})
+            QTest::newRow(how) << QString::fromLatin1(how);
+    }
+
+    void theFocusGoesBackToTheContentWhenItsPageGoes()
+    {
+        QFETCH(QString, how);
+        Keys w;
+        Keys::Press(Qt::Key_F10);
+        Keys::Press(Qt::Key_Down);
+        Keys::Press(Qt::Key_Down);
+        QVERIFY(w.Button(0)->hasFocus());
+        RibbonPage* page = w.bar->currentPage();
+        if (how == QLatin1String("detached"))
+            w.bar->detachPage(page);
+        else if (how == QLatin1String("removed"))
+            w.bar->removePage(page);
+        else if (how == QLatin1String("deleted"))
+            delete page;
+        else
+            page->setVisible(false);
+        QVERIFY(w.content->hasFocus());
+    }
+
+    void theWalkGoesOnFromTheTabWhenThePageChanges()
+    {
+        Keys w;
+        w.Button(3)->setFocus();
+        w.bar->setCurrentPage(1);
+        QVERIFY(w.TabBar()->hasFocus());
+        Keys::Press(Qt::Key_Down);
+        QVERIFY(w.Button(0)->hasFocus());
     }
 
     void enterOpensACollapsedGroup()

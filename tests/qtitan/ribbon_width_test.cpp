@@ -227,7 +227,7 @@ private Q_SLOTS:
     {
         Choices choose(800);
         AnyWindow w(choose, 5, 6);
-        Resize(w, 800);
+        Resize(w, RibbonMetrics::of(w.bar).px(800));
         for (int i = 0; i < 5; ++i) {
             w.bar->setCurrentPage(i);
             Window::Settle();
