@@ -19,10 +19,15 @@ constexpr char k_inspect[] = "Inspect";
 constexpr char k_slice[] = "Slice";
 constexpr char k_parts[] = "Page.Parts";
 constexpr char k_properties[] = "Page.Properties";
+constexpr char k_part_tree[] = "Page.PartTree";
 constexpr char k_measurements[] = "Page.Measurements";
 constexpr char k_findings[] = "Page.Findings";
 constexpr char k_layers[] = "Page.Layers";
 constexpr char k_history[] = "Page.History";
+constexpr char k_primitives[] = "Page.Primitives";
+constexpr char k_notes[] = "Page.Notes";
+constexpr char k_log[] = "Page.Log";
+constexpr char k_legend[] = "Page.Legend";
 
 template <const char* Name> void GoToLayout(Host& host)
 {
@@ -61,10 +66,15 @@ const CommandSpec k_rows[] = {
     {"Layout.Slice", Need::Nothing, GoToLayout<k_slice>, IsLayout<k_slice>},
     {"Window.Parts", Need::Nothing, TogglePage<k_parts>, IsPageShown<k_parts>},
     {"Window.Properties", Need::Nothing, TogglePage<k_properties>, IsPageShown<k_properties>},
+    {"Window.PartTree", Need::Nothing, TogglePage<k_part_tree>, IsPageShown<k_part_tree>},
     {"Window.Measurements", Need::Nothing, TogglePage<k_measurements>, IsPageShown<k_measurements>},
     {"Window.Findings", Need::Nothing, TogglePage<k_findings>, IsPageShown<k_findings>},
     {"Window.Layers", Need::Nothing, TogglePage<k_layers>, IsPageShown<k_layers>},
     {"Window.History", Need::Nothing, TogglePage<k_history>, IsPageShown<k_history>},
+    {"Window.Primitives", Need::Nothing, TogglePage<k_primitives>, IsPageShown<k_primitives>},
+    {"Window.Notes", Need::Nothing, TogglePage<k_notes>, IsPageShown<k_notes>},
+    {"Window.Log", Need::Nothing, TogglePage<k_log>, IsPageShown<k_log>},
+    {"Window.Legend", Need::Nothing, TogglePage<k_legend>, IsPageShown<k_legend>},
     {"Window.Dark", Need::Nothing, [](Host& host) { host.SetDark(!host.IsDark()); },
      [](const Host& host) { return host.IsDark(); }},
     {"Window.FullScreen", Need::Nothing,

@@ -18,6 +18,7 @@ struct PageRow
 constexpr PageRow k_pages[] = {
     {"Page.Parts", MakePartsPage, "PIS"},
     {"Page.Properties", MakePropertiesPage, "PIS"},
+    {"Page.PartTree", MakePartTreePage, "PI"},
     {"Page.Measurements", MakeMeasurementsPage, "I"},
     {"Page.Findings", MakeFindingsPage, "PI"},
     {"Page.Layers", MakeLayersPage, "S"},

@@ -34,7 +34,7 @@ public:
     QString GetSizeGroupId() const override { return QString(); }
     QSizePolicy GetSizePolicy() const override
     {
-        return {QSizePolicy::Preferred, QSizePolicy::Expanding};
+        return {QSizePolicy::Expanding, QSizePolicy::Expanding};
     }
 
     QSize minimumSizeHint() const override { return {180, 90}; }
@@ -73,6 +73,7 @@ private:
 
 HostPage* MakePartsPage(Host& host);
 HostPage* MakePropertiesPage(Host& host);
+HostPage* MakePartTreePage(Host& host);
 HostPage* MakeMeasurementsPage(Host& host);
 HostPage* MakeFindingsPage(Host& host);
 HostPage* MakeLayersPage(Host& host);
