@@ -72,16 +72,31 @@ void Preference<QStringList>::_DoSave(QXmlStreamWriter& writer)
 
 void Preference<QStringList>::_DoLoad(QXmlStreamReader& reader)
 {
+    // As long as the file says what stands here already, the list is shared and not made anew.
+    const QStringList present = GetData();
     QStringList items;
+    int same = 0;
+    bool differs = false;
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
-            if (reader.name() == QLatin1String("item"))
-                items.append(ElementText(reader).Get());
+            if (reader.name() == QLatin1String("item")) {
+                const ElementText text(reader);
+                if (!differs && same < present.size() && impl::IsSameValue(present.at(same), text.Get())) {
+                    ++same;
+                    break;
+                }
+                if (!differs)
+                    items = present.mid(0, same);
+                differs = true;
+                items.append(text.Get());
+            }
             break;
         case QXmlStreamReader::EndElement:
         case QXmlStreamReader::StartDocument:
         case QXmlStreamReader::EndDocument:
+            if (!differs)
+                items = present.mid(0, same);
             SetData(items);
             return;
         default:

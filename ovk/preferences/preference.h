@@ -8,6 +8,21 @@
 
 namespace ovk {
 
+namespace impl {
+
+/// True if a value may stay in the place of another one without anybody being able to tell.
+template <class T>
+bool IsSameValue(const T&, const T&)
+{
+    return false;
+}
+inline bool IsSameValue(const QString& left, const QString& right)
+{
+    return left == right && left.isNull() == right.isNull();
+}
+
+} // namespace impl
+
 /// A preference with a typed, observable value and a default.
 ///
 /// For a type of its own a host derives from it and writes _FromString() and _ToString().
@@ -44,6 +59,15 @@ protected:
             this->_Notify();
     }
     void _DoRestoreDefault() override { SetData(m_default); }
+    /// Stores \a data and notifies.
+    void _DoSetData(const T& data) override
+    {
+        // Nearly every text of a file is the one that stands here already: it keeps its memory.
+        if (impl::IsSameValue(ObservableValue<T>::GetData(), data))
+            this->_Notify();
+        else
+            ObservableValue<T>::_DoSetData(data);
+    }
 
 private:
     T m_default;

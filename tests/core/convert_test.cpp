@@ -2,7 +2,9 @@
 
 #include <ovk/core/convert.h>
 
+#include <cmath>
 #include <limits>
+#include <random>
 
 using namespace ovk;
 
@@ -28,6 +30,7 @@ private Q_SLOTS:
     void numbersBecomeText();
     void textBecomesNumbers_data();
     void textBecomesNumbers();
+    void plainNumbersAreReadToTheLastBit();
     void numbersBecomeNumbers();
     void numbersThatDoNotFitAreZero();
 };
@@ -205,6 +208,39 @@ void ConvertTest::textBecomesNumbers()
     QCOMPARE((convert<QString, float>(text)), float(real));
 }
 
+void ConvertTest::plainNumbersAreReadToTheLastBit()
+{
+    // The short way for plain numbers beside the one of Qt.
+    QStringList texts{"0",    "-0",  "0.0", "-0.0", "00012.50", "1.",  ".5",  "-.5", "-",       ".",
+                      "",     " 1",  "1 ",  "+1",   "1e3",      "1.5e-3", "1..2", "1-2", "--1",   "inf",
+                      "-inf", "nan", "1,5", "0.1",  "0.3",      "123456789012345", "1234567890123456",
+                      "0.000000000000001", "0.0000000000000001", "999999999999999", "9007199254740993",
+                      QString::fromUtf8("\u0661"), "0x10", "1.7976931348623157e308"};
+    constexpr unsigned Seed = 20261121;
+    qInfo("seed %u", Seed);
+    std::mt19937 random(Seed);
+    for (int i = 0; i < 20000; ++i) {
+        const int digits = 1 + int(random() % 18);
+        QString text = random() % 3 == 0 ? "-" : "";
+        const int point = int(random() % 20);
+        for (int k = 0; k < digits; ++k) {
+            if (k == point)
+                text += '.';
+            text += QChar('0' + int(random() % 10));
+        }
+        texts.append(text);
+    }
+    for (const QString& text : texts) {
+        const double quick = convert<QString, double>(text);
+        const double slow = text.toDouble();
+        if (std::isnan(slow)) {
+            QVERIFY(std::isnan(quick));
+            continue;
+        }
+        QVERIFY2(quick == slow && std::signbit(quick) == std::signbit(slow), qPrintable(text));
+    }
+}
+
 void ConvertTest::numbersBecomeNumbers()
 {
     QCOMPARE((convert<bool, int>(true)), 1);
@@ -245,3 +281,5 @@ void ConvertTest::numbersThatDoNotFitAreZero()
 OVK_TEST_CLASS(ConvertTest)
 
 #include "convert_test.moc"
+#include <cmath>
+#include <random>

@@ -34,6 +34,11 @@ private Q_SLOTS:
     void listsAreRead_data();
     void listsAreRead();
     void aListThatIsCutOffKeepsItsValue();
+    void listsAreReadOverOthers_data();
+    void listsAreReadOverOthers();
+    void textsAreEachPreferencesOwn();
+    void aTextThatStandsThereKeepsItsMemoryAndNotifies();
+    void aLoadInsideALoadDisturbsNothing();
     void bytesAreReadFromBase64();
     void aCollectionReadsBackItsItemsInOrder();
     void clearingNotifiesEvenIfEmpty();
@@ -279,6 +284,86 @@ void PreferenceTreeTest::aListThatIsCutOffKeepsItsValue()
     m_tree->list.ForceSetData({"old"});
     m_tree->Load("<Tree><Flag>true</Flag><List><item>a</item><item>b");
     QCOMPARE(m_tree->list.GetData(), QStringList{"old"});
+    QVERIFY(m_tree->flag.GetData());
+}
+
+void PreferenceTreeTest::listsAreReadOverOthers_data()
+{
+    QTest::addColumn<QStringList>("present");
+    QTest::addColumn<QStringList>("read");
+    const QStringList abc{"a", "b", "c"};
+    QTest::newRow("the same") << abc << abc;
+    QTest::newRow("one more") << abc << QStringList{"a", "b", "c", "d"};
+    QTest::newRow("one less") << abc << QStringList{"a", "b"};
+    QTest::newRow("another first") << abc << QStringList{"x", "b", "c"};
+    QTest::newRow("another last") << abc << QStringList{"a", "b", "x"};
+    QTest::newRow("another, then the same again") << abc << QStringList{"a", "x", "c"};
+    QTest::newRow("empty items") << QStringList{"", ""} << QStringList{"", "", ""};
+    QTest::newRow("over none") << QStringList() << abc;
+    QTest::newRow("none over some") << abc << QStringList();
+}
+
+void PreferenceTreeTest::listsAreReadOverOthers()
+{
+    QFETCH(QStringList, present);
+    QFETCH(QStringList, read);
+    m_tree->list = read;
+    const QByteArray document = m_tree->Save();
+    m_tree->list = present;
+    int calls = 0;
+    m_tree->list.Attach([&] { ++calls; });
+    m_tree->Load(document);
+    QCOMPARE(m_tree->list.GetData(), read);
+    QCOMPARE(calls, 1);
+}
+
+void PreferenceTreeTest::textsAreEachPreferencesOwn()
+{
+    TextPreference first(m_tree->root, "First");
+    TextPreference second(m_tree->root, "Second");
+    TextPreference third(m_tree->root, "Third");
+    const QString longer(1000, 'x');
+    m_tree->Load("<Tree><First>one</First><Second>two and more</Second><Third/></Tree>");
+    QCOMPARE(first.GetData(), QString("one"));
+    QCOMPARE(second.GetData(), QString("two and more"));
+    QCOMPARE(third.GetData(), QString());
+    m_tree->Load("<Tree><First>" + longer.toUtf8() + "</First><Second>t<!-- -->w<![CDATA[o]]></Second><Third>3</Third>"
+                 "<Flag>true</Flag><Number>7</Number></Tree>");
+    QCOMPARE(first.GetData(), longer);
+    QCOMPARE(second.GetData(), QString("two"));
+    QCOMPARE(third.GetData(), QString("3"));
+    QCOMPARE(m_tree->number.GetData(), 7);
+    QVERIFY(m_tree->flag.GetData());
+}
+
+void PreferenceTreeTest::aTextThatStandsThereKeepsItsMemoryAndNotifies()
+{
+    TextPreference text(m_tree->root, "Text");
+    int calls = 0;
+    text.Attach([&] { ++calls; });
+    m_tree->Load("<Tree><Text>as it is</Text></Tree>");
+    const QChar* const memory = text.GetData().constData();
+    m_tree->Load("<Tree><Text>as it is</Text></Tree>");
+    QCOMPARE(calls, 2);
+    QVERIFY(text.GetData().constData() == memory);
+    text.SetData("");
+    QVERIFY(!text.GetData().isNull());
+    text.SetData(QString());
+    QVERIFY(text.GetData().isNull());
+    QCOMPARE(calls, 4);
+}
+
+void PreferenceTreeTest::aLoadInsideALoadDisturbsNothing()
+{
+    TestTree other;
+    TextPreference outer(m_tree->root, "Text");
+    TextPreference inner(other.root, "Text");
+    outer.Attach([&] { other.Load("<Tree><Text>inner</Text><Number>5</Number></Tree>"); });
+    m_tree->Load("<Tree><Text>outer</Text><Number>6</Number><Flag>true</Flag></Tree>");
+    QCOMPARE(outer.GetData(), QString("outer"));
+    QCOMPARE(inner.GetData(), QString("inner"));
+    QCOMPARE(m_tree->number.GetData(), 6);
+    QCOMPARE(other.number.GetData(), 5);
     QVERIFY(m_tree->flag.GetData());
 }
 
