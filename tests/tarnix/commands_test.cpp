@@ -12,6 +12,7 @@
 #include <ovk/ui_state/ui_state_ribbon_page.h>
 #include <qtitan/ribbon.h>
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QFile>
@@ -139,6 +140,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("script");
         QTest::newRow("catalogue and profiles") << "catalogue/make_catalogue.py";
+        QTest::newRow("texts for the translator") << "catalogue/make_texts.py";
         QTest::newRow("icons") << "icons/make_icons.py";
     }
 
@@ -324,9 +326,11 @@ private Q_SLOTS:
         m_host->Window().ActivateLayout("Prepare");
         const double before = m_host->GetWorkspace().GetScene().Parts()[0].Bounds().low.x;
         QVERIFY(m_host->Run("Move.By"));
-        auto* dialog = m_host->Window().findChild<QDialog*>("numberDialog");
+        auto* dialog = m_host->Window().findChild<QDialog*>("transformDialog");
         QVERIFY(dialog);
-        dialog->findChildren<QDoubleSpinBox*>().front()->setValue(2.0);
+        // The parts of this scene lie outside the build volume.
+        dialog->findChild<QCheckBox*>("keepInside")->setChecked(false);
+        dialog->findChild<QDoubleSpinBox*>("moveX")->setValue(2.0);
         dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
         QCoreApplication::processEvents();
         const double after = m_host->GetWorkspace().GetScene().Parts()[0].Bounds().low.x;
