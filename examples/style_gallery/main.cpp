@@ -60,6 +60,7 @@ int TakeSet(const PictureSet& set, const QDir& folder)
 {
     Look look;
     look.theme = set.themes.first();
+    look.scale = set.scale;
     look.Apply();
     ViewerHost host(look);
     host.Window().show();

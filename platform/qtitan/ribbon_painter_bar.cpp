@@ -111,7 +111,7 @@ void DrawTabGround(QPainter& painter, const RibbonPaintOption& option, const The
         return;
     // A tab that is not selected stands on the line of the page, the selected one opens it. One of a
     // context hangs together with the title above it.
-    const QRect rect = selected ? option.rect : option.rect.adjusted(0, context ? -1 : Px(option, 1), 0, -1);
+    const QRect rect = selected ? option.rect : option.rect.adjusted(0, context ? 0 : Px(option, 1), 0, -1);
     if (!selected && context) {
         // The colour comes from above and fades towards the page.
         if (!look.isTransparent()) {

@@ -59,6 +59,9 @@ constexpr Metric Metrics[] = {
     {QStyle::PM_TabBarTabHSpace, 20},
     {QStyle::PM_TabBarTabVSpace, 9},
     {QStyle::PM_ToolTipLabelFrameWidth, 2},
+    {QStyle::PM_SliderThickness, 19},
+    {QStyle::PM_SliderControlThickness, 17},
+    {QStyle::PM_SliderLength, 11},
     {QStyle::PM_HeaderMargin, 5},
     {QStyle::PM_HeaderDefaultSectionSizeVertical, 22},
     {QStyle::PM_HeaderGripMargin, 4},
@@ -197,6 +200,19 @@ QRect RibbonStyle::subControlRect(ComplexControl control, const QStyleOptionComp
     if (control == CC_GroupBox) {
         if (const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option))
             return style_draw::GroupBoxRect(*box, sub_control, this, widget);
+    }
+    if (control == CC_SpinBox && (sub_control == SC_SpinBoxUp || sub_control == SC_SpinBoxDown)) {
+        if (const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option))
+            return style_draw::SpinButtonRect(
+                *spin, sub_control, OfficeStyle::subControlRect(control, option, sub_control, widget));
+    }
+    if (control == CC_ComboBox && sub_control == SC_ComboBoxEditField) {
+        // The text stands still while the list is open.
+        if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
+            QStyleOptionComboBox still = *combo;
+            still.state &= ~(State_Sunken | State_On);
+            return OfficeStyle::subControlRect(control, &still, sub_control, widget);
+        }
     }
     return OfficeStyle::subControlRect(control, option, sub_control, widget);
 }

@@ -54,6 +54,9 @@ QSize ToolButtonSize(const QStyleOptionToolButton& tool, const QSize& size, cons
 /// The size of a menu's item for its text's size.
 QSize MenuItemSize(const QStyleOptionMenuItem& item, const QSize& contents, const QWidget* widget);
 
+/// A button of a spin box from the place that the base gives it: up to the frame and to the other.
+QRect SpinButtonRect(const QStyleOptionSpinBox& spin, QStyle::SubControl control, const QRect& base);
+
 /// Where text and sort arrow of a header's section are: the arrow stands at the end.
 QRect HeaderRect(const QStyleOptionHeader& header, QStyle::SubElement element, const QStyle* style,
                  const QWidget* widget);

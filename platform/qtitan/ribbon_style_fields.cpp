@@ -225,6 +225,28 @@ void DrawSliderControl(const Canvas& canvas, const QStyleOptionSlider& slider)
 
 } // namespace
 
+QRect SpinButtonRect(const QStyleOptionSpinBox& spin, QStyle::SubControl control, const QRect& base)
+{
+    if (base.isEmpty())
+        return base;
+    const int frame = spin.frame ? 1 : 0;
+    const QRect inner = spin.rect.adjusted(frame, frame, -frame, -frame);
+    const int middle = inner.top() + inner.height() / 2;
+    QRect rect = base;
+    if (spin.direction == Qt::RightToLeft)
+        rect.setLeft(inner.left());
+    else
+        rect.setRight(inner.right());
+    if (control == QStyle::SC_SpinBoxUp) {
+        rect.setTop(inner.top());
+        rect.setBottom(middle - 1);
+    } else {
+        rect.setTop(middle);
+        rect.setBottom(inner.bottom());
+    }
+    return rect;
+}
+
 bool DrawField(QStyle::ComplexControl control, const Canvas& canvas)
 {
     if (control == QStyle::CC_ComboBox) {

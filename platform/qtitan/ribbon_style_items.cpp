@@ -129,10 +129,13 @@ QRect HeaderRect(const QStyleOptionHeader& header, QStyle::SubElement element, c
     const int arrow = header.sortIndicator == QStyleOptionHeader::None ? 0 : Px(widget, 9);
     const QRect inner = header.rect.adjusted(margin, 0, -margin, 0);
     QRect rect = inner;
-    if (element == QStyle::SE_HeaderArrow)
+    if (element == QStyle::SE_HeaderArrow) {
+        // On the middle of the text's small letters.
         rect.setLeft(std::max(inner.left(), inner.right() + 1 - arrow));
-    else if (arrow > 0)
+        rect.adjust(0, 2, 0, 0);
+    } else if (arrow > 0) {
         rect.setRight(std::max(inner.left(), inner.right() - arrow - margin / 2));
+    }
     return QStyle::visualRect(header.direction, header.rect, rect);
 }
 

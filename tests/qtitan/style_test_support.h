@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QImage>
 #include <QPainter>
+#include <QPalette>
 #include <QVector>
 #include <functional>
 #include <qtitan/ribbon_style.h>
@@ -39,6 +40,24 @@ inline QVector<QColor> Accents()
 }
 
 constexpr int ThemeCount = 11;
+
+/// What a system sets for high contrast, with disabled texts in a colour of their own.
+inline QPalette HighContrast(bool black)
+{
+    const QColor ground = black ? Qt::black : Qt::white;
+    QPalette palette(ground);
+    for (const QPalette::ColorRole role :
+         {QPalette::Window, QPalette::Base, QPalette::Button, QPalette::AlternateBase, QPalette::ToolTipBase})
+        palette.setColor(role, ground);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+        palette.setColor(role, black ? Qt::white : Qt::black);
+        palette.setColor(QPalette::Disabled, role, black ? QColor(0x3F, 0xF2, 0x3F) : QColor(0x60, 0, 0));
+    }
+    palette.setColor(QPalette::Highlight, black ? QColor(0x1A, 0xEB, 0xFF) : QColor(0x37, 0, 0x6E));
+    palette.setColor(QPalette::HighlightedText, ground);
+    return palette;
+}
 
 /// The font of painted texts, the same on every system that has it.
 inline QFont TestFont()

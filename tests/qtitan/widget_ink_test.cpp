@@ -3,9 +3,11 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateEdit>
 #include <QDockWidget>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QHoverEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -22,7 +24,9 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QToolBar>
+#include <QToolBox>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <qtitan/draw_helpers.h>
@@ -136,6 +140,50 @@ QVector<Kind> Kinds()
                                 window.addDockWidget(Qt::LeftDockWidgetArea, dock);
                                 window.setCentralWidget(new QWidget);
                             }),
+        KindOf<QPushButton>("button with a menu",
+                            [](QPushButton& button) {
+                                button.setText(Ink);
+                                button.setMenu(new QMenu(&button));
+                            }),
+        KindOf<QToolButton>("split tool button",
+                            [](QToolButton& button) {
+                                button.setText(Ink);
+                                button.setMenu(new QMenu(&button));
+                                button.setPopupMode(QToolButton::MenuButtonPopup);
+                            }),
+        KindOf<QLineEdit>("read-only edit",
+                          [](QLineEdit& edit) {
+                              edit.setText(Ink);
+                              edit.setReadOnly(true);
+                          }),
+        KindOf<QComboBox>("editable combo box",
+                          [](QComboBox& combo) {
+                              combo.setEditable(true);
+                              combo.addItem(Ink);
+                          }),
+        KindOf<QDateEdit>("date", [](QDateEdit& edit) { edit.setDisplayFormat(QStringLiteral("'%1'yyyy").arg(Ink)); }),
+        KindOf<QToolBox>("tool box",
+                         [](QToolBox& box) {
+                             box.addItem(new QWidget, Ink);
+                             box.addItem(new QWidget, Ink);
+                         }),
+        KindOf<QTableWidget>("table",
+                             [](QTableWidget& table) {
+                                 table.setRowCount(2);
+                                 table.setColumnCount(2);
+                                 table.setHorizontalHeaderLabels({Ink, Ink});
+                                 table.setVerticalHeaderLabels({Ink, Ink});
+                                 table.setAlternatingRowColors(true);
+                                 for (int i = 0; i < 4; ++i)
+                                     table.setItem(i / 2, i % 2, new QTableWidgetItem(Ink));
+                                 table.setCurrentCell(1, 1);
+                             }),
+        KindOf<QTabWidget>("tab widget with close buttons",
+                           [](QTabWidget& tabs) {
+                               tabs.addTab(new QLabel(Ink), Ink);
+                               tabs.addTab(new QLabel(Ink), Ink);
+                               tabs.setTabsClosable(true);
+                           }),
         KindOf<QScrollBar>("scroll bar", [](QScrollBar& bar) { bar.setRange(0, 50); }),
         KindOf<QSlider>("slider", [](QSlider& slider) { slider.setOrientation(Qt::Horizontal); }),
         KindOf<QSplitter>("splitter",
@@ -155,9 +203,30 @@ QVector<Kind> Kinds()
     };
 }
 
-/// The picture of a widget with its texts.
-QImage PictureOf(const Kind& kind, bool enabled)
+enum class State { Normal, Hovered, Disabled };
+
+/// As if the pointer were over the middle of a widget and of all that is in it.
+void Hover(QWidget& widget)
 {
+    QList<QWidget*> widgets = widget.findChildren<QWidget*>();
+    widgets.prepend(&widget);
+    for (QWidget* each : widgets) {
+        // The ground of a hovered close button looks like a letter to this test.
+        if (each->inherits("CloseButton"))
+            continue;
+        const QPointF at = QRectF(each->rect()).center();
+        each->setAttribute(Qt::WA_UnderMouse);
+        QHoverEvent enter(QEvent::HoverEnter, at, QPointF(-1, -1));
+        QApplication::sendEvent(each, &enter);
+        QHoverEvent move(QEvent::HoverMove, at, QPointF(-1, -1));
+        QApplication::sendEvent(each, &move);
+    }
+}
+
+/// The picture of a widget with its texts.
+QImage PictureOf(const Kind& kind, State state)
+{
+    const bool enabled = state != State::Disabled;
     const std::unique_ptr<QWidget> widget = kind.make();
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPixelSize(13);
@@ -165,6 +234,11 @@ QImage PictureOf(const Kind& kind, bool enabled)
     widget->setEnabled(enabled);
     widget->ensurePolished();
     widget->resize(widget->sizeHint().expandedTo(QSize(120, 24)));
+    if (state == State::Hovered) {
+        // What is not laid out has no middle.
+        widget->grab();
+        Hover(*widget);
+    }
     const QPixmap picture = widget->grab();
     // With a rim, so that a text at the edge is seen whole.
     return style_test::Picture(picture.size() + QSize(20, 20), 1, QApplication::palette().color(QPalette::Window),
@@ -274,7 +348,8 @@ void WidgetInkTest::inkOnWidgetsReads_data()
     QTest::addColumn<int>("theme");
     QTest::addColumn<int>("index");
     const QVector<Kind> kinds = Kinds();
-    for (int theme = 0; theme < style_test::ThemeCount; ++theme)
+    // And two palettes of high contrast.
+    for (int theme = 0; theme < style_test::ThemeCount + 2; ++theme)
         for (int i = 0; i < kinds.size(); ++i)
             if (!IsWordless(kinds[i]))
                 QTest::addRow("theme %d: %s", theme, kinds[i].name) << theme << i;
@@ -286,15 +361,24 @@ void WidgetInkTest::inkOnWidgetsReads()
     QFETCH(int, theme);
     QFETCH(int, index);
     style_test::ApplicationStyle style;
-    style->setTheme(static_cast<OfficeStyle::Theme>(theme));
-    for (const bool enabled : {true, false}) {
-        const QImage picture = PictureOf(Kinds()[index], enabled);
-        const qreal wanted = enabled ? 4.5 : 2.0;
+    if (theme < style_test::ThemeCount)
+        style->setTheme(static_cast<OfficeStyle::Theme>(theme));
+    else
+        QApplication::setPalette(style_test::HighContrast(theme == style_test::ThemeCount));
+    QCOMPARE(style->ribbonTheme().isHighContrast(), theme >= style_test::ThemeCount);
+    const char* const states[] = {"", " hovered", " disabled"};
+    for (const State state : {State::Normal, State::Hovered, State::Disabled}) {
+        const QImage picture = PictureOf(Kinds()[index], state);
+        const qreal wanted = state == State::Disabled ? 2.0 : 4.5;
         const InkFound found = FindInk(picture);
-        QVERIFY2(found.least >= wanted, qPrintable(found.where + (enabled ? "" : " disabled")));
+        const char* name = states[static_cast<int>(state)];
+        if (found.least < wanted)
+            QApplication::setPalette(QPalette());
+        QVERIFY2(found.least >= wanted, qPrintable(found.where + QLatin1String(name)));
         // The test is worth nothing when it does not see the text.
-        QVERIFY2(found.blocks > 0, enabled ? "no text seen" : "no disabled text seen");
+        QVERIFY2(found.blocks > 0, qPrintable(QStringLiteral("no text seen") + QLatin1String(name)));
     }
+    QApplication::setPalette(QPalette());
 }
 
 void WidgetInkTest::aModelsTextColourStaysReadableOnASelection()
