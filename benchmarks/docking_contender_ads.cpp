@@ -43,9 +43,10 @@ public:
             Place(group, Side((int(group.side) + 1) % 4));
         }
     }
-    int Capture() override
+    void Capture() override { m_captured = mp_manager->saveState(); }
+    int Write() override
     {
-        m_states.push_back(mp_manager->saveState());
+        m_states.push_back(m_captured);
         return int(m_states.size()) - 1;
     }
     void Restore(int state) override { mp_manager->restoreState(m_states[size_t(state)]); }
@@ -89,6 +90,7 @@ private:
     Arrangement m_arrangement;
     std::vector<ads::CDockWidget*> m_docks;
     QPointer<ads::CDockAreaWidget> m_last[4];
+    QByteArray m_captured;
     std::vector<QByteArray> m_states;
 };
 

@@ -15,6 +15,7 @@
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QMainWindow>
 #include <QMouseEvent>
 
@@ -180,10 +181,14 @@ public:
     }
     QWidget& Window() override { return m_window; }
     void Rearrange() override { m_panels.Rearrange(); }
-    int Capture() override
+    void Capture() override
     {
         mp_current->Store();
-        m_texts.push_back(QJsonDocument(mp_current->ToJson()).toJson(QJsonDocument::Compact));
+        m_captured = mp_current->ToJson();
+    }
+    int Write() override
+    {
+        m_texts.push_back(QJsonDocument(m_captured).toJson(QJsonDocument::Compact));
         return int(m_texts.size()) - 1;
     }
     void Restore(int number) override
@@ -209,6 +214,7 @@ private:
     Panels m_panels;
     UiStateDocking m_live;
     UiStateDocking* mp_current = &m_live;
+    QJsonObject m_captured;
     std::vector<QByteArray> m_texts;
     std::vector<std::unique_ptr<UiStateDocking>> m_trees;
 };

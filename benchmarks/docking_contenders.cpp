@@ -66,9 +66,10 @@ public:
             }
         }
     }
-    int Capture() override
+    void Capture() override { m_captured = m_window.saveState(); }
+    int Write() override
     {
-        m_states.push_back(m_window.saveState());
+        m_states.push_back(m_captured);
         return int(m_states.size()) - 1;
     }
     void Restore(int state) override { m_window.restoreState(m_states[size_t(state)]); }
@@ -92,6 +93,7 @@ private:
     QMainWindow m_window;
     Arrangement m_arrangement;
     std::vector<QDockWidget*> m_docks;
+    QByteArray m_captured;
     std::vector<QByteArray> m_states;
 };
 
@@ -204,7 +206,7 @@ int CountVisible(QWidget& window)
 Arrangement Arrange(int contents)
 {
     Arrangement result;
-    const int floating = contents / 10;
+    const int floating = qMin(contents / 10, 6);
     const int docked = contents - floating;
     for (int number = 0; number < docked;) {
         // Three alone, then three together.

@@ -41,7 +41,7 @@ struct Group
     std::vector<int> contents;
 };
 
-/// Where everything lies: a tenth floats, half of the rest are tabs.
+/// Where everything lies: six float at most, half of the rest are tabs.
 struct Arrangement
 {
     std::vector<Group> docked;
@@ -64,8 +64,10 @@ public:
 
     /// Brings a part of the contents to other sides.
     virtual void Rearrange() {}
-    /// Stores the arrangement and gives its number.
-    virtual int Capture() { return 0; }
+    /// Takes stock of the arrangement, as a tree and its JSON or whatever the contender has.
+    virtual void Capture() {}
+    /// Keeps what was captured, as a text or bytes, and gives its number.
+    virtual int Write() { return 0; }
     virtual void Restore(int) {}
 
     /// False for a contender that can only be dragged with the mouse.

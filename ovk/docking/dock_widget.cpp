@@ -154,6 +154,7 @@ bool DockWidget::IsVisible() const
 void DockWidget::setVisible(bool visible)
 {
     Impl* const impl = _Impl();
+    const DockCallbackScope scope(impl->manager);
     impl->explicitly_hidden = !visible;
     const bool shown = visible && IsAvailable();
     // Its parent asks a child that nobody has shown or hidden yet while it appears itself.
@@ -165,6 +166,8 @@ void DockWidget::setVisible(bool visible)
         return;
     }
     const QPointer<DockWidget> guard(this);
+    if (shown)
+        impl->WaitForWindow();
     QWidget::setVisible(shown);
     if (!guard)
         return;
@@ -302,9 +305,12 @@ void DockWidget::SetEnabled(bool enabled)
 
 bool DockWidget::IsAvailable() const
 {
-    for (const IDockPage* page : qAsConst(_Impl()->all_pages)) {
-        if (page->IsAvailable())
-            return true;
+    const Impl* const impl = _Impl();
+    const DockCallbackScope scope(impl->manager);
+    const QList<IDockPage*> pages = impl->all_pages;
+    for (IDockPage* page : pages) {
+        if (impl->all_pages.contains(page) && page->IsAvailable())
+            return !impl->destroying;
     }
     return false;
 }

@@ -17,6 +17,21 @@ constexpr int c_update_priority = 1;
 /// The bits of a window's type that a docked panel loses.
 constexpr int c_window_type_bits = 0x13;
 
+/// Where the work in a page goes on: where it was, or where Tab would go first.
+QWidget& FirstToFocus(QWidget& page)
+{
+    if (QWidget* const inner = page.focusWidget())
+        return *inner;
+    if (page.focusPolicy() != Qt::NoFocus)
+        return page;
+    for (QWidget* next = page.nextInFocusChain(); next != &page; next = next->nextInFocusChain()) {
+        if ((next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && page.isAncestorOf(next) &&
+            next->isVisible() && next->isEnabled())
+            return *next;
+    }
+    return page;
+}
+
 } // namespace
 
 DockUpdateEvent::DockUpdateEvent() : QEvent(GetType()) {}
@@ -34,6 +49,7 @@ DockWidget::Impl::~Impl() = default;
 void DockWidget::Impl::Init()
 {
     tab_bar = new QTabBar(window); // a child of the panel
+    KeepParentPlain(*tab_bar);
     tab_bar->setMovable(true);
     tab_bar->setContextMenuPolicy(Qt::CustomContextMenu);
     tab_bar->hide();
@@ -47,9 +63,15 @@ void DockWidget::Impl::Init()
     PostUpdate(UpdateTitleText | UpdateTabs | UpdateButtons | UpdateTitleOnOff);
 }
 
+void DockWidget::Impl::KeepParentPlain(QWidget& child)
+{
+    child.setAttribute(Qt::WA_DontCreateNativeAncestors);
+}
+
 DockTitle* DockWidget::Impl::CreateTitle()
 {
     auto* const made = new DockWidgetTitle(window); // a child of the panel
+    KeepParentPlain(*made);
     connect(made->GetMinimizeButton(), &QToolButton::clicked, this, [this] {
         const DockCallbackScope scope(manager);
         Panel()->SetCollapsed(!collapsed, false);
@@ -71,6 +93,7 @@ DockTitle* DockWidget::Impl::CreateTitle()
 
 void DockWidget::Impl::OnResized(const QSize& size)
 {
+    const DockCallbackScope scope(manager);
     DockWindow::Impl::OnResized(size);
     LayoutChildren();
     if (block_overlay)
@@ -127,6 +150,8 @@ void DockWidget::Impl::ProcessUpdate()
         ApplySizes();
         flags |= UpdateGeometry;
     }
+    if (destroying)
+        return;
     if (flags & UpdateGeometry)
         LayoutChildren();
 
@@ -204,8 +229,7 @@ void DockWidget::Impl::FocusCurrentPage()
     QWidget* const widget = page ? WidgetOf(page) : nullptr;
     if (!widget || !widget->isVisible())
         return;
-    QWidget* const inner = widget->focusWidget();
-    (inner ? inner : widget)->setFocus(Qt::MouseFocusReason);
+    FirstToFocus(*widget).setFocus(Qt::MouseFocusReason);
 }
 
 void DockWidget::Impl::OnDocked(DockToolboxSite& site)
@@ -224,6 +248,7 @@ void DockWidget::Impl::OnDocked(DockToolboxSite& site)
         title->setAttribute(Qt::WA_Hover, false);
     }
     HideOverlay();
+    EndWaiting();
     Panel()->_SetToolboxSite(&site);
     // The site has a say in the sizes and the policy.
     PostUpdate(UpdateSizes);
@@ -255,6 +280,25 @@ void DockWidget::Impl::SetFloated(const QPoint& pos)
     PostUpdate(UpdateSizes | UpdateButtons);
     window->move(pos);
     window->setVisible(show);
+}
+
+void DockWidget::Impl::WaitForWindow()
+{
+    if (!floated || manager->window()->isVisible())
+        return;
+    m_waiting = true;
+    window->setAttribute(Qt::WA_DontShowOnScreen);
+}
+
+void DockWidget::Impl::EndWaiting()
+{
+    if (!std::exchange(m_waiting, false))
+        return;
+    window->setAttribute(Qt::WA_DontShowOnScreen, false);
+    if (!floated || !window->isVisible())
+        return;
+    window->QWidget::setVisible(false);
+    window->QWidget::setVisible(true);
 }
 
 void DockWidget::Impl::SetExpandAvailable(bool available)

@@ -61,10 +61,11 @@ bool DockWidget::Impl::SetPageShown(IDockPage* page, bool show, bool update_pane
     const SimpleLock::ScopedMarker marker = update_lock.Acquire();
     if (!marker || destroying || !all_pages.contains(page))
         return false;
-    const bool wanted = show && page->IsAvailable();
-    if (wanted == visible_pages.contains(page))
-        return false;
     const DockCallbackScope scope(manager);
+    const bool wanted = show && page->IsAvailable();
+    // The page may have left the panel when it was asked, or have taken it along.
+    if (destroying || !all_pages.contains(page) || wanted == visible_pages.contains(page))
+        return false;
     if (wanted)
         ShowTab(page);
     else
@@ -89,6 +90,7 @@ bool DockWidget::Impl::AddPageImpl(IDockPage* page, int index, PositionMode mode
     const DockCallbackScope scope(manager);
     all_pages.insert(i, page);
     m_widgets.insert(page, widget);
+    KeepParentPlain(*widget);
     widget->setParent(window);
     widget->hide();
     if (!visible)
@@ -139,6 +141,7 @@ void DockWidget::Impl::SetPageVisible(IDockPage* page, bool visible)
 {
     if (!page || !all_pages.contains(page) || visible == !hidden_pages.contains(page))
         return;
+    const DockCallbackScope scope(manager);
     const QPointer<DockWindow> guard(window);
     SetPageShown(page, visible, true);
     if (!guard || !all_pages.contains(page))
@@ -253,10 +256,22 @@ void DockWidget::Impl::ShowContextMenu(const QPoint& pos)
     auto* const menu = new QMenu(window); // a child of the panel, deletes itself when closed
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setAccessibleName(TitleText());
-    for (IDockPage* page : qAsConst(all_pages)) {
+    // A page that is asked may switch the layout: what is left of the panel then has no menu.
+    const DockCallbackScope scope(manager);
+    const QList<IDockPage*> pages = all_pages;
+    for (IDockPage* page : pages) {
+        if (!all_pages.contains(page))
+            continue;
+        const bool enabled = page->IsAvailable() && page->IsToggleable();
+        if (destroying) {
+            delete menu;
+            return;
+        }
+        if (!all_pages.contains(page))
+            continue;
         QAction* const action = menu->addAction(WidgetOf(page)->windowTitle());
         action->setCheckable(true);
-        action->setEnabled(page->IsAvailable() && page->IsToggleable());
+        action->setEnabled(enabled);
         action->setChecked(visible_pages.contains(page));
         connect(action, &QAction::toggled, this, [this, page](bool checked) {
             if (!all_pages.contains(page))

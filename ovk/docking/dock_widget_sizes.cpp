@@ -1,6 +1,6 @@
 #include "ovk/docking/dock_widget_p.h"
 
-#include "ovk/docking/dock_manager.h"
+#include "ovk/docking/dock_manager_p.h"
 #include "ovk/docking/dock_toolbox_site_p.h"
 
 #include <QtWidgets/QLayout>
@@ -13,15 +13,18 @@ namespace {
 
 const QSize c_largest(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 
-QSize WidgetMin(QWidget& widget)
+/// Nothing for a page that left meanwhile.
+QSize WidgetMin(QWidget* widget)
 {
-    QSize size = widget.minimumSize();
-    if (size == QSize(0, 0) && widget.layout()) {
-        widget.layout()->activate();
-        size = widget.minimumSize();
+    if (!widget)
+        return {0, 0};
+    QSize size = widget->minimumSize();
+    if (size == QSize(0, 0) && widget->layout()) {
+        widget->layout()->activate();
+        size = widget->minimumSize();
         // Qt hands the minimum of a layout to a window only, and a page is none.
         if (size == QSize(0, 0))
-            size = widget.layout()->totalMinimumSize();
+            size = widget->layout()->totalMinimumSize();
     }
     return size;
 }
@@ -39,13 +42,16 @@ QSize DockWidget::Impl::PageMin(IDockPage& page, SizeGroups& groups) const
     const QString group = page.GetSizeGroupId();
     const bool alone = visible_pages.size() == 1 && visible_pages.contains(&page);
     if (group.isEmpty() || alone)
-        return WidgetMin(*WidgetOf(&page));
+        return WidgetMin(WidgetOf(&page));
     if (groups.sizes.isEmpty()) {
-        for (const IDockPage* other : all_pages) {
+        const QList<IDockPage*> pages = all_pages;
+        for (const IDockPage* other : pages) {
+            if (!m_widgets.contains(other))
+                continue;
             const QString id = other->GetSizeGroupId();
             if (id.isEmpty())
                 continue;
-            const QSize min = WidgetMin(*WidgetOf(other));
+            const QSize min = WidgetMin(WidgetOf(other));
             const auto it = groups.sizes.find(id);
             if (it == groups.sizes.end())
                 groups.sizes.insert(id, min);
@@ -64,7 +70,8 @@ QSize DockWidget::Impl::PageMax(IDockPage& page, SizeGroups& groups) const
         if (policy != QSizePolicy::Preferred && policy != QSizePolicy::Expanding)
             return PageMin(page, groups);
     }
-    return WidgetOf(&page)->maximumSize();
+    const QWidget* const widget = WidgetOf(&page);
+    return widget ? widget->maximumSize() : c_largest;
 }
 
 void DockWidget::Impl::ComputeSizes() const
@@ -76,10 +83,15 @@ void DockWidget::Impl::ComputeSizes() const
     const QSize old_min = all_min;
     const QSize old_max = all_max;
 
+    // Pages are asked, and may do anything.
+    const DockCallbackScope scope(manager);
     SizeGroups groups;
     QSize min(0, 0);
     QSize max = c_largest;
-    for (IDockPage* page : visible_pages) {
+    const QList<IDockPage*> pages = visible_pages;
+    for (IDockPage* page : pages) {
+        if (!m_widgets.contains(page))
+            continue;
         min = min.expandedTo(PageMin(*page, groups));
         max = max.boundedTo(PageMax(*page, groups));
     }
@@ -136,6 +148,7 @@ QSize DockWidget::Impl::GetCurrentMax() const
 
 void DockWidget::Impl::ApplySizes()
 {
+    const DockCallbackScope scope(manager);
     sizes_dirty = true;
     QSize min = GetCurrentMin();
     QSize max = GetCurrentMax();
@@ -146,6 +159,8 @@ void DockWidget::Impl::ApplySizes()
     IDockPage* const page = GetCurrentPage();
     if (DockToolboxSite* const site = Site()) {
         QSizePolicy policy = page ? page->GetSizePolicy() : window->sizePolicy();
+        if (Site() != site)
+            return;
         site->_AdjustWidgetMinMax(min, max, policy);
         // A panel that is not seen needs no room.
         if (Panel()->IsVisible())

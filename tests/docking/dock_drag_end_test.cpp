@@ -13,6 +13,9 @@ private Q_SLOTS:
     void aLayoutThatIsSwitchedInADragLeavesNothing();
     void aLostFocusEndsTheDrag_data();
     void aLostFocusEndsTheDrag();
+    void aPanelThatGoesEndsItsDrag_data();
+    void aPanelThatGoesEndsItsDrag();
+    void aTornTabThatDiesLetsGoOfTheMouse();
 };
 
 void DockDragEndTest::aPanelThatDiesInItsDragLeavesNothing()
@@ -87,6 +90,77 @@ void DockDragEndTest::aLostFocusEndsTheDrag()
     QVERIFY(!a->_Impl()->overlay);
     QVERIFY(!panel->_Impl()->dragging && !panel->_Impl()->armed);
     QVERIFY(panel->IsFloated());
+    QCOMPARE(fixture.Inconsistency(), QString());
+}
+
+void DockDragEndTest::aPanelThatGoesEndsItsDrag_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"closed by its owner", "hidden", "its page deleted", "its page hidden",
+                            "its page not available", "all floating panels hidden"})
+        QTest::newRow(way) << QString::fromLatin1(way);
+}
+
+void DockDragEndTest::aPanelThatGoesEndsItsDrag()
+{
+    QFETCH(QString, way);
+    DockFixture fixture;
+    DockWidget* const a = fixture.Panel("a", QSize(150, 300));
+    fixture.Left()->AddWidget(a);
+    const QPointer<DockWidget> panel = fixture.Panel("panel");
+    panel->SetFloated(QPoint(400, 300));
+    DockFixture::Settle();
+    TitleDrag drag(*panel);
+    drag.To(QPoint(450, 350));
+    drag.To(At(*a, 0.5, 0.1));
+    QVERIFY(fixture.Left()->_pp()->estimator);
+    FakePage* const page = DockFixture::Page(*panel);
+    const QHash<QString, std::function<void()>> ways{
+        {"closed by its owner",
+         [&] {
+             panel->SetDeleteOnClose(false);
+             panel->Close();
+         }},
+        {"hidden", [&] { panel->setVisible(false); }},
+        {"its page deleted", [&] { delete page; }},
+        {"its page hidden", [&] { panel->SetPageVisible(static_cast<IDockPage*>(page), false); }},
+        {"its page not available",
+         [&] {
+             page->available = false;
+             panel->AvailabilityChanged();
+         }},
+        {"all floating panels hidden", [&] { fixture.manager->HideFloating(); }},
+    };
+    ways.value(way)();
+    QVERIFY(!fixture.manager->_Impl()->controller->IsDragging());
+    QVERIFY(!fixture.Left()->_pp()->estimator);
+    QVERIFY(!a->_Impl()->overlay);
+    QVERIFY(!QWidget::mouseGrabber());
+    QVERIFY(!panel->_Impl()->dragging && !panel->_Impl()->armed);
+    QCOMPARE(fixture.Inconsistency(), QString());
+    // The release that comes late is nobody's drop.
+    drag.Drop(At(*a, 0.5, 0.1));
+    QVERIFY(panel->IsFloated());
+    QCOMPARE(DockFixture::Order(*fixture.Left()), (QStringList{"a", "|"}));
+}
+
+void DockDragEndTest::aTornTabThatDiesLetsGoOfTheMouse()
+{
+    DockFixture fixture;
+    DockWidget* const panel = fixture.Panel("a");
+    panel->AddPage(new FakePage("b"));
+    fixture.Left()->AddWidget(panel);
+    DockFixture::Settle();
+    QTabBar* const tabs = panel->_Impl()->tab_bar;
+    const QPoint on_tab = tabs->tabRect(0).center();
+    const QPoint outside(on_tab.x(), 3 * tabs->height());
+    QTest::mousePress(tabs, Qt::LeftButton, {}, on_tab);
+    Send(*tabs, QEvent::MouseMove, outside, tabs->mapToGlobal(outside), Qt::LeftButton);
+    QVERIFY(QWidget::mouseGrabber());
+    delete fixture.manager->GetFloatedWidgets().first();
+    QVERIFY(!QWidget::mouseGrabber());
+    QVERIFY(!fixture.manager->_Impl()->controller->IsDragging());
+    QTest::mouseRelease(tabs, Qt::LeftButton, {}, on_tab);
     QCOMPARE(fixture.Inconsistency(), QString());
 }
 

@@ -1,6 +1,10 @@
 #include "dock_fixture.h"
 #include "tests/support/test_main.h"
 
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWindow>
+
 using namespace ovk;
 using ovk_test::DockFixture;
 using ovk_test::FakePage;
@@ -16,6 +20,10 @@ private Q_SLOTS:
     void floatingAndDockingAreClean();
     void aBlockedPanelIsCovered();
     void panelsDockedBeforeTheWindowShowsAppearWithIt();
+    void dockingBeforeTheFirstShowFoldsNobody_data();
+    void dockingBeforeTheFirstShowFoldsNobody();
+    void aPanelOfAScreenThatGoesComesBack();
+    void aPageWithAWindowOfItsOwnSurvives();
 };
 
 void DockFloatTest::closingDeletesOrHides()
@@ -161,6 +169,105 @@ void DockFloatTest::panelsDockedBeforeTheWindowShowsAppearWithIt()
     const DockTitle* const title = panel->_Impl()->title;
     QCOMPARE(title->width(), panel->width());
     QVERIFY(title->GetRight().first()->geometry().right() > panel->width() - 10);
+    QCOMPARE(fixture.Inconsistency(), QString());
+}
+
+void DockFloatTest::dockingBeforeTheFirstShowFoldsNobody_data()
+{
+    QTest::addColumn<bool>("managed");
+    QTest::newRow("a manager that a layout places") << true;
+    QTest::newRow("a manager that nobody has sized") << false;
+}
+
+void DockFloatTest::dockingBeforeTheFirstShowFoldsNobody()
+{
+    QFETCH(bool, managed);
+    DockSettings::Animated().SetData(false);
+    {
+        QWidget window;
+        auto* const manager = new DockManager(&window); // a child of the window
+        if (managed) {
+            auto* const layout = new QVBoxLayout(&window); // a child of the window
+            layout->addWidget(manager);
+        }
+        // Far more than fits into the size that a widget has before anybody gave it one.
+        QList<DockWidget*> panels;
+        for (int i = 0; i < 12; ++i) {
+            DockWidget* const panel = manager->CreateDockWidget();
+            panel->AddPage(new FakePage(QString::number(i), QSize(90, 120)));
+            QVERIFY(manager->GetLayout()
+                        ->GetSite(i % 2 ? DockLayout::Right : DockLayout::Left)
+                        ->GetToolboxSite()
+                        ->AddWidget(panel));
+            panels.append(panel);
+        }
+        panels.first()->SetCollapsed(true, false);
+        panels.first()->SetCollapsed(false, false);
+        window.resize(1000, 1000);
+        if (!managed)
+            manager->resize(1000, 1000);
+        window.show();
+        manager->show();
+        DockFixture::Settle();
+        for (const DockWidget* panel : qAsConst(panels))
+            QVERIFY2(panel->isVisible() && !panel->IsCollapsed(), qPrintable(panel->GetName()));
+        QCOMPARE(manager->_Impl()->CheckConsistency(), QString());
+    }
+    DockSettings::Animated().SetData(true);
+}
+
+void DockFloatTest::aPanelOfAScreenThatGoesComesBack()
+{
+    DockFixture fixture;
+    DockManager::Impl& impl = *fixture.manager->_Impl();
+    // A second screen left of the first and above it.
+    QList<QRect> screens{QRect(0, 0, 800, 800), QRect(-1920, -600, 1920, 1080)};
+    impl.screens = [&screens] { return screens; };
+    DockWidget* const there = fixture.Panel("there");
+    DockWidget* const here = fixture.Panel("here");
+    DockWidget* const hidden = fixture.Panel("hidden");
+    there->SetFloated(QPoint(-1000, -300));
+    here->SetFloated(QPoint(60, 70));
+    hidden->SetFloated(QPoint(-900, -200));
+    DockFixture::Settle();
+    QCOMPARE(there->pos(), QPoint(-1000, -300));
+    hidden->setVisible(false);
+
+    screens.removeLast();
+    Q_EMIT qGuiApp->screenRemoved(qGuiApp->primaryScreen());
+    const QRect around(fixture.manager->mapToGlobal(QPoint(0, 0)), fixture.manager->size());
+    QVERIFY(around.contains(there->geometry()));
+    QCOMPARE(here->pos(), QPoint(60, 70));
+    // Who was hidden meanwhile comes back when he is shown.
+    hidden->setVisible(true);
+    QVERIFY(around.contains(hidden->geometry()));
+
+    // A screen that becomes smaller leaves panels outside just so.
+    here->move(700, 700);
+    screens = {QRect(0, 0, 640, 480)};
+    Q_EMIT qGuiApp->primaryScreen()->geometryChanged(screens.first());
+    QVERIFY(here->pos() != QPoint(700, 700));
+}
+
+void DockFloatTest::aPageWithAWindowOfItsOwnSurvives()
+{
+    DockFixture fixture;
+    DockWidget* const panel = fixture.Panel("a", QSize(150, 120));
+    FakePage* const page = DockFixture::Page(*panel);
+    page->setAttribute(Qt::WA_NativeWindow);
+    QVERIFY(page->winId());
+    fixture.Left()->AddWidget(panel);
+    DockFixture::Settle();
+    for (int i = 0; i < 3; ++i) {
+        panel->SetFloated(QPoint(30, 40));
+        DockFixture::Settle();
+        QVERIFY(page->isVisible() && page->windowHandle()->isVisible());
+        QVERIFY(page->width() >= page->minimumWidth() && page->height() >= page->minimumHeight());
+        QVERIFY(fixture.Site(DockLayout::Side(i))->AddWidget(panel));
+        DockFixture::Settle();
+        QVERIFY(page->isVisible() && page->windowHandle()->isVisible());
+        QVERIFY(page->width() >= page->minimumWidth() && page->height() >= page->minimumHeight());
+    }
     QCOMPARE(fixture.Inconsistency(), QString());
 }
 

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void aSwitchFromInsideAPageIsSafe();
     void aFoldedSiteIsRestored();
     void aHundredPanelsAreRestoredAtOnce();
+    void aPanelThatFoundNoRoomIsStoredOpen();
+    void aFoldedPanelThatFloatsIsStoredAsItIs();
 };
 
 void DockStateRestoreTest::aCaptureIsEqualToWhatWasBuilt()
@@ -193,6 +195,49 @@ void DockStateRestoreTest::aHundredPanelsAreRestoredAtOnce()
     const qint64 resized = timer.nsecsElapsed() / steps;
     qInfo("100 panels: built in %.1f ms, at rest after %.1f ms; a resize step %.2f ms",
           double(built) / 1e6, double(settled) / 1e6, double(resized) / 1e6);
+}
+
+void DockStateRestoreTest::aPanelThatFoundNoRoomIsStoredOpen()
+{
+    DockHost host;
+    host.Load(Docking({{"left", {Panel("a", {"A"}), Panel("b", {"B"})}}}));
+    // A small screen: both can be shown, but not open.
+    host.Pages().keep.value("A")->setMinimumSize(80, 600);
+    host.Pages().keep.value("B")->setMinimumSize(80, 300);
+    host.Find("a")->SetCollapsible(false);
+    DockFixture::Settle();
+    DockWidget* const panel = host.Find("b");
+    panel->setVisible(false);
+    DockFixture::Settle();
+    panel->setVisible(true);
+    DockFixture::Settle();
+    QVERIFY(panel->IsCollapsed());
+    host.State().Store();
+    QList<UiStateDockWidget*> items;
+    host.State().GetItems(items);
+    QVERIFY(!items.at(1)->IsMinimized());
+    // The user's own word counts.
+    host.Pages().keep.value("A")->setMinimumSize(80, 50);
+    DockFixture::Settle();
+    panel->SetCollapsed(false, false);
+    panel->SetCollapsed(true, false);
+    host.State().Store();
+    items.clear();
+    host.State().GetItems(items);
+    QVERIFY(items.at(1)->IsMinimized());
+}
+
+void DockStateRestoreTest::aFoldedPanelThatFloatsIsStoredAsItIs()
+{
+    DockHost host;
+    host.Load(Docking({{"left", {Panel("a", {"A"})}}}));
+    DockWidget* const panel = host.Find("a");
+    panel->SetCollapsed(true, true);
+    panel->SetFloated(QPoint(50, 50));
+    host.State().Store();
+    QList<UiStateDockWidget*> items;
+    host.State().GetItems(items);
+    QVERIFY(items.first()->IsMinimized());
 }
 
 OVK_TEST_CLASS(DockStateRestoreTest)

@@ -1,6 +1,10 @@
 #include "dock_fixture.h"
 #include "tests/support/test_main.h"
 
+#include <QLabel>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
 using namespace ovk;
 using ovk_test::DockFixture;
 using ovk_test::FakePage;
@@ -32,6 +36,10 @@ private Q_SLOTS:
     void panelsKnowWhetherTheyCouldOpen();
     void sizesAreComputedOnceAChange();
     void aPanelMovesWithinItsSite();
+    void aResizeStepComputesNoSizes();
+    void aMoveThatComesBeforeTheLayoutCountsOnce();
+    void theFoldButtonIsOffWhereThereIsNoRoom();
+    void aPlainPageNeedsTheRoomOfItsLayout();
 };
 
 void ToolboxSiteTest::panelsAreAddedBeforeTheLastItem()
@@ -422,6 +430,113 @@ void ToolboxSiteTest::aPanelMovesWithinItsSite()
     fixture.Right()->RemoveWidget(a);
     QCOMPARE(a->GetToolboxSite(), fixture.Left());
     QCOMPARE(fixture.Inconsistency(), QString());
+}
+
+void ToolboxSiteTest::aResizeStepComputesNoSizes()
+{
+    DockFixture fixture(QSize(1000, 800));
+    QList<DockWidget*> panels;
+    for (int i = 0; i < 12; ++i) {
+        DockWidget* const panel = fixture.Panel(QString::number(i), QSize(60, 45));
+        for (int k = i % 3; k > 0; --k) {
+            auto* const page = new FakePage(QStringLiteral("%1.%2").arg(i).arg(k));
+            auto* const layout = new QVBoxLayout(page); // the page's
+            layout->addWidget(new QLabel(QStringLiteral("text")));
+            layout->addWidget(new QSpinBox);
+            page->policy = QSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+            panel->AddPage(page);
+        }
+        if (i == 11)
+            panel->SetFloated(QPoint(100, 100));
+        else
+            fixture.Site(DockLayout::Side(i % 4))->AddWidget(panel);
+        panels.append(panel);
+    }
+    panels.at(5)->SetCollapsed(true, false);
+    DockFixture::Settle();
+    for (DockWidget* panel : qAsConst(panels))
+        panel->_Impl()->size_computations = 0;
+    for (int step = 0; step < 20; ++step) {
+        fixture.manager->resize(1000 - 20 * step, 800 - 15 * step);
+        panels.at(11)->resize(300 + step, 200 + step);
+        DockFixture::Settle();
+        for (const DockWidget* panel : qAsConst(panels))
+            QCOMPARE(panel->_Impl()->size_computations, 0);
+    }
+    // A page that changes is measured, and the others are not.
+    DockFixture::Page(*panels.first())->setMinimumSize(70, 50);
+    DockFixture::Settle();
+    for (const DockWidget* panel : qAsConst(panels))
+        QCOMPARE(panel->_Impl()->size_computations > 0, panel == panels.first());
+}
+
+void ToolboxSiteTest::aMoveThatComesBeforeTheLayoutCountsOnce()
+{
+    DockFixture fixture;
+    fixture.Left()->AddWidget(fixture.Panel("a"));
+    fixture.Left()->SetCrossSize(160);
+    DockFixture::Settle();
+    DockToolboxSiteHandle* const handle = fixture.Left()->GetDockSite()->_pp()->handle;
+    const QPoint origin = handle->pos();
+    QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(2, 2));
+    // Three moves in one turn of the event loop: each is told where the handle seemed to be.
+    for (const int x : {12, 25, 40}) {
+        const QPoint local = origin + QPoint(x + 2, 2) - handle->pos();
+        QMouseEvent move(QEvent::MouseMove, local, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(handle, &move);
+    }
+    QTest::mouseRelease(handle, Qt::LeftButton);
+    DockFixture::Settle();
+    QCOMPARE(fixture.Left()->GetCrossSize(), 200);
+    QCOMPARE(handle->pos(), origin + QPoint(40, 0));
+}
+
+void ToolboxSiteTest::theFoldButtonIsOffWhereThereIsNoRoom()
+{
+    DockFixture fixture(QSize(800, 300));
+    DockWidget* const rigid = fixture.Panel("rigid", QSize(100, 200));
+    rigid->SetCollapsible(false);
+    fixture.Left()->AddWidget(rigid);
+    DockWidget* const other = fixture.Panel("other", QSize(100, 150));
+    fixture.Left()->AddWidget(other);
+    DockFixture::Settle();
+    QVERIFY(other->IsCollapsed());
+    const auto* const title = qobject_cast<DockWidgetTitle*>(other->_Impl()->title.data());
+    QVERIFY(!title->GetMinimizeButton()->isEnabled());
+    // Exactly as much as it needs.
+    fixture.manager->resize(800, 350);
+    DockFixture::Settle();
+    QVERIFY(!other->IsCollapsed());
+    other->SetCollapsed(true, false);
+    DockFixture::Settle();
+    QVERIFY(title->GetMinimizeButton()->isEnabled());
+    fixture.manager->resize(800, 349);
+    DockFixture::Settle();
+    QVERIFY(!title->GetMinimizeButton()->isEnabled());
+    // What floats has all the room.
+    other->SetFloated(QPoint(50, 50));
+    DockFixture::Settle();
+    QVERIFY(title->GetMinimizeButton()->isEnabled());
+}
+
+void ToolboxSiteTest::aPlainPageNeedsTheRoomOfItsLayout()
+{
+    DockFixture fixture;
+    auto* const page = new QWidget(fixture.manager);
+    auto* const layout = new QVBoxLayout(page); // the page's
+    auto* const field = new QWidget;
+    field->setMinimumSize(120, 70);
+    layout->addWidget(field);
+    DockWidget* const panel = fixture.manager->CreateDockWidget();
+    panel->AddWidget(page);
+    fixture.Left()->AddWidget(panel);
+    DockFixture::Settle();
+    QVERIFY(field->isVisible());
+    QVERIFY(field->width() >= 120 && field->height() >= 70);
+    // A content that grows takes its panel along.
+    field->setMinimumSize(180, 90);
+    DockFixture::Settle();
+    QVERIFY(field->width() >= 180 && field->height() >= 90);
 }
 
 OVK_TEST_CLASS(ToolboxSiteTest)
