@@ -43,6 +43,7 @@ void RibbonBarPrivate::create()
     quickAccess = new RibbonQuickAccessBar(quickAccessClip);
     overflow = new RibbonOverflowButton(quickAccess, q);
     overflow->hide();
+    QObject::connect(quickAccess, &QToolBar::actionTriggered, q, [this] { commandRan(); });
     keyTips = std::make_unique<RibbonKeyTips>(q);
 }
 
@@ -105,6 +106,7 @@ void RibbonBarPrivate::insertCorner(QAction* action, QAction* before)
     const bool known = pending.action == action;
     button->setUp(action, known ? pending.style : Qt::ToolButtonIconOnly,
                   QToolButton::InstantPopup, known ? pending.menu : nullptr);
+    QObject::connect(button, &QToolButton::triggered, q, [this] { commandRan(); });
     const auto it = std::find_if(corner.begin(), corner.end(),
                                  [before](const Corner& c) { return c.action == before; });
     corner.insert(it, {action, button});

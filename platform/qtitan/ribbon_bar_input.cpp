@@ -28,10 +28,15 @@ bool hasNativeNeighbour(const QWidget* window, const QWidget* bar)
 
 } // namespace
 
-void RibbonBarPrivate::tabPressed(RibbonPage* page)
+void RibbonBarPrivate::closeBackstage()
 {
     if (backstage)
         backstage->setVisible(false);
+}
+
+void RibbonBarPrivate::tabPressed(RibbonPage* page)
+{
+    closeBackstage();
     keyTips->stop();
     if (!minimized) {
         makeCurrent(page);

@@ -52,6 +52,7 @@ public:
     QList<RibbonPage*> shownPages() const;
 
     // What the user does (ribbon_bar_input.cpp)
+    void closeBackstage();
     void tabPressed(RibbonPage* page);
     void tabDoubleClicked();
     void wheel(QWheelEvent* event);

@@ -10,6 +10,7 @@
 #include "ribbon_util_p.h"
 
 #include <QActionEvent>
+#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -421,11 +422,17 @@ void RibbonGroupPrivate::setCollapsed(bool on)
     if (collapsed == on)
         return;
     collapsed = on;
-    if (!on) {
+    if (on && panel->isAncestorOf(QApplication::focusWidget())) {
+        // Qt would hand it on to whatever comes next in the window.
+        q->setFocus(Qt::OtherFocusReason);
+    } else if (!on) {
         q->hidePopup();
         panel->setGeometry(q->rect());
     }
     panel->setVisible(!on);
+    RibbonBar* bar = ribbonBarOf(q);
+    if (!on && q->hasFocus() && bar)
+        RibbonKeyboard::leave(bar);
     q->update();
 }
 

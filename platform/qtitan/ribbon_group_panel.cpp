@@ -109,7 +109,16 @@ void RibbonGroupPanel::insertItem(int index, const Item& item)
         item.widget->setParent(this);
     if (item.kind == Item::Kind::Button)
         m_allMade = false;
+    // What is picked is a command too.
+    if (auto* gallery = qobject_cast<RibbonGallery*>(item.widget))
+        connect(gallery, &RibbonGallery::itemClicked, this, &RibbonGroupPanel::commandRan);
     invalidate();
+}
+
+void RibbonGroupPanel::commandRan()
+{
+    if (RibbonBar* bar = ribbonBarOf(m_group))
+        RibbonBarPrivate::get(bar)->commandRan();
 }
 
 RibbonButton* RibbonGroupPanel::button(int index) const
@@ -124,11 +133,7 @@ RibbonButton* RibbonGroupPanel::button(int index) const
     item.button = new RibbonButton(RibbonGround::Page, self, self);
     item.widget = item.button;
     item.button->setUp(item.action, item.style, item.mode, item.menu);
-    RibbonGroup* group = m_group;
-    connect(item.button, &QToolButton::triggered, group, [group] {
-        if (RibbonBar* bar = ribbonBarOf(group))
-            RibbonBarPrivate::get(bar)->commandRan();
-    });
+    connect(item.button, &QToolButton::triggered, this, [self] { self->commandRan(); });
     return item.button;
 }
 
@@ -163,8 +168,10 @@ void RibbonGroupPanel::removeItem(const QAction* action)
     if (item.kind == Item::Kind::Button)
         delete item.button;
     else if (auto* widget_action = qobject_cast<QWidgetAction*>(item.action);
-             widget_action && item.widget)
+             widget_action && item.widget) {
+        item.widget->disconnect(this);
         widget_action->releaseWidget(item.widget);
+    }
 }
 
 int RibbonGroupPanel::indexOf(const QAction* action) const
@@ -194,6 +201,7 @@ void RibbonGroupPanel::setLauncher(QAction* action)
     m_launcher = nullptr;
     if (action) {
         m_launcher = new RibbonLauncher(action, this);
+        connect(m_launcher, &QAbstractButton::clicked, this, &RibbonGroupPanel::commandRan);
         m_launcher->setVisible(m_titleVisible);
     }
     invalidate();

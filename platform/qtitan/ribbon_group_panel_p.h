@@ -88,6 +88,8 @@ public:
     void invalidateAll();
     void buttonChanged() override;
     void buttonGone(RibbonButton* button) override;
+    /// A command of the group ran: what was opened for it goes away.
+    void commandRan();
 
     /// How often the steps of all panels were computed, for tests.
     static int computations();

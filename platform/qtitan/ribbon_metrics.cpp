@@ -31,7 +31,8 @@ RibbonMetrics RibbonMetrics::compute(int fontHeight, int averageCharWidth, qreal
     m.tabHeight = qMax(fontHeight + m.px(8), m.px(20));
     m.tabPadding = m.px(13);
     m.tabMinPadding = m.px(4);
-    m.tabMinText = 3 * averageCharWidth + m.px(3);
+    // Three characters, of which the mark of an elided text takes more than one.
+    m.tabMinText = 3 * averageCharWidth + m.px(10);
     m.tabSpacing = m.px(2);
 
     m.lineHeight = qMax(fontHeight + m.px(7), m.smallIcon + m.px(6));

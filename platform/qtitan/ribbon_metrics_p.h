@@ -33,7 +33,7 @@ struct OVK_TEST_EXPORT RibbonMetrics
     int tabHeight = 23;
     int tabPadding = 13;        ///< each side of a tab's text
     int tabMinPadding = 4;      ///< each side, when tabs do not fit
-    int tabMinText = 21;        ///< about three characters
+    int tabMinText = 28;        ///< about three characters
     int tabSpacing = 2;         ///< between tabs
     int lineHeight = 22;        ///< a small button
     int largeHeight = 66;       ///< a large button: three lines

@@ -281,6 +281,7 @@ bool RibbonTabBar::event(QEvent* event)
         if (!page)
             break;
         RibbonBarPrivate* bar = RibbonBarPrivate::get(m_bar);
+        bar->closeBackstage();
         RibbonKeyboard::enter(m_bar);
         bar->makeCurrent(page);
         bar->beginPeek();

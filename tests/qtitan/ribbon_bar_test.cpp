@@ -1,4 +1,5 @@
 #include "platform/qtitan/ribbon_bar_p.h"
+#include "platform/qtitan/ribbon_group_panel_p.h"
 #include "platform/qtitan/ribbon_tab_bar_p.h"
 #include "tests/qtitan/ribbon_test_window.h"
 
@@ -271,7 +272,9 @@ private Q_SLOTS:
     void aPeekGoesAway_data()
     {
         QTest::addColumn<QString>("by");
-        for (const char* by : {"a command", "a click outside", "Escape", "restoring"})
+        for (const char* by :
+             {"a command", "a click outside", "Escape", "restoring", "a command of the quick access bar",
+              "a command of the corner", "a launcher", "a pick from a gallery", "another window"})
             QTest::newRow(by) << QString::fromLatin1(by);
     }
 
@@ -279,14 +282,40 @@ private Q_SLOTS:
     {
         QFETCH(QString, by);
         Window w(1, 1);
+        w.bar->showQuickAccess(true);
+        QAction* quick =
+            w.bar->quickAccessBar()->addAction(ribbon_test::MakeIcon(), QStringLiteral("Quick"));
+        QAction* corner = w.bar->addAction(ribbon_test::MakeIcon(), QStringLiteral("Help"),
+                                           Qt::ToolButtonIconOnly);
+        w.Group()->setOptionButtonVisible(true);
+        RibbonGalleryGroup items;
+        items.addItem(QStringLiteral("Item"), ribbon_test::MakeIcon());
+        auto* gallery = new RibbonGallery;
+        gallery->setGalleryGroup(&items);
+        w.Group()->addGallery(gallery);
         w.bar->setMinimized(true);
+        Window::Settle();
         ClickTab(w, 0);
+        Window::Settle();
         QVERIFY(w.bar->isPeeking());
+        QWidget other;
         int runs = 0;
         connect(w.Group()->actions().first(), &QAction::triggered, this, [&runs] { ++runs; });
         if (by == QLatin1String("a command")) {
             QTest::mouseClick(w.Button(0), Qt::LeftButton);
             QCOMPARE(runs, 1);
+        } else if (by == QLatin1String("a command of the quick access bar")) {
+            QTest::mouseClick(w.bar->quickAccessBar()->widgetForAction(quick), Qt::LeftButton);
+        } else if (by == QLatin1String("a command of the corner")) {
+            QTest::mouseClick(w.bar->buttonForAction(corner), Qt::LeftButton);
+        } else if (by == QLatin1String("a launcher")) {
+            QTest::mouseClick(w.Group()->findChild<RibbonLauncher*>(), Qt::LeftButton);
+        } else if (by == QLatin1String("a pick from a gallery")) {
+            QTest::mouseClick(gallery, Qt::LeftButton, Qt::NoModifier,
+                              gallery->itemRect(items.item(0)).center());
+        } else if (by == QLatin1String("another window")) {
+            other.show();
+            QApplication::setActiveWindow(&other);
         } else if (by == QLatin1String("a click outside")) {
             QTest::mouseClick(w.content, Qt::LeftButton, Qt::NoModifier, QPoint(100, 300));
         } else if (by == QLatin1String("Escape")) {
@@ -400,6 +429,18 @@ private Q_SLOTS:
         w.window.activateWindow();
         w.content->setFocus();
         QTest::keyClick(w.content, Qt::Key_V, Qt::AltModifier);
+        QCOMPARE(w.bar->currentPageIndex(), 1);
+    }
+
+    void theMnemonicOfATitleClosesTheBackstage()
+    {
+        Window w(2, 1);
+        w.bar->getPage(1)->setTitle(QStringLiteral("&View"));
+        auto* view = new RibbonBackstageView(w.bar);
+        view->setVisible(true);
+        w.window.activateWindow();
+        QTest::keyClick(view, Qt::Key_V, Qt::AltModifier);
+        QVERIFY(!view->isVisible());
         QCOMPARE(w.bar->currentPageIndex(), 1);
     }
 

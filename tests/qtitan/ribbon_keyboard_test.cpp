@@ -450,6 +450,22 @@ private Q_SLOTS:
         QVERIFY(w.content->hasFocus());
     }
 
+    void theFocusStaysWithAGroupThatIsReduced()
+    {
+        Keys w(1, 6, QSize(2500, 400));
+        auto* spin = new QSpinBox;
+        w.Group(5)->addWidget(spin);
+        Window::Settle();
+        spin->setFocus();
+        w.window.resize(320, 400);
+        Window::Settle();
+        QVERIFY(w.Group(5)->isReducedToPopup());
+        QVERIFY(w.Group(5)->hasFocus());
+        w.window.resize(2500, 400);
+        Window::Settle();
+        QVERIFY(!w.Group(5)->hasFocus());
+    }
+
     void theWalkGoesOnFromTheTabWhenThePageChanges()
     {
         Keys w;
