@@ -23,6 +23,11 @@ namespace ovk {
 
 namespace {
 
+QString LayoutTitle(const QString& name)
+{
+    return QCoreApplication::translate("Layouts", name.toUtf8().constData());
+}
+
 UiCustomizeSitesWidget* g_sites_page = nullptr;
 
 /// Hears of every update cycle.
@@ -111,11 +116,15 @@ QWidget* UiCustomizeSitesWidget::GetWidget() const
     return mp_impl;
 }
 
+void UiCustomizeSitesWidget::FocusSearch()
+{
+    mp_impl->mp_ed_search_basic->setFocus();
+}
+
 UiCustomizeSitesWidget::Impl::Impl(UiCustomizeSitesWidget& owner)
     : PimplBasics<UiCustomizeSitesWidget>(owner)
 {
     setupUi(this);
-    setFocusProxy(mp_ed_search_basic);
     const auto delete_from = [](auto& model) {
         return [&model](const QModelIndex& parent, int row) { model.DeleteRow(parent, row); };
     };
@@ -144,6 +153,8 @@ void UiCustomizeSitesWidget::Impl::changeEvent(QEvent* event)
     if (event->type() == QEvent::LanguageChange) {
         retranslateUi(this);
         Retranslate();
+        for (int i = 0; i < mp_combo_layout->count(); ++i)
+            mp_combo_layout->setItemText(i, LayoutTitle(mp_combo_layout->itemData(i).toString()));
     }
     QWidget::changeEvent(event);
     // Not before the views are set up: the first style of the application comes early.
@@ -202,8 +213,7 @@ void UiCustomizeSitesWidget::Impl::FillLayouts()
         if (UiProfile* profile = Edited()) {
             profile->ForEach([this](UiLayout* layout) {
                 const QString& name = layout->GetName();
-                mp_combo_layout->addItem(
-                    QCoreApplication::translate("Layouts", name.toUtf8().constData()), name);
+                mp_combo_layout->addItem(LayoutTitle(name), name);
                 return true;
             });
         }

@@ -201,6 +201,8 @@ void DockButton::changeEvent(QEvent* event)
         TakeSizeOfStyle();
     if (event->type() == QEvent::StyleChange || event->type() == QEvent::LayoutDirectionChange)
         RefreshIcon();
+    if (event->type() == QEvent::LanguageChange)
+        RefreshMeaning();
 }
 
 void DockButton::keyPressEvent(QKeyEvent* event)
@@ -220,7 +222,7 @@ void MinimizeButton::SetCollapsed(bool collapsed)
 {
     m_collapsed = collapsed;
     RefreshIcon();
-    SetMeaning(collapsed ? tr("Unfold") : tr("Fold"));
+    RefreshMeaning();
 }
 
 void MinimizeButton::RefreshIcon()
@@ -228,6 +230,11 @@ void MinimizeButton::RefreshIcon()
     const QIcon icon = Icon(m_collapsed ? "dockUnfold" : "dockFold");
     // It points at the title's text.
     setIcon(m_collapsed && isRightToLeft() ? Mirrored(icon) : icon);
+}
+
+void MinimizeButton::RefreshMeaning()
+{
+    SetMeaning(m_collapsed ? tr("Unfold") : tr("Fold"));
 }
 
 CollapsibleButton::CollapsibleButton(QWidget* parent) : DockButton(parent)
@@ -239,7 +246,7 @@ void CollapsibleButton::SetCollapsible(bool collapsible)
 {
     m_collapsible = collapsible;
     RefreshIcon();
-    SetMeaning(collapsible ? tr("Keep open") : tr("Allow folding"));
+    RefreshMeaning();
 }
 
 void CollapsibleButton::RefreshIcon()
@@ -247,15 +254,25 @@ void CollapsibleButton::RefreshIcon()
     setIcon(Icon(m_collapsible ? "dockUnpin" : "dockPin"));
 }
 
+void CollapsibleButton::RefreshMeaning()
+{
+    SetMeaning(m_collapsible ? tr("Keep open") : tr("Allow folding"));
+}
+
 CloseButton::CloseButton(QWidget* parent) : DockButton(parent)
 {
     RefreshIcon();
-    SetMeaning(tr("Close"));
+    RefreshMeaning();
 }
 
 void CloseButton::RefreshIcon()
 {
     setIcon(style()->standardIcon(QStyle::SP_DockWidgetCloseButton, nullptr, this));
+}
+
+void CloseButton::RefreshMeaning()
+{
+    SetMeaning(tr("Close"));
 }
 
 DockWidgetTitle::DockWidgetTitle(QWidget* parent)
@@ -291,12 +308,17 @@ void DockWidgetTitle::paintEvent(QPaintEvent*)
 AreaMinimizeButton::AreaMinimizeButton(QWidget* parent) : DockButton(parent)
 {
     RefreshIcon();
-    SetMeaning(tr("Minimize"));
+    RefreshMeaning();
 }
 
 void AreaMinimizeButton::RefreshIcon()
 {
     setIcon(style()->standardIcon(QStyle::SP_TitleBarMinButton, nullptr, this));
+}
+
+void AreaMinimizeButton::RefreshMeaning()
+{
+    SetMeaning(tr("Minimize"));
 }
 
 AreaMaximizeButton::AreaMaximizeButton(QWidget* parent) : DockButton(parent)
@@ -308,7 +330,7 @@ void AreaMaximizeButton::SetMaximized(bool maximized)
 {
     m_maximized = maximized;
     RefreshIcon();
-    SetMeaning(maximized ? tr("Restore") : tr("Maximize"));
+    RefreshMeaning();
 }
 
 void AreaMaximizeButton::RefreshIcon()
@@ -318,15 +340,25 @@ void AreaMaximizeButton::RefreshIcon()
                                   nullptr, this));
 }
 
+void AreaMaximizeButton::RefreshMeaning()
+{
+    SetMeaning(m_maximized ? tr("Restore") : tr("Maximize"));
+}
+
 AreaCloseButton::AreaCloseButton(QWidget* parent) : DockButton(parent)
 {
     RefreshIcon();
-    SetMeaning(tr("Close"));
+    RefreshMeaning();
 }
 
 void AreaCloseButton::RefreshIcon()
 {
     setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton, nullptr, this));
+}
+
+void AreaCloseButton::RefreshMeaning()
+{
+    SetMeaning(tr("Close"));
 }
 
 DockSiteTitle::DockSiteTitle(QWidget* parent)

@@ -68,6 +68,8 @@ protected:
 
     /// Loads the icon anew, for a style or a direction that has changed.
     virtual void RefreshIcon() = 0;
+    /// Says anew what the button does, in a language that has changed.
+    virtual void RefreshMeaning() = 0;
 
 private:
     void TakeSizeOfStyle();
@@ -85,6 +87,7 @@ public:
 
 protected:
     void RefreshIcon() override;
+    void RefreshMeaning() override;
 
 private:
     bool m_collapsed = false;
@@ -101,6 +104,7 @@ public:
 
 protected:
     void RefreshIcon() override;
+    void RefreshMeaning() override;
 
 private:
     bool m_collapsible = true;
@@ -116,6 +120,7 @@ public:
 
 protected:
     void RefreshIcon() override;
+    void RefreshMeaning() override;
 };
 
 /// The title of a panel, with a grip between text and buttons.
@@ -153,6 +158,7 @@ public:
 
 protected:
     void RefreshIcon() override;
+    void RefreshMeaning() override;
 };
 
 /// Maximises the window of an area and puts it back.
@@ -166,6 +172,7 @@ public:
 
 protected:
     void RefreshIcon() override;
+    void RefreshMeaning() override;
 
 private:
     bool m_maximized = false;
@@ -181,6 +188,7 @@ public:
 
 protected:
     void RefreshIcon() override;
+    void RefreshMeaning() override;
 };
 
 /// The title of an area. Its buttons act on the parent widget.
