@@ -211,8 +211,8 @@ void Hover(QWidget& widget)
     QList<QWidget*> widgets = widget.findChildren<QWidget*>();
     widgets.prepend(&widget);
     for (QWidget* each : widgets) {
-        // The ground of a hovered close button looks like a letter to this test.
-        if (each->inherits("CloseButton"))
+        // The grounds of a tab bar's own buttons look like letters to this test.
+        if (qobject_cast<QTabBar*>(each->parentWidget()))
             continue;
         const QPointF at = QRectF(each->rect()).center();
         each->setAttribute(Qt::WA_UnderMouse);
