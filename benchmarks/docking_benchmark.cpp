@@ -50,8 +50,9 @@ struct Subject
     const char* unit;
 };
 
-constexpr Subject c_subjects[] = {{"create", "ms"}, {"rebuild", "ms"}, {"capture", "ms"}, {"write", "ms"},
-                                  {"resize", "ms"}, {"drag", "ms"},    {"memory", "MiB"}, {"visible", ""},  {"rebuilt", ""}};
+constexpr Subject c_subjects[] = {{"create", "ms"},  {"rebuild", "ms"}, {"capture", "ms"},
+                                  {"write", "ms"},   {"resize", "ms"},  {"drag", "ms"},
+                                  {"memory", "MiB"}, {"visible", ""},   {"rebuilt", ""}};
 
 struct Goal
 {
@@ -61,8 +62,9 @@ struct Goal
 };
 
 constexpr Goal c_goals[] = {
-    {"create", "QDockWidget", 1.0}, {"rebuild", "QDockWidget", 0.9}, {"rebuild", "ADS", 0.15},
-    {"capture", nullptr, 0.2},      {"resize", "better", 0.95},      {"memory", "QDockWidget", 1.05},
+    {"create", "QDockWidget", 1.0}, {"rebuild", "QDockWidget", 0.9},
+    {"rebuild", "ADS", 0.15},       {"capture", nullptr, 0.2},
+    {"resize", "better", 0.95},     {"memory", "QDockWidget", 1.05},
 };
 
 using Samples = std::vector<double>;
@@ -349,9 +351,8 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const docking_benchmark::Host host;
     const QByteArray only = Option(argc, argv, "only");
-    const int rounds = std::max(1, Option(argc, argv, "rounds").isEmpty()
-                                       ? 11
-                                       : Option(argc, argv, "rounds").toInt());
+    const int rounds = std::max(
+        1, Option(argc, argv, "rounds").isEmpty() ? 11 : Option(argc, argv, "rounds").toInt());
     const bool growth = Option(argc, argv, "growth") != "no";
     const bool ours = Option(argc, argv, "alone") == "yes";
 
@@ -382,8 +383,7 @@ int main(int argc, char** argv)
     std::map<int, Table> tables;
     for (int round = -1; round < std::max(1, rounds / 2); ++round) {
         for (const int size : sizes) {
-            const auto figures =
-                Round(Kind::Ovk, size, c_growth_large, c_growth_small, only).Run();
+            const auto figures = Round(Kind::Ovk, size, c_growth_large, c_growth_small, only).Run();
             if (round >= 0)
                 Add(tables[size], "Ovk", figures);
         }

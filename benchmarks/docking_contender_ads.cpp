@@ -1,12 +1,12 @@
 #include "docking_contenders.h"
 
 #ifdef OVK_BENCHMARK_ADS
-#    include <qtadvanceddocking/DockAreaWidget.h>
-#    include <qtadvanceddocking/DockManager.h>
-#    include <qtadvanceddocking/FloatingDockContainer.h>
+#include <qtadvanceddocking/DockAreaWidget.h>
+#include <qtadvanceddocking/DockManager.h>
+#include <qtadvanceddocking/FloatingDockContainer.h>
 
-#    include <QMainWindow>
-#    include <QPointer>
+#include <QMainWindow>
+#include <QPointer>
 #endif
 
 namespace docking_benchmark {
@@ -57,9 +57,9 @@ private:
         constexpr ads::DockWidgetArea areas[] = {ads::LeftDockWidgetArea, ads::RightDockWidgetArea,
                                                  ads::TopDockWidgetArea, ads::BottomDockWidgetArea};
         // One line of areas at each side, as the others have it.
-        constexpr ads::DockWidgetArea along[] = {ads::BottomDockWidgetArea,
-                                                 ads::BottomDockWidgetArea, ads::RightDockWidgetArea,
-                                                 ads::RightDockWidgetArea};
+        constexpr ads::DockWidgetArea along[] = {
+            ads::BottomDockWidgetArea, ads::BottomDockWidgetArea, ads::RightDockWidgetArea,
+            ads::RightDockWidgetArea};
         ads::CDockAreaWidget* area = nullptr;
         for (const int number : group.contents) {
             ads::CDockWidget* const dock = Make(number);

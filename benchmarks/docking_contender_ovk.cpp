@@ -123,7 +123,8 @@ public:
         DockWidget* const panel = m_panels.Floating();
         if (!panel)
             return false;
-        for (QWidget* child : panel->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        for (QWidget* child :
+             panel->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
             if (qstrcmp(child->metaObject()->className(), "ovk::DockWidgetTitle") == 0)
                 mp_title = child;
         }
@@ -168,10 +169,7 @@ public:
             tree->Deactivate(UiProfileItem::amOrdinary);
     }
 
-    QWidget* CreatePageWidget(const QString& id) override
-    {
-        return m_window.findChild<Page*>(id);
-    }
+    QWidget* CreatePageWidget(const QString& id) override { return m_window.findChild<Page*>(id); }
     QStringList GetPageIds() const override { return {}; }
 
     void Build() override

@@ -73,8 +73,8 @@ bool DockToolboxSite::Impl::MakeRoomFor(DockWidget& panel)
         // nobody has to give way, the length of the last one is good enough.
         if (m_known_length > 0 && m_known_area == GetArea()->size()) {
             const QList<DockWidget*> panels = GetPanels();
-            const dock_space::Plan plan = dock_space::PlanSpace(
-                Describe(panels), m_known_length, panels.indexOf(&panel), needed);
+            const dock_space::Plan plan = dock_space::PlanSpace(Describe(panels), m_known_length,
+                                                                panels.indexOf(&panel), needed);
             if (plan.fits && plan.victims.empty())
                 return true;
         }

@@ -136,8 +136,8 @@ UiStateDockWidget::UiStateDockWidget(QWidget* widget) : TUiState(NameOf(widget))
     const bool away = panel->GetManager()->_Impl()->hidden.contains(panel);
     SetVisible(away || !panel->IsExplicitlyHidden());
     // What folded for want of room is not the user's wish: it opens again where there is room.
-    const bool no_room = panel->GetToolboxSite() &&
-                         (panel->IsForcedCollapsed() || panel->_Impl()->folded_for_room);
+    const bool no_room =
+        panel->GetToolboxSite() && (panel->IsForcedCollapsed() || panel->_Impl()->folded_for_room);
     m_minimized = panel->IsCollapsed() && !no_room;
     m_minimizable = panel->IsCollapsible();
     m_title_visible = panel->IsTitleEnabled();
@@ -257,8 +257,7 @@ void UiStateDockWidget::_AddPages(DockWidget& panel)
         // The identifier under which the page is stored again.
         if (widget->objectName().isEmpty())
             widget->setObjectName(page->GetName());
-        const QString title =
-            root ? root->ShowPageTitle(page->GetName()) : page->GetDisplayTitle();
+        const QString title = root ? root->ShowPageTitle(page->GetName()) : page->GetDisplayTitle();
         if (!title.isEmpty())
             widget->setWindowTitle(title);
         if (auto* const dock_page = dynamic_cast<IDockPage*>(widget))
@@ -287,7 +286,8 @@ void UiStateDockWidget::_Activate(ActivationMode)
         if (page && !m_minimized)
             page->SetPrefferedSize(size);
         else if (page && open.isValid())
-            page->SetPrefferedSize({size.width(), open.height()}); // how high it opens is not stored
+            page->SetPrefferedSize(
+                {size.width(), open.height()}); // how high it opens is not stored
     }
     panel->SetFloated(m_geometry.topLeft());
     if (panel)

@@ -23,18 +23,17 @@ const QLatin1String c_floated_id("floated");
 
 QString TranslatedPanelTitle(const QString& title)
 {
-    return title.isEmpty()
-               ? title
-               : QCoreApplication::translate("toolsheets", title.toUtf8().constData());
+    return title.isEmpty() ? title
+                           : QCoreApplication::translate("toolsheets", title.toUtf8().constData());
 }
 
 QString TranslatedPageTitle(const QString& id, const QString& title)
 {
     const QByteArray hint = id.toUtf8();
-    return title.isEmpty() ? title
-                           : QCoreApplication::translate("toolpages", title.toUtf8().constData(),
-                                                         hint.isEmpty() ? nullptr
-                                                                        : hint.constData());
+    return title.isEmpty()
+               ? title
+               : QCoreApplication::translate("toolpages", title.toUtf8().constData(),
+                                             hint.isEmpty() ? nullptr : hint.constData());
 }
 
 DockManager* LiveDockManager()

@@ -167,7 +167,8 @@ void DockBadInputTest::sizesOfNoSenseDoNoHarm()
 {
     QFETCH(QJsonValue, size);
     DockHost host;
-    QJsonObject json = Docking({{"left", {Panel("a", {"A"})}}, {"top", {Panel("b", {"B"})}}}, {}, 7);
+    QJsonObject json =
+        Docking({{"left", {Panel("a", {"A"})}}, {"top", {Panel("b", {"B"})}}}, {}, 7);
     QByteArray text = QJsonDocument(json).toJson(QJsonDocument::Compact);
     QJsonArray wrapped{size};
     QByteArray value = QJsonDocument(wrapped).toJson(QJsonDocument::Compact);

@@ -320,11 +320,10 @@ void DockDragModelTest::dragsEndClean()
             QVERIFY2(!one->_Impl()->overlay, where("an overlay stayed").constData());
     }
     // Else the test would be about nothing.
-    QVERIFY2(docked > 5 && merged > 1 && torn > 1,
-             qPrintable(QStringLiteral("%1 docked, %2 merged, %3 torn")
-                            .arg(docked)
-                            .arg(merged)
-                            .arg(torn)));
+    QVERIFY2(
+        docked > 5 && merged > 1 && torn > 1,
+        qPrintable(
+            QStringLiteral("%1 docked, %2 merged, %3 torn").arg(docked).arg(merged).arg(torn)));
 }
 
 OVK_TEST_CLASS(DockDragModelTest)

@@ -42,10 +42,9 @@ public:
             if (panels.isEmpty())
                 return;
             DockWidget* const panel = panels.at(m_random.bounded(panels.size()));
-            DockToolboxSite* const site =
-                manager.GetLayout()
-                    ->GetSite(DockLayout::Side(m_random.bounded(4)))
-                    ->GetToolboxSite();
+            DockToolboxSite* const site = manager.GetLayout()
+                                              ->GetSite(DockLayout::Side(m_random.bounded(4)))
+                                              ->GetToolboxSite();
             switch (m_random.bounded(7)) {
             case 0:
                 panel->SetFloated(QPoint(20 + m_random.bounded(300), 20 + m_random.bounded(300)));

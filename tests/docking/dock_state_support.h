@@ -151,8 +151,7 @@ inline QString Difference(const QByteArray& actual, const QByteArray& expected)
     const QList<QByteArray> right = expected.split('\n');
     for (int i = 0; i < qMin(left.size(), right.size()); ++i) {
         if (left.at(i) != right.at(i))
-            return QString::fromUtf8(left.at(i).trimmed() + " instead of " +
-                                     right.at(i).trimmed());
+            return QString::fromUtf8(left.at(i).trimmed() + " instead of " + right.at(i).trimmed());
     }
     return left.size() == right.size() ? QString() : QStringLiteral("one is longer");
 }
