@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QStyleOption>
 
 #include <qtitan/ribbon.h>
@@ -65,6 +66,7 @@ void ColorEdit::_createPopup()
     setMenu(popup);
     setText(mp_default_action->text());
 
+    connect(popup, &QMenu::aboutToShow, this, &ColorEdit::_updateGallery);
     connect(mp_default_action, &QAction::triggered, this, &ColorEdit::_onDefaultPressed);
     connect(mp_gallery.get(), &Qtitan::RibbonGallery::itemClicked, this,
             &ColorEdit::_onColorPicked);
@@ -240,7 +242,27 @@ void ColorEdit::_showDialog()
 void ColorEdit::_showPopup()
 {
     DlgSelectColor::UpdateCustomColors();
+    const QScopedValueRollback<bool> loaded(m_colors_loaded, true);
     showMenu();
+}
+
+void ColorEdit::_updateGallery()
+{
+    // The arrow of a divided button opens the popup past the click.
+    if (!m_colors_loaded)
+        DlgSelectColor::UpdateCustomColors();
+    Qtitan::RibbonGalleryItem* chosen = nullptr;
+    const QList<Qtitan::RibbonGalleryItem*> items = mp_gallery_group->items();
+    for (Qtitan::RibbonGalleryItem* const item : items) {
+        const auto* const cell = qobject_cast<GalleryItemColor*>(item);
+        if (!cell)
+            continue;
+        const QColor color = cell->GetColor();
+        item->setToolTip(ColorText(color));
+        if (!chosen && m_color.isValid() && color.rgba() == m_color.rgba())
+            chosen = item;
+    }
+    mp_gallery->setCheckedItem(chosen);
 }
 
 void ColorEdit::paintEvent(QPaintEvent* event)

@@ -96,6 +96,7 @@ private:
     void _onDefaultPressed();
     void _showDialog();
     void _showPopup();
+    void _updateGallery();
 
     QColor m_color;
     bool m_default_enabled = false;
@@ -105,6 +106,7 @@ private:
     bool m_has_no_color_icon = false;
     std::unique_ptr<Qtitan::RibbonGalleryGroup> mp_gallery_group;
     std::unique_ptr<Qtitan::RibbonGallery> mp_gallery;
+    bool m_colors_loaded = false;
 };
 
 } // namespace ovk

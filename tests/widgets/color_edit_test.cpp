@@ -54,6 +54,9 @@ private Q_SLOTS:
     void aPickedCellIsTheColour();
     void thePopupsNoColourClearsTheColour();
     void aClickOpensThePopupWithTheHostsColours();
+    void theArrowOpensThePopupWithTheHostsColours();
+    void thePopupMarksTheColour();
+    void theColourKeepsClearOfTheArrowFromRightToLeft();
     void moreColoursOpensTheDialog();
     void theDialogGivesTheColour_data();
     void theDialogGivesTheColour();
@@ -252,6 +255,53 @@ void ColorEditTest::aClickOpensThePopupWithTheHostsColours()
     edit.invokePopup();
     QCOMPARE(opened, static_cast<QWidget*>(edit.menu()));
     QCOMPARE(loads, 2);
+}
+
+void ColorEditTest::theArrowOpensThePopupWithTheHostsColours()
+{
+    int loads = 0;
+    DlgSelectColor::SetDialogUpdater([&loads] { ++loads; });
+    ColorEdit edit;
+    edit.setPopupMode(QToolButton::MenuButtonPopup);
+    edit.show();
+    edit.menu()->popup(edit.mapToGlobal(QPoint(0, 30)));
+    QCOMPARE(loads, 1);
+    edit.menu()->close();
+}
+
+void ColorEditTest::thePopupMarksTheColour()
+{
+    ColorEdit edit;
+    edit.show();
+    const Qtitan::RibbonGallery* const gallery = GalleryOf(edit);
+    const auto open = [&edit] {
+        edit.menu()->popup(QPoint(0, 0));
+        edit.menu()->close();
+    };
+    open();
+    QVERIFY(!gallery->checkedItem());
+    edit.setColor(QColorDialog::standardColor(7));
+    open();
+    const auto* const cell = qobject_cast<GalleryItemColor*>(gallery->checkedItem());
+    QVERIFY(cell);
+    QCOMPARE(cell->GetColor(), QColorDialog::standardColor(7));
+    QVERIFY(cell->toolTip().endsWith(QColorDialog::standardColor(7).name().toUpper()));
+    edit.setColor(QColor(1, 2, 3));
+    open();
+    QVERIFY(!gallery->checkedItem());
+}
+
+void ColorEditTest::theColourKeepsClearOfTheArrowFromRightToLeft()
+{
+    ColorEdit edit;
+    edit.setLayoutDirection(Qt::RightToLeft);
+    edit.setPopupMode(QToolButton::MenuButtonPopup);
+    edit.setMargins(0, 0, 0, 0);
+    edit.setColor(Qt::blue);
+    edit.resize(80, 30);
+    const QImage picture = Picture(edit);
+    QCOMPARE(picture.pixelColor(79, 15), QColor(Qt::blue));
+    QVERIFY(picture.pixelColor(0, 15) != QColor(Qt::blue));
 }
 
 void ColorEditTest::moreColoursOpensTheDialog()
