@@ -95,6 +95,7 @@ private:
     void CreatePages();
     void CreateButtons();
     void Arrange();
+    void OrderTabs();
     void Connect();
     void Retranslate();
     void TranslateButtons();
@@ -227,8 +228,25 @@ void UiCustomizeDialog::Impl::Arrange()
     auto* all = new QVBoxLayout(this);
     all->addLayout(top, 1);
     all->addWidget(mp_box);
+    OrderTabs();
     // In lines and characters of the font, so that it is right at every scale.
     resize(fontMetrics().averageCharWidth() * c_width, fontMetrics().height() * c_height);
+}
+
+void UiCustomizeDialog::Impl::OrderTabs()
+{
+    // The pages come first, as they were made; behind them the box, as it is seen, and the buttons
+    // of the pages.
+    QWidget* last = this;
+    while (last->nextInFocusChain() != mp_box && last->nextInFocusChain() != this)
+        last = last->nextInFocusChain();
+    for (QWidget* next : std::initializer_list<QWidget*>{
+             mp_box->button(QDialogButtonBox::RestoreDefaults), mp_box->button(QDialogButtonBox::Ok),
+             mp_box->button(QDialogButtonBox::Discard), mp_btn_sites, mp_btn_toolpages,
+             mp_btn_style}) {
+        setTabOrder(last, next);
+        last = next;
+    }
 }
 
 void UiCustomizeDialog::Impl::Retranslate()
@@ -325,7 +343,7 @@ void UiCustomizeDialog::Impl::Open()
 {
     BeginEdit();
     // Not on the first button of the box, which resets everything.
-    mp_sites->GetWidget()->setFocus();
+    mp_sites->FocusSearch();
     show();
     raise();
     activateWindow();

@@ -9,6 +9,7 @@
 #include "ovk/ui_state/ui_state_shortcuts.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QToolTip>
@@ -123,6 +124,21 @@ void CommandShortcutDelegate::updateEditorGeometry(QWidget*, const QStyleOptionV
 {
     if (mp_editor)
         mp_editor->setGeometry(option.rect);
+}
+
+bool CommandShortcutDelegate::eventFilter(QObject* object, QEvent* event)
+{
+    auto* editor = qobject_cast<KeySequenceEdit*>(object);
+    if (editor && event->type() == QEvent::KeyPress) {
+        const auto* press = static_cast<QKeyEvent*>(event);
+        const bool ends = press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter;
+        if (ends && !(press->modifiers() & ~Qt::KeypadModifier)) {
+            Q_EMIT commitData(editor);
+            Q_EMIT closeEditor(editor);
+            return true;
+        }
+    }
+    return QStyledItemDelegate::eventFilter(object, event);
 }
 
 bool CommandShortcutDelegate::CheckCommand(const QKeySequence& sequence, UiCommand*& out) const

@@ -39,6 +39,10 @@ public:
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const override;
 
+protected:
+    /// Return ends the edit and is no shortcut.
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private Q_SLOTS:
     void OnSequenceChanged(const QKeySequence& sequence);
 

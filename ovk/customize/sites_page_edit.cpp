@@ -67,7 +67,7 @@ void UiCustomizeSitesWidget::Impl::OnRowsDropped(const Site& site, const QModelI
     MemoryOf(site).Clear();
     // What was dropped is what is seen and worked on next.
     const QModelIndex top = site.model->index(first, 0, parent);
-    site.view->setCurrentIndex(top);
+    site.view->selectionModel()->setCurrentIndex(top, QItemSelectionModel::NoUpdate);
     site.view->selectionModel()->select(
         QItemSelection(top, site.model->index(last, site.model->columnCount() - 1, parent)),
         QItemSelectionModel::ClearAndSelect);
@@ -92,7 +92,8 @@ void UiCustomizeSitesWidget::Impl::OnRowsInserted(const Site& site, const QModel
     // The user types the name of what was added at once. What was being edited is finished
     // first, and what the buttons act on is what was added.
     if (inserted.flags() & Qt::ItemIsEditable) {
-        site.view->setCurrentIndex(inserted);
+        site.view->selectionModel()->setCurrentIndex(
+            inserted, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         site.view->edit(inserted);
     }
 }

@@ -25,8 +25,9 @@ std::unique_ptr<QMimeData> DragData()
 bool Drop(QAbstractItemModel& model, int row, const QModelIndex& parent)
 {
     const std::unique_ptr<QMimeData> data = DragData();
-    return model.canDropMimeData(data.get(), Qt::CopyAction, row, 0, parent) &&
-           model.dropMimeData(data.get(), Qt::CopyAction, row, 0, parent);
+    const int column = row < 0 ? -1 : 0; // as views say: on the parent itself
+    return model.canDropMimeData(data.get(), Qt::CopyAction, row, column, parent) &&
+           model.dropMimeData(data.get(), Qt::CopyAction, row, column, parent);
 }
 
 } // namespace
@@ -148,7 +149,7 @@ void UiCustomizeSitesWidget::Impl::MoveByKey(QAbstractItemView& view, bool up)
     const QModelIndexList rows = view.selectionModel()->selectedRows();
     if (rows.isEmpty())
         return;
-    const QModelIndex parent = rows.first().parent();
+    const QPersistentModelIndex parent = rows.first().parent();
     int first = rows.first().row();
     int last = first;
     for (const QModelIndex& row : rows) {
@@ -172,7 +173,9 @@ void UiCustomizeSitesWidget::Impl::MoveByKey(QAbstractItemView& view, bool up)
         Drop(model, neighbour, parent);
     else
         Drop(model, -1, model.index(neighbour, 0));
-    view.setCurrentIndex(model.index(neighbour, 0, parent));
+    view.selectionModel()->setCurrentIndex(
+        model.index(neighbour, 0, parent),
+        QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 } // namespace ovk

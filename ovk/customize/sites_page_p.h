@@ -35,6 +35,8 @@ public:
     bool HasChanges() const;
 
     QWidget* GetWidget() const;
+    /// Puts the focus where the user begins: into the search over all commands.
+    void FocusSearch();
 
 private:
     class Impl;

@@ -21,11 +21,36 @@
 
 namespace ovk_test {
 
+/// The catalogue of the fake host with more commands, which every layout offers too.
+inline QJsonObject CatalogueOffering(const QStringList& ids)
+{
+    QJsonObject root = CatalogueWith(ids);
+    QJsonObject products = root.value(QStringLiteral("products")).toObject();
+    QJsonArray product_list = products.value(QStringLiteral("product")).toArray();
+    for (int i = 0; i < product_list.size(); ++i) {
+        QJsonObject product = product_list.at(i).toObject();
+        QJsonArray layouts = product.value(QStringLiteral("layout")).toArray();
+        for (int k = 0; k < layouts.size(); ++k) {
+            QJsonObject layout = layouts.at(k).toObject();
+            QJsonArray commands = layout.value(QStringLiteral("command_ids")).toArray();
+            for (const QString& id : ids)
+                commands.append(id);
+            layout.insert(QStringLiteral("command_ids"), commands);
+            layouts.replace(k, layout);
+        }
+        product.insert(QStringLiteral("layout"), layouts);
+        product_list.replace(i, product);
+    }
+    products.insert(QStringLiteral("product"), product_list);
+    root.insert(QStringLiteral("products"), products);
+    return root;
+}
+
 /// The customise dialog, open over the layout "Model" of the fake host in a window.
 struct Dialog
 {
     explicit Dialog(const QStringList& commands = {})
-        : host(CatalogueWith(commands))
+        : host(CatalogueOffering(commands))
     {
         ovk::RibbonWindowSettings::GroupTitleVisible().SetData(false);
         host.Start();
