@@ -231,12 +231,17 @@ void DockToolboxSite::Impl::ResizeBy(int delta)
         return;
     const bool vertical = site->IsVertical();
 
-    // A central widget that asks for more than there is would hold the handle fast.
+    // A central widget that asks for more than there is, or than it has, would hold the handle fast,
+    // or even pull it back.
     const QSize room = GetArea()->size();
     const QSize hint = central->sizeHint();
     const QSize least = central->minimumSizeHint();
-    QSize central_min(hint.width() < room.width() ? hint.width() : least.width(),
-                      hint.height() < room.height() ? hint.height() : least.height());
+    const auto counts = [](int wish, int has, int there_is) {
+        return wish < there_is && wish <= has;
+    };
+    QSize central_min(
+        counts(hint.width(), central->width(), room.width()) ? hint.width() : least.width(),
+        counts(hint.height(), central->height(), room.height()) ? hint.height() : least.height());
     central_min = central_min.expandedTo(central->minimumSize());
     using Sides = DockLayout::Side[2];
     const Sides vertical_others = {DockLayout::Top, DockLayout::Bottom};

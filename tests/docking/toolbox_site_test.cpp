@@ -25,19 +25,12 @@ private Q_SLOTS:
     void removingTheLastPanelForgetsTheCrossSize();
     void aFoldedSiteTakesNoRoomAndComesBack_data();
     void aFoldedSiteTakesNoRoomAndComesBack();
-    void theButtonOfTheHandleFoldsTheSite();
-    void theHandleIsThereWhileThereIsAPanel();
-    void theHandleCanBeTakenAway();
-    void draggingTheHandleResizesTheSite_data();
-    void draggingTheHandleResizesTheSite();
-    void aGreedyCentralWidgetDoesNotHoldTheHandle();
     void panelsOfASideShareTheWidestMinimum();
     void clearDeletesThePanelsAndKeepsThePages();
     void panelsKnowWhetherTheyCouldOpen();
     void sizesAreComputedOnceAChange();
     void aPanelMovesWithinItsSite();
     void aResizeStepComputesNoSizes();
-    void aMoveThatComesBeforeTheLayoutCountsOnce();
     void theFoldButtonIsOffWhereThereIsNoRoom();
     void aPlainPageNeedsTheRoomOfItsLayout();
 };
@@ -229,114 +222,6 @@ void ToolboxSiteTest::aFoldedSiteTakesNoRoomAndComesBack()
     QCOMPARE(fixture.Inconsistency(), QString());
 }
 
-void ToolboxSiteTest::theButtonOfTheHandleFoldsTheSite()
-{
-    DockFixture fixture;
-    fixture.Left()->AddWidget(fixture.Panel("a"));
-    DockFixture::Settle();
-    DockToolboxSiteHandle* const handle = fixture.Left()->GetDockSite()->_pp()->handle;
-    QCOMPARE(handle->GetButton()->pos(), QPoint(0, (handle->height() - 17) / 2));
-    QTest::mouseClick(handle->GetButton(), Qt::LeftButton);
-    QVERIFY(fixture.Left()->IsMinimized());
-    QTest::mouseClick(handle->GetButton(), Qt::LeftButton);
-    QVERIFY(!fixture.Left()->IsMinimized());
-}
-
-void ToolboxSiteTest::theHandleIsThereWhileThereIsAPanel()
-{
-    DockFixture fixture;
-    DockToolboxSiteHandle* const handle = fixture.Left()->GetDockSite()->_pp()->handle;
-    QVERIFY(handle->isHidden());
-    DockWidget* const panel = fixture.Panel("a");
-    fixture.Left()->AddWidget(panel);
-    DockFixture::Settle();
-    QVERIFY(!handle->isHidden());
-    panel->setVisible(false);
-    QVERIFY(handle->isHidden());
-    panel->setVisible(true);
-    QVERIFY(!handle->isHidden());
-    delete panel;
-    QVERIFY(handle->isHidden());
-}
-
-void ToolboxSiteTest::theHandleCanBeTakenAway()
-{
-    DockFixture fixture;
-    fixture.Left()->AddWidget(fixture.Panel("a"));
-    DockFixture::Settle();
-    QVERIFY(fixture.Left()->IsMinimizeAvailable());
-    fixture.Left()->SetMinimizeAvailable(false);
-    QVERIFY(fixture.Left()->GetDockSite()->_pp()->handle->isHidden());
-    fixture.Left()->SetMinimizeAvailable(true);
-    QVERIFY(!fixture.Left()->GetDockSite()->_pp()->handle->isHidden());
-}
-
-void ToolboxSiteTest::draggingTheHandleResizesTheSite_data()
-{
-    QTest::addColumn<int>("side");
-    QTest::addColumn<int>("delta");
-    QTest::addColumn<int>("size");
-    QTest::newRow("left, wider") << 0 << 40 << 200;
-    QTest::newRow("right, wider") << 1 << -40 << 200;
-    QTest::newRow("top, higher") << 2 << 40 << 200;
-    QTest::newRow("bottom, higher") << 3 << -40 << 200;
-    QTest::newRow("left, narrower") << 0 << -30 << 130;
-    QTest::newRow("bottom, lower") << 3 << 30 << 130;
-    // 800 wide, the handle 5, the central widget at least 300.
-    QTest::newRow("left, too wide") << 0 << 700 << 800 - 5 - 300;
-    QTest::newRow("right, too wide") << 1 << -700 << 800 - 5 - 300;
-    QTest::newRow("top, too high") << 2 << 700 << 600 - 5 - 200;
-}
-
-void ToolboxSiteTest::draggingTheHandleResizesTheSite()
-{
-    QFETCH(int, side);
-    QFETCH(int, delta);
-    QFETCH(int, size);
-    DockFixture fixture;
-    fixture.central->setMinimumSize(300, 200);
-    DockToolboxSite* const site = fixture.Site(DockLayout::Side(side));
-    site->AddWidget(fixture.Panel("a"));
-    site->SetCrossSize(160);
-    DockFixture::Settle();
-    DockToolboxSiteHandle* const handle = site->GetDockSite()->_pp()->handle;
-    const bool vertical = site->IsVertical();
-    const QPoint press(2, 2);
-    const QPoint moved = press + (vertical ? QPoint(delta, 0) : QPoint(0, delta));
-    QTest::mousePress(handle, Qt::LeftButton, {}, press);
-    QVERIFY(handle->IsPressed());
-    QMouseEvent move(QEvent::MouseMove, moved, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(handle, &move);
-    QTest::mouseRelease(handle, Qt::LeftButton, {}, moved);
-    QVERIFY(!handle->IsPressed());
-    QCOMPARE(site->GetCrossSize(), size);
-    DockFixture::Settle();
-    QCOMPARE(vertical ? site->geometry().width() : site->geometry().height(), size);
-}
-
-void ToolboxSiteTest::aGreedyCentralWidgetDoesNotHoldTheHandle()
-{
-    class Greedy : public QWidget
-    {
-    public:
-        using QWidget::QWidget;
-        QSize sizeHint() const override { return {3000, 2000}; }
-        QSize minimumSizeHint() const override { return {200, 100}; }
-    };
-    DockFixture fixture;
-    auto* const greedy = new Greedy(fixture.manager); // a child of the manager
-    delete fixture.central;
-    fixture.manager->GetLayout()->SetCentralWidget(greedy);
-    fixture.Left()->AddWidget(fixture.Panel("a"));
-    DockFixture::Settle();
-    fixture.Left()->_pp()->ResizeBy(100);
-    DockFixture::Settle();
-    QCOMPARE(fixture.Left()->geometry().width(), 200);
-    fixture.Left()->_pp()->ResizeBy(1000);
-    DockFixture::Settle();
-    QCOMPARE(fixture.Left()->geometry().width(), 800 - 5 - 200);
-}
-
 void ToolboxSiteTest::panelsOfASideShareTheWidestMinimum()
 {
     DockFixture fixture;
@@ -468,27 +353,6 @@ void ToolboxSiteTest::aResizeStepComputesNoSizes()
     DockFixture::Settle();
     for (const DockWidget* panel : qAsConst(panels))
         QCOMPARE(panel->_Impl()->size_computations > 0, panel == panels.first());
-}
-
-void ToolboxSiteTest::aMoveThatComesBeforeTheLayoutCountsOnce()
-{
-    DockFixture fixture;
-    fixture.Left()->AddWidget(fixture.Panel("a"));
-    fixture.Left()->SetCrossSize(160);
-    DockFixture::Settle();
-    DockToolboxSiteHandle* const handle = fixture.Left()->GetDockSite()->_pp()->handle;
-    const QPoint origin = handle->pos();
-    QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(2, 2));
-    // Three moves in one turn of the event loop: each is told where the handle seemed to be.
-    for (const int x : {12, 25, 40}) {
-        const QPoint local = origin + QPoint(x + 2, 2) - handle->pos();
-        QMouseEvent move(QEvent::MouseMove, local, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(handle, &move);
-    }
-    QTest::mouseRelease(handle, Qt::LeftButton);
-    DockFixture::Settle();
-    QCOMPARE(fixture.Left()->GetCrossSize(), 200);
-    QCOMPARE(handle->pos(), origin + QPoint(40, 0));
 }
 
 void ToolboxSiteTest::theFoldButtonIsOffWhereThereIsNoRoom()
