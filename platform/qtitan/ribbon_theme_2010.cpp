@@ -10,7 +10,7 @@ constexpr Tone Ink = Tone::Ink;
 
 // Amber states over a soft page.
 constexpr LookRow SharedRows[] = {
-    Shade(E::ButtonHover, 0xFBF8E0, 0xF8E187, 0xEDC958, Ink),
+    Shade(E::ButtonHover, 0xF8E187, 0xFBF8E0, 0xEDC958, Ink),
     Flat(E::ButtonPressed, 0xFFE48A, 0xC2762B, Ink),
     Shade(E::ButtonChecked, 0xFFD86C, 0xFFF480, 0xC9A33B, Ink),
     Shade(E::ButtonCheckedHover, 0xFFE48A, 0xFFF8B4, 0xC2912B, Ink),

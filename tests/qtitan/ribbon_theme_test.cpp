@@ -23,6 +23,8 @@ private Q_SLOTS:
     void tintedTabsRead();
     void themesHaveTheirColours_data();
     void themesHaveTheirColours();
+    void statesHaveTheirColours_data();
+    void statesHaveTheirColours();
     void statesOf2013AreTheAccentOverThePage();
     void onlyTheDarkThemeIsDark();
     void noThemeIsTakenForHighContrast();
@@ -197,6 +199,54 @@ void RibbonThemeTest::themesHaveTheirColours()
     QCOMPARE(rgb(theme[Element::Page].middle), colors[4]);
     QCOMPARE(rgb(theme[Element::Page].bottom), colors[5]);
     QCOMPARE(rgb(theme[Element::Page].border), colors[6]);
+}
+
+void RibbonThemeTest::statesHaveTheirColours_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<int>("element");
+    QTest::addColumn<QVector<QRgb>>("colors"); // top, bottom, border
+    using Colors = QVector<QRgb>;
+    for (const int number : {0, 1, 2, 3}) {
+        QTest::addRow("2007 hover %d", number) << number << int(Element::ButtonHover)
+                                               << Colors{0xFFD54D, 0xFFEFB1, 0xDDCF9B};
+        QTest::addRow("2007 pressed %d", number) << number << int(Element::ButtonPressed)
+                                                 << Colors{0xEB7A05, 0xFEC36C};
+        QTest::addRow("2007 checked %d", number) << number << int(Element::ButtonChecked)
+                                                 << Colors{0xFEAF4D, 0xFEE688};
+    }
+    for (const int number : {0, 1, 2})
+        QTest::addRow("2007 tool tip %d", number) << number << int(Element::ToolTip)
+                                                  << Colors{0xFFFFFF, 0xC9D9EF, 0x767676};
+    QTest::newRow("2007 blue group title") << 0 << int(Element::GroupTitle) << Colors{0xC1D8F2, 0xC1D8F2};
+    QTest::newRow("2007 black group title") << 1 << int(Element::GroupTitle) << Colors{0xB6B8B8, 0x9FA0A0};
+    QTest::newRow("2007 silver group title") << 2 << int(Element::GroupTitle) << Colors{0xDFE3EF, 0xC3C7D1};
+    QTest::newRow("scenic strip") << 4 << int(Element::TabStrip) << Colors{0xE3E6E8, 0xE3E6E8};
+    QTest::newRow("scenic hover") << 4 << int(Element::ButtonHover) << Colors{0xFDEEB3, 0xFDEEB3, 0xFFD700};
+    for (const int number : {5, 6, 7}) {
+        QTest::addRow("2010 hover %d", number) << number << int(Element::ButtonHover)
+                                               << Colors{0xF8E187, 0xFBF8E0, 0xEDC958};
+        QTest::addRow("2010 pressed %d", number) << number << int(Element::ButtonPressed)
+                                                 << Colors{0xFFE48A, 0xFFE48A, 0xC2762B};
+        QTest::addRow("2010 checked %d", number) << number << int(Element::ButtonChecked)
+                                                 << Colors{0xFFD86C, 0xFFF480};
+    }
+    QTest::newRow("2010 black page") << 7 << int(Element::Page) << Colors{0xBFBFBF, 0x919191, 0x5E5E5E};
+    QTest::newRow("2013 dark caption") << 10 << int(Element::Caption) << Colors{0x262626, 0x262626};
+}
+
+void RibbonThemeTest::statesHaveTheirColours()
+{
+    QFETCH(int, number);
+    QFETCH(int, element);
+    QFETCH(QVector<QRgb>, colors);
+    const RibbonTheme theme(static_cast<OfficeStyle::Theme>(number),
+                            OfficeStyle::accentColor(OfficeStyle::AccentColorBlue));
+    const ThemeLook& look = theme[static_cast<Element>(element)];
+    QCOMPARE(look.top.rgb() & 0xFFFFFF, colors[0]);
+    QCOMPARE(look.bottom.rgb() & 0xFFFFFF, colors[1]);
+    if (colors.size() > 2)
+        QCOMPARE(look.border.rgb() & 0xFFFFFF, colors[2]);
 }
 
 void RibbonThemeTest::statesOf2013AreTheAccentOverThePage()
