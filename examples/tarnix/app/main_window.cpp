@@ -14,6 +14,7 @@
 #include <ovk/docking/dock_manager.h>
 #include <ovk/docking/dock_widget.h>
 #include <ovk/main_window/work_area.h>
+#include <ovk/ui_state/features/ui_features_controller.h>
 #include <ovk/ui_state/ui_layout.h>
 #include <ovk/ui_state/ui_profile.h>
 #include <ovk/ui_state/ui_spot_command.h>
@@ -51,6 +52,16 @@ QStringList DroppedFiles(const QMimeData* data)
     return files;
 }
 
+/// While the interface is customised its commands rest: what is clicked then is meant to be moved.
+void BlockCommands(bool block)
+{
+    QList<ovk::UiCommand*> commands;
+    ovk::UiFeaturesController::GetInstance()->GetProductCommands(commands);
+    for (ovk::UiCommand* command : commands)
+        command->SetIsBlocked(block);
+    ovk::UiController::GetInstance()->UpdateUi();
+}
+
 } // namespace
 
 MainWindow::MainWindow(Host& host, PageFactory& pages) : m_host(host), m_pages(pages)
@@ -83,6 +94,7 @@ MainWindow::MainWindow(Host& host, PageFactory& pages) : m_host(host), m_pages(p
     connect(&host.workspace, &Workspace::FormatChanged, this, update_status);
     connect(&host.workspace, &Workspace::BuildChanged, this, &MainWindow::UpdateCaption);
     connect(&scene, &Scene::HistoryChanged, this, &MainWindow::UpdateCaption);
+    SetCommandBlockerFunc(&BlockCommands);
     ApplySettings();
     mp_view->SetPerspective(host.settings.perspective);
     Retranslate();
