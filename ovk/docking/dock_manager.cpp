@@ -11,7 +11,9 @@
 #include "ovk/docking/dock_widget_p.h"
 #include "ovk/ui_state/ui_profile.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QSet>
+#include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 
@@ -95,6 +97,23 @@ void DockManager::Impl::Watch(QScreen* screen)
     connect(screen, &QScreen::geometryChanged, this, [this] { OnScreensChanged(); });
 }
 
+void DockManager::Impl::ShowWaiting()
+{
+    if (!window->window()->isVisible())
+        return;
+    const QList<DockWindow*> panels = floating;
+    for (DockWindow* panel : panels)
+        static_cast<DockWidget::Impl*>(panel->_pp())->EndWaiting();
+}
+
+bool DockManager::Impl::eventFilter(QObject* watched, QEvent* event)
+{
+    // The window itself comes to the screen after this.
+    if (watched == window && event->type() == QEvent::Show)
+        QTimer::singleShot(0, this, [this] { ShowWaiting(); });
+    return DockArea::Impl::eventFilter(watched, event);
+}
+
 void DockManager::Impl::OnScreensChanged()
 {
     const QList<DockWindow*> panels = floating;
@@ -161,6 +180,7 @@ DockManager::DockManager(QWidget* parent) : DockArea(new Impl, parent)
     Impl* const impl = _Impl();
     impl->manager = this;
     impl->controller = std::make_unique<DockDragController>(*this);
+    installEventFilter(impl);
     impl->screens = [] {
         QList<QRect> rects;
         const QList<QScreen*> screens = QGuiApplication::screens();

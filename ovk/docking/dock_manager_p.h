@@ -31,6 +31,9 @@ public:
     QString UniqueName() const;
     /// Brings back panels that lie on no screen any more: one was unplugged, or shrank.
     void OnScreensChanged();
+    /// Puts panels on the screen that floated before their window was shown.
+    void ShowWaiting();
+    bool eventFilter(QObject* watched, QEvent* event) override;
     /// Listens to the size of a screen.
     void Watch(QScreen* screen);
     /// States the rules between the lists, the flags of the panels and the sites. Empty if all

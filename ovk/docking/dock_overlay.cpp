@@ -10,6 +10,8 @@
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 
+#include <algorithm>
+
 namespace ovk {
 
 namespace {
@@ -25,6 +27,19 @@ QRect ZoneOf(DockWidget& panel)
     }
     const DockTitle* const title = panel._Impl()->title;
     return DockOverlay::FloatingZone(panel.rect(), title ? title->sizeHint().height() : 0);
+}
+
+/// A native window within a page, a 3D view say, would hide a cover that is none.
+void CoverNativeContent(QWidget& cover, const DockWidget& panel)
+{
+    const QList<QWidget*> inner = panel.findChildren<QWidget*>();
+    const bool native = std::any_of(inner.begin(), inner.end(), [](const QWidget* widget) {
+        return widget->testAttribute(Qt::WA_NativeWindow);
+    });
+    if (!native)
+        return;
+    cover.setAttribute(Qt::WA_DontCreateNativeAncestors);
+    cover.setAttribute(Qt::WA_NativeWindow);
 }
 
 } // namespace
@@ -65,6 +80,7 @@ QRect DockOverlay::FloatingZone(const QRect& rect, int title)
 DockOverlay::DockOverlay(DockWidget& panel) : QWidget(&panel)
 {
     setAttribute(Qt::WA_NoSystemBackground);
+    CoverNativeContent(*this, panel);
     const QRect zone = ZoneOf(panel);
     setGeometry(zone);
     m_plain = GrabFromScreen(panel, zone);
@@ -105,6 +121,7 @@ BlockOverlay::BlockOverlay(DockWidget& panel)
         QPainter painter(&m_pixmap);
         painter.fillRect(panel.rect(), QColor(255, 255, 255, c_bleach_alpha));
     }
+    CoverNativeContent(*this, panel);
     setGeometry(0, 0, panel.width() - 1, panel.height() - 1);
     raise();
     show();

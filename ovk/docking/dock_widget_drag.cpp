@@ -5,6 +5,7 @@
 #include "ovk/docking/dock_toolbox_site_p.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QApplication>
@@ -86,6 +87,10 @@ void DockWidget::Impl::FilterPanel(QEvent& event)
         if (!event.spontaneous())
             OnHidden();
         break;
+    case QEvent::Move:
+        if (event.spontaneous())
+            OnMoved();
+        break;
     case QEvent::ContextMenu:
         // The mouse has title and tabs for it; with the key it opens from anywhere in the panel
         // that has no menu of its own.
@@ -117,6 +122,19 @@ void DockWidget::Impl::FilterPanel(QEvent& event)
     default:
         break;
     }
+}
+
+void DockWidget::Impl::OnMoved()
+{
+    // A window that was part of another, and has native children, may be reported at the corner of
+    // the screen while a window manager takes it over, and never again where it is.
+    const QPoint put_at = std::exchange(m_put_at, QPoint());
+    if (!floated || dragging || put_at.isNull() || !window->pos().isNull())
+        return;
+    QTimer::singleShot(0, this, [this, put_at] {
+        if (floated && !dragging && window->pos().isNull())
+            window->move(put_at);
+    });
 }
 
 void DockWidget::Impl::FilterPage(QWidget& widget, QEvent& event)

@@ -279,6 +279,7 @@ void DockWidget::Impl::SetFloated(const QPoint& pos)
     PostUpdate(UpdateButtons);
     PostUpdate(UpdateSizes | UpdateButtons);
     window->move(pos);
+    m_put_at = pos;
     window->setVisible(show);
 }
 

@@ -116,6 +116,10 @@ public:
     void Retire();
     void OnShown();
     void OnHidden();
+    /// A floating panel that is shown before its window is stays off the screen till then: else it
+    /// would lie behind the window and not be minimised with it.
+    void WaitForWindow();
+    void EndWaiting();
 
     void ShowOverlay(const QPoint& pos);
     void HideOverlay();
@@ -173,11 +177,16 @@ private:
     void ShowTab(IDockPage* page);
     void HideTab(IDockPage* page);
 
+    /// A native window in a page makes its siblings native; the panel must not become so with
+    /// them: not every window manager tells a window that was part of another where it lies then.
+    static void KeepParentPlain(QWidget& child);
+
     void OnTabClicked(int index);
     void OnCurrentChanged(int index);
     void OnTabMoved(int from, int to);
     void ShowContextMenu(const QPoint& pos);
     void FilterPanel(QEvent& event);
+    void OnMoved();
     void FilterTabBar(QEvent& event);
     void FilterPage(QWidget& widget, QEvent& event);
     void TearOff(const QPoint& pos);
@@ -189,6 +198,9 @@ private:
     /// A page may be half destroyed when it is taken out: its widget is not asked of it then.
     QHash<const IDockPage*, QWidget*> m_widgets;
     bool m_focus_page = false;
+    bool m_waiting = false;
+    /// Where the panel was put when it began to float, till something else moves it.
+    QPoint m_put_at;
     bool m_applying_sizes = false;
 };
 

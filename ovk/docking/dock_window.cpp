@@ -179,21 +179,20 @@ void DockWindow::Impl::StoreResizeStart(const QPoint& pos)
     resize_start = window->geometry();
 }
 
-void DockWindow::Impl::ResizeTo(const QPoint& pos)
+void DockWindow::Impl::ResizeTo(const QMouseEvent& event)
 {
-    const auto step = ResizeByEdge(resize_edge, resize_start, resize_press, pos, window->size());
+    // What comes from a window system may be late: it was measured from where the window was then,
+    // and the window may not be yet where it was put last. The border would run away from the
+    // pointer, were it not for the place that was asked for.
+    const bool real = event.spontaneous();
+    const QPoint pos = real ? event.globalPos() - resize_start.topLeft() : event.pos();
+    const QSize live = real ? resize_start.size() : window->size();
+    const auto step = ResizeByEdge(resize_edge, resize_start, resize_press, pos, live);
     if (!step)
         return;
     window->setGeometry(step->geometry);
     if (step->refresh)
         resize_start = window->geometry();
-}
-
-/// Where an event is in the window. What comes from a window system may be late: it was measured
-/// from where the window was then, and a border that is dragged would run away from the pointer.
-QPoint DockWindow::Impl::PlaceOf(const QMouseEvent& event) const
-{
-    return event.spontaneous() ? window->mapFromGlobal(event.globalPos()) : event.pos();
 }
 
 DockWindow::DockWindow(Impl* impl, QWidget* parent)
@@ -240,15 +239,15 @@ void DockWindow::mouseMoveEvent(QMouseEvent* event)
     if (!mp_impl->CanResize())
         return;
     if (event->buttons() & Qt::LeftButton)
-        mp_impl->ResizeTo(mp_impl->PlaceOf(*event));
+        mp_impl->ResizeTo(*event);
     else
-        mp_impl->HitTest(mp_impl->PlaceOf(*event));
+        mp_impl->HitTest(event->pos());
 }
 
 void DockWindow::mousePressEvent(QMouseEvent* event)
 {
     if ((event->buttons() & Qt::LeftButton) && mp_impl->CanResize())
-        mp_impl->StoreResizeStart(mp_impl->PlaceOf(*event));
+        mp_impl->StoreResizeStart(event->pos());
 }
 
 } // namespace ovk

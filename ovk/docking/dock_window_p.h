@@ -50,9 +50,8 @@ public:
     void LayoutTitle();
     /// Ends a drag of which the release was lost. Nothing while none is under way.
     void AbortDrag();
-    QPoint PlaceOf(const QMouseEvent& event) const;
     void HitTest(const QPoint& pos);
-    void ResizeTo(const QPoint& pos);
+    void ResizeTo(const QMouseEvent& event);
     void StoreResizeStart(const QPoint& pos);
 
     DockWindow* window = nullptr;
