@@ -9,12 +9,12 @@
 #include "app/tour.h"
 #include "app/ui_dump.h"
 #include "model/stl_reader.h"
+#include "preferences/take_over.h"
 
 #include <ovk/commands/ui_controller.h>
 #include <ovk/core/icons_controller.h>
 #include <ovk/core/root_controller.h>
 #include <ovk/main_window/accessible_widgets.h>
-#include <ovk/preferences/preferences_controller.h>
 #include <ovk/ui_state/features/ui_features_controller.h>
 #include <ovk/ui_state/ui_profile.h>
 #include <ovk/ui_state/ui_profile_controller.h>
@@ -24,7 +24,6 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QTimer>
 
 #include <cstdio>
@@ -151,29 +150,15 @@ Options ReadOptions(const QApplication& application)
     return options;
 }
 
-bool AskToCarryOver(const QString& what)
-{
-    return QMessageBox::question(nullptr, QApplication::applicationDisplayName(), what) ==
-           QMessageBox::Yes;
-}
-
 void SetUpControllers(const Options& options)
 {
     const auto log = [](const QString& line) { qInfo("%s", qPrintable(line)); };
-    ovk::PreferencesController* preferences = ovk::PreferencesController::GetInstance();
-    preferences->SetLogger(log);
-    preferences->SetUserQuery([] {
-        constexpr int k_take_over = 4;
-        return AskToCarryOver(QApplication::translate(
-                   "tarnix::Start", "Take over the options of the version before?"))
-                   ? k_take_over
-                   : 0;
-    });
+    tarnix::SetUpPreferences();
     ovk::UiProfileController* profiles = ovk::UiProfileController::GetInstance();
     profiles->SetProductName(options.product);
     profiles->SetLogger(log);
     profiles->SetUserQuery([] {
-        return AskToCarryOver(QApplication::translate(
+        return tarnix::AskToTakeOver(QApplication::translate(
             "tarnix::Start", "Take over the customized interface of the version before?"));
     });
 }

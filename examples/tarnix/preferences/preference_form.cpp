@@ -166,6 +166,7 @@ QStringList PreferenceForm::Pages() const
 
 void PreferenceForm::ShowPage(int page)
 {
+    _NameSections(false);
     _Show([page](const Section& section, const Row&) { return section.page == page; });
 }
 
@@ -173,6 +174,7 @@ int PreferenceForm::Search(const QString& text)
 {
     const QStringList words = text.simplified().split(QLatin1Char(' '));
     int found = 0;
+    _NameSections(true);
     _Show([&](const Section&, const Row& row) {
         const bool fits = std::all_of(words.begin(), words.end(), [&row](const QString& word) {
             return row.words.contains(word, Qt::CaseInsensitive);
@@ -201,6 +203,16 @@ void PreferenceForm::_Show(const std::function<bool(const Section&, const Row&)>
     m_tree.scrollToTop();
     // The view selects the text of every editor that it opens.
     Update();
+}
+
+void PreferenceForm::_NameSections(bool with_page)
+{
+    const QString pattern = QStringLiteral("%1  \u203a  %2");
+    for (const auto& section : m_sections) {
+        const QString title = with_page ? pattern.arg(m_pages.at(section->page), section->title) : section->title;
+        if (title != section->item->GetTitle())
+            section->item->SetTitle(title);
+    }
 }
 
 void PreferenceForm::RestoreShown()

@@ -75,6 +75,8 @@ private:
     struct Section;
     class Provider;
 
+    /// Among sections of several pages each says to which it belongs.
+    void _NameSections(bool with_page);
     void _Show(const std::function<bool(const Section&, const Row&)>& wanted);
     template <class Preference, class Value> void _Add(const Title& title, Preference& preference,
                                                        ovk::TreeItemDelegateWrapper delegate);

@@ -100,7 +100,10 @@ PreferencesPage::PreferencesPage(Host& host, QWidget* parent)
             UpdateUnit();
     });
     connect(mp_search, &QLineEdit::textChanged, this, &PreferencesPage::ShowRows);
-    connect(mp_pages, &QListWidget::currentRowChanged, this, [this] {
+    connect(mp_pages, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row < 0)
+            return;
+        m_page = row;
         // A page is wanted, and no longer what was sought.
         const QSignalBlocker blocker(mp_search);
         mp_search->clear();
@@ -148,7 +151,6 @@ int PreferencesPage::RowCount() const
 
 void PreferencesPage::Build()
 {
-    const int page = std::max(0, mp_pages->currentRow());
     delete mp_tree;
     mp_tree = new ovk::TreeEdit(this);
     mp_tree->setObjectName(QStringLiteral("optionsTree"));
@@ -169,7 +171,7 @@ void PreferencesPage::Build()
     mp_pages->addItems(mp_form->Pages());
     for (int i = 0; i < mp_pages->count(); ++i)
         mp_pages->item(i)->setSizeHint({k_pages_width, mp_pages->fontMetrics().height() + 14});
-    mp_pages->setCurrentRow(std::min(page, mp_pages->count() - 1));
+    m_page = std::min(m_page, mp_pages->count() - 1);
     UpdateUnit();
     ShowRows();
 }
@@ -191,8 +193,11 @@ void PreferencesPage::ShowRows()
 {
     const QString text = mp_search->text().simplified();
     bool found = true;
+    const QSignalBlocker blocker(mp_pages);
+    // What a search finds is of no one page.
+    mp_pages->setCurrentRow(text.isEmpty() ? m_page : -1);
     if (text.isEmpty())
-        mp_form->ShowPage(mp_pages->currentRow());
+        mp_form->ShowPage(m_page);
     else
         found = mp_form->Search(text) > 0;
     // Nobody has chosen a row yet.

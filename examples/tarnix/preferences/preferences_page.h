@@ -54,6 +54,7 @@ private:
     QHBoxLayout* mp_body;
     QPointer<ovk::TreeEdit> mp_tree;
     std::unique_ptr<PreferenceForm> mp_form;
+    int m_page = 0;
     QTimer m_apply;
     QTimer m_rebuild;
     /// Materials come and go.

@@ -51,6 +51,7 @@ public:
     void SetColors(const ViewColors& colors);
     const ViewColors& Colors() const { return m_colors; }
     void SetHandling(const Handling& handling);
+    const Handling& GetHandling() const { return m_handling; }
     /// Where the first look at the plate comes from; of no effect after that.
     void SetStartView(double azimuth, double elevation);
     /// The view as a picture of its own, without waiting for a repaint.
