@@ -13,7 +13,7 @@ LAYOUTS = (("P", "Prepare"), ("I", "Inspect"), ("S", "Slice"))
 PRODUCTS = (("F", "Tarnix", "tarnix"), ("L", "Tarnix Lite", "lite"))
 LARGE, BESIDE, ICON = 3, 2, 0
 SIDES = ("left", "right", "top", "bottom")
-SITE_SIZES = {"left": 210, "right": 250, "top": 150, "bottom": 150}
+SITE_SIZES = {"left": 245, "right": 250, "top": 150, "bottom": 150}
 
 
 def lines(name):

@@ -12,7 +12,8 @@ namespace tarnix {
 namespace {
 
 constexpr quint32 k_magic = 0x54524e58;
-constexpr quint16 k_version = 1;
+constexpr quint16 k_version = 2;
+constexpr quint16 k_without_notes = 1;
 constexpr int k_point_bytes = 24;
 constexpr int k_triangle_bytes = 12;
 constexpr quint32 k_most_parts = 10000;
@@ -60,7 +61,8 @@ void Set(QDataStream& stream)
 
 } // namespace
 
-QByteArray BuildFile::Write(const PartList& parts, const Plate& plate)
+QByteArray BuildFile::Write(const PartList& parts, const Plate& plate,
+                            const std::function<QString(int)>& note_of)
 {
     std::vector<const Mesh*> meshes;
     std::unordered_map<const Mesh*, quint32> numbers;
@@ -86,6 +88,10 @@ QByteArray BuildFile::Write(const PartList& parts, const Plate& plate)
         const Vec3 shift = part.GetPlacement().Shift();
         stream << shift.x << shift.y << shift.z;
     }
+    QStringList notes;
+    for (const Part& part : parts)
+        notes.append(note_of ? note_of(part.id) : QString());
+    stream << (note_of ? note_of(0) : QString()) << notes;
     return bytes;
 }
 
@@ -104,7 +110,7 @@ BuildFile::Result BuildFile::Read(const QByteArray& bytes)
     stream >> magic >> version;
     if (stream.status() != QDataStream::Ok || magic != k_magic)
         return fail(tr("This is not a build of this program."));
-    if (version != k_version)
+    if (version != k_version && version != k_without_notes)
         return fail(tr("The build was saved by a newer program (form %1).").arg(version));
     stream >> result.plate.width >> result.plate.depth >> result.plate.height >> count;
     const auto usable = [](double side) { return side >= 1.0 && side <= 10000.0; };
@@ -150,15 +156,22 @@ BuildFile::Result BuildFile::Read(const QByteArray& bytes)
         part.SetPlacement(placement);
         result.parts.push_back(std::move(part));
     }
+    if (version != k_without_notes) {
+        stream >> result.note >> result.notes;
+        if (stream.status() != QDataStream::Ok ||
+            result.notes.size() != static_cast<int>(result.parts.size()))
+            return fail(tr("The build is damaged: its notes cannot be read."));
+    }
     return result;
 }
 
-QString BuildFile::Save(const QString& path, const PartList& parts, const Plate& plate)
+QString BuildFile::Save(const QString& path, const PartList& parts, const Plate& plate,
+                        const std::function<QString(int)>& note_of)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return tr("The file cannot be written: %1.").arg(file.errorString());
-    file.write(Write(parts, plate));
+    file.write(Write(parts, plate, note_of));
     return file.commit() ? QString()
                          : tr("The file cannot be written: %1.").arg(file.errorString());
 }
