@@ -249,6 +249,7 @@ void DockWidget::Impl::OnDocked(DockToolboxSite& site)
     }
     HideOverlay();
     EndWaiting();
+    SetExpandAvailable(true); // until the site knows better
     Panel()->_SetToolboxSite(&site);
     // The site has a say in the sizes and the policy.
     PostUpdate(UpdateSizes);

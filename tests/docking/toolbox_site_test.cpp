@@ -377,6 +377,10 @@ void ToolboxSiteTest::theFoldButtonIsOffWhereThereIsNoRoom()
     fixture.manager->resize(800, 349);
     DockFixture::Settle();
     QVERIFY(!title->GetMinimizeButton()->isEnabled());
+    // Side by side there is room below.
+    fixture.Top()->AddWidget(other);
+    DockFixture::Settle();
+    QVERIFY(title->GetMinimizeButton()->isEnabled());
     // What floats has all the room.
     other->SetFloated(QPoint(50, 50));
     DockFixture::Settle();
