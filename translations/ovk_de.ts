@@ -516,6 +516,30 @@ zurücksetzen</translation>
     </message>
 </context>
 <context>
+    <name>ovk::UiCustomizeDialog::Impl</name>
+    <message>
+        <source>Customize UI commands</source>
+        <translation>Oberfläche anpassen</translation>
+    </message>
+    <message>
+        <source>Visual
+style</source>
+        <translation>Design</translation>
+    </message>
+    <message>
+        <source>Toolbars
+&amp;&amp;
+Shortcuts</source>
+        <translation>Symbolleisten
+und
+Tasten</translation>
+    </message>
+    <message>
+        <source>Toolpages</source>
+        <translation>Bereiche</translation>
+    </message>
+</context>
+<context>
     <name>ovk::UiCustomizeSitesWidget::Impl</name>
     <message>
         <source>Add page</source>
@@ -776,6 +800,34 @@ zurücksetzen</translation>
     <message>
         <source>Collapse all tree items</source>
         <translation>Alle Einträge des Baums einklappen</translation>
+    </message>
+    <message>
+        <source>There are no commands</source>
+        <translation>Es gibt keine Befehle</translation>
+    </message>
+    <message>
+        <source>Create composite commands with the context menu</source>
+        <translation>Zusammengesetzte Befehle lassen sich im Kontextmenü erstellen</translation>
+    </message>
+    <message>
+        <source>Add a page to begin</source>
+        <translation>Fügen Sie zuerst eine Seite hinzu</translation>
+    </message>
+    <message>
+        <source>Drag commands here</source>
+        <translation>Ziehen Sie Befehle hierher</translation>
+    </message>
+    <message>
+        <source>Add a toolbar to begin</source>
+        <translation>Fügen Sie zuerst eine Symbolleiste hinzu</translation>
+    </message>
+    <message>
+        <source>Add a menu to begin</source>
+        <translation>Fügen Sie zuerst ein Menü hinzu</translation>
+    </message>
+    <message>
+        <source>Nothing matches the search</source>
+        <translation>Die Suche hat keine Treffer</translation>
     </message>
 </context>
 <context>

@@ -50,6 +50,14 @@
         <source>g</source>
         <translation>g</translation>
     </message>
+    <message>
+        <source>bold</source>
+        <translation>fett</translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation>kursiv</translation>
+    </message>
 </context>
 <context>
     <name>commands.Add.Box</name>
@@ -3814,6 +3822,42 @@
     </message>
 </context>
 <context>
+    <name>commands.Window.Legend</name>
+    <message>
+        <source>Colours</source>
+        <comment>title</comment>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel that says what the colours of the parts mean.</source>
+        <comment>tooltip</comment>
+        <translation>Blendet den Bereich ein oder aus, der sagt, was die Farben der Teile bedeuten.</translation>
+    </message>
+    <message>
+        <source>Show or hide the legend of colours</source>
+        <comment>statustip</comment>
+        <translation>Die Farblegende ein- oder ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>commands.Window.Log</name>
+    <message>
+        <source>Log</source>
+        <comment>title</comment>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel with what happened so far.</source>
+        <comment>tooltip</comment>
+        <translation>Blendet den Bereich mit dem ein oder aus, was bisher geschah.</translation>
+    </message>
+    <message>
+        <source>Show or hide the log</source>
+        <comment>statustip</comment>
+        <translation>Das Protokoll ein- oder ausblenden</translation>
+    </message>
+</context>
+<context>
     <name>commands.Window.Measurements</name>
     <message>
         <source>Measurements</source>
@@ -3832,6 +3876,42 @@
     </message>
 </context>
 <context>
+    <name>commands.Window.Notes</name>
+    <message>
+        <source>Notes</source>
+        <comment>title</comment>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel with the notes on parts and build.</source>
+        <comment>tooltip</comment>
+        <translation>Blendet den Bereich mit den Notizen zu Teilen und Projekt ein oder aus.</translation>
+    </message>
+    <message>
+        <source>Show or hide the notes</source>
+        <comment>statustip</comment>
+        <translation>Die Notizen ein- oder ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>commands.Window.PartTree</name>
+    <message>
+        <source>Part</source>
+        <comment>title</comment>
+        <translation>Teil</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel in which the selected part is edited.</source>
+        <comment>tooltip</comment>
+        <translation>Blendet den Bereich ein oder aus, in dem das ausgewählte Teil bearbeitet wird.</translation>
+    </message>
+    <message>
+        <source>Show or hide the editor of the part</source>
+        <comment>statustip</comment>
+        <translation>Den Bearbeiter des Teils ein- oder ausblenden</translation>
+    </message>
+</context>
+<context>
     <name>commands.Window.Parts</name>
     <message>
         <source>Part List</source>
@@ -3847,6 +3927,24 @@
         <source>Show or hide the list of parts</source>
         <comment>statustip</comment>
         <translation>Die Liste der Teile ein- oder ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>commands.Window.Primitives</name>
+    <message>
+        <source>Primitives</source>
+        <comment>title</comment>
+        <translation>Grundkörper</translation>
+    </message>
+    <message>
+        <source>Show or hide the panel with simple solids to insert.</source>
+        <comment>tooltip</comment>
+        <translation>Blendet den Bereich mit einfachen Körpern zum Einfügen ein oder aus.</translation>
+    </message>
+    <message>
+        <source>Show or hide the simple solids</source>
+        <comment>statustip</comment>
+        <translation>Die einfachen Körper ein- oder ausblenden</translation>
     </message>
 </context>
 <context>
@@ -4293,6 +4391,10 @@
         <source>The file is too large.</source>
         <translation>Die Datei ist zu groß.</translation>
     </message>
+    <message>
+        <source>The build is damaged: its notes cannot be read.</source>
+        <translation>Das Projekt ist beschädigt: Seine Notizen sind nicht lesbar.</translation>
+    </message>
 </context>
 <context>
     <name>tarnix::Checks</name>
@@ -4627,6 +4729,21 @@
     </message>
 </context>
 <context>
+    <name>tarnix::EventLog</name>
+    <message>
+        <source>Step</source>
+        <translation>Schritt</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+</context>
+<context>
     <name>tarnix::FileActions</name>
     <message>
         <source>STL files (*.stl)</source>
@@ -4831,6 +4948,17 @@
     </message>
 </context>
 <context>
+    <name>tarnix::Host</name>
+    <message>
+        <source>Again: %1</source>
+        <translation>Wiederholt: %1</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Zurückgenommen: %1</translation>
+    </message>
+</context>
+<context>
     <name>tarnix::InspectCommands</name>
     <message numerus="yes">
         <source>Measurements copied: %n</source>
@@ -4888,6 +5016,100 @@
     <message>
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>tarnix::LegendPage</name>
+    <message>
+        <source>Colours of the parts</source>
+        <translation>Farben der Teile</translation>
+    </message>
+    <message>
+        <source>Height over the plate</source>
+        <translation>Höhe über der Platte</translation>
+    </message>
+    <message>
+        <source>Overhang</source>
+        <translation>Überhang</translation>
+    </message>
+    <message>
+        <source>What the colours tell</source>
+        <translation>Was die Farben bedeuten</translation>
+    </message>
+    <message>
+        <source>Scale of colours</source>
+        <translation>Farbskala</translation>
+    </message>
+    <message>
+        <source>Each part has a colour of its own.</source>
+        <translation>Jedes Teil hat seine eigene Farbe.</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>Teil</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>Height in %1</source>
+        <translation>Höhe in %1</translation>
+    </message>
+    <message>
+        <source>Degrees that a surface leans over</source>
+        <translation>Überhang einer Fläche in Grad</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+</context>
+<context>
+    <name>tarnix::LogPage</name>
+    <message>
+        <source>Everything</source>
+        <translation>Alles</translation>
+    </message>
+    <message>
+        <source>Messages and warnings</source>
+        <translation>Meldungen und Warnungen</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Warnungen</translation>
+    </message>
+    <message>
+        <source>Shown entries</source>
+        <translation>Gezeigte Einträge</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Was geschah</translation>
     </message>
 </context>
 <context>
@@ -5099,6 +5321,21 @@
     </message>
 </context>
 <context>
+    <name>tarnix::NotesPage</name>
+    <message>
+        <source>Write here what is worth knowing.</source>
+        <translation>Schreiben Sie hier auf, was wissenswert ist.</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Zu %1</translation>
+    </message>
+    <message>
+        <source>About the build</source>
+        <translation>Zum Projekt</translation>
+    </message>
+</context>
+<context>
     <name>tarnix::Options</name>
     <message>
         <source>Blue</source>
@@ -5169,14 +5406,6 @@
         <translation>Statusleiste</translation>
     </message>
     <message>
-        <source>Units and steps</source>
-        <translation>Einheiten und Schritte</translation>
-    </message>
-    <message>
-        <source>Lengths in inches</source>
-        <translation>Längen in Zoll</translation>
-    </message>
-    <message>
         <source>Step of moving</source>
         <translation>Schritt beim Verschieben</translation>
     </message>
@@ -5225,16 +5454,716 @@
         <translation>Schichtdicke</translation>
     </message>
     <message>
-        <source>Restore defaults</source>
-        <translation>Standardwerte wiederherstellen</translation>
-    </message>
-    <message>
         <source>As the system (%1)</source>
         <translation>Wie das System (%1)</translation>
     </message>
     <message>
         <source>Language</source>
         <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Units and Steps</source>
+        <translation>Einheiten und Schritte</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Zahlen</translation>
+    </message>
+    <message>
+        <source>Decimals of lengths</source>
+        <translation>Nachkommastellen von Längen</translation>
+    </message>
+    <message>
+        <source>Digits behind the point in millimetres; two more in inches.</source>
+        <translation>Stellen hinter dem Komma in Millimetern; in Zoll zwei mehr.</translation>
+    </message>
+    <message>
+        <source>Unit inside the fields</source>
+        <translation>Einheit in den Feldern</translation>
+    </message>
+    <message>
+        <source>Shows the unit inside the fields of dialogs, and not beside them.</source>
+        <translation>Zeigt die Einheit in den Feldern der Dialoge und nicht daneben.</translation>
+    </message>
+    <message>
+        <source>Moving and Turning</source>
+        <translation>Verschieben und Drehen</translation>
+    </message>
+    <message>
+        <source>How far the arrows move the selected parts.</source>
+        <translation>Wie weit die Pfeile die ausgewählten Teile verschieben.</translation>
+    </message>
+    <message>
+        <source>Parts that are dragged go from step to step.</source>
+        <translation>Gezogene Teile springen von Schritt zu Schritt.</translation>
+    </message>
+    <message>
+        <source>Way until a drag begins</source>
+        <translation>Weg bis zum Beginn des Ziehens</translation>
+    </message>
+    <message>
+        <source>How far the pointer moves before a press becomes a drag.</source>
+        <translation>Wie weit sich der Mauszeiger bewegt, bevor aus dem Drücken ein Ziehen wird.</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>The angle of the commands that turn to the left and right.</source>
+        <translation>Der Winkel der Befehle, die nach links und rechts drehen.</translation>
+    </message>
+    <message>
+        <source>Turn in steps only</source>
+        <translation>Nur in Schritten drehen</translation>
+    </message>
+    <message>
+        <source>Angles that are typed come to the nearest step.</source>
+        <translation>Eingegebene Winkel werden auf den nächsten Schritt gerundet.</translation>
+    </message>
+    <message>
+        <source>Kept free when parts are arranged and added.</source>
+        <translation>Bleibt frei, wenn Teile angeordnet und hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Steps that can be undone</source>
+        <translation>Schritte, die sich zurücknehmen lassen</translation>
+    </message>
+    <message>
+        <source>Older steps are forgotten.</source>
+        <translation>Ältere Schritte werden vergessen.</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>The colours of the window.</source>
+        <translation>Die Farben des Fensters.</translation>
+    </message>
+    <message>
+        <source>The colour of the ribbon and of what is selected.</source>
+        <translation>Die Farbe des Menübands und der Auswahl.</translation>
+    </message>
+    <message>
+        <source>Every text that is visible follows at once.</source>
+        <translation>Alle sichtbaren Texte folgen sofort.</translation>
+    </message>
+    <message>
+        <source>Parts of the Window</source>
+        <translation>Teile des Fensters</translation>
+    </message>
+    <message>
+        <source>Below the groups of the ribbon.</source>
+        <translation>Unter den Gruppen des Menübands.</translation>
+    </message>
+    <message>
+        <source>The window draws its own caption.</source>
+        <translation>Das Fenster zeichnet seine Titelleiste selbst.</translation>
+    </message>
+    <message>
+        <source>Shows the pointer, the selection and the unit.</source>
+        <translation>Zeigt den Mauszeiger, die Auswahl und die Einheit.</translation>
+    </message>
+    <message>
+        <source>Messages stay for</source>
+        <translation>Meldungen bleiben</translation>
+    </message>
+    <message>
+        <source>How long a message stands in the status bar.</source>
+        <translation>Wie lange eine Meldung in der Statusleiste steht.</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Opening and Leaving</source>
+        <translation>Öffnen und Verlassen</translation>
+    </message>
+    <message>
+        <source>Open the last build at the start</source>
+        <translation>Beim Start das letzte Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>The program goes on where it was left.</source>
+        <translation>Das Programm macht weiter, wo es verlassen wurde.</translation>
+    </message>
+    <message>
+        <source>Ask before unsaved parts are lost</source>
+        <translation>Nachfragen, bevor ungespeicherte Teile verloren gehen</translation>
+    </message>
+    <message>
+        <source>When the program is left or another build is opened.</source>
+        <translation>Wenn das Programm verlassen oder ein anderes Projekt geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Zuletzt verwendete Dateien</translation>
+    </message>
+    <message>
+        <source>How many files the program remembers from now on.</source>
+        <translation>Wie viele Dateien sich das Programm von jetzt an merkt.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Place new parts</source>
+        <translation>Neue Teile platzieren</translation>
+    </message>
+    <message>
+        <source>Parts from files find a free place on the plate; otherwise they stay where their file has them.</source>
+        <translation>Teile aus Dateien finden einen freien Platz auf der Platte; sonst bleiben sie, wo ihre Datei sie hat.</translation>
+    </message>
+    <message>
+        <source>Repair new parts</source>
+        <translation>Neue Teile reparieren</translation>
+    </message>
+    <message>
+        <source>Parts from files are joined, closed and turned right side out.</source>
+        <translation>Teile aus Dateien werden verbunden, geschlossen und nach außen gewendet.</translation>
+    </message>
+    <message>
+        <source>Inches if smaller than</source>
+        <translation>Zoll, wenn kleiner als</translation>
+    </message>
+    <message>
+        <source>A part from a file whose longest side is shorter is taken to be in inches; 0 for none.</source>
+        <translation>Ein Teil aus einer Datei, dessen längste Seite kürzer ist, gilt als in Zoll gezeichnet; 0 für keines.</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Saved Pictures</source>
+        <translation>Gespeicherte Bilder</translation>
+    </message>
+    <message>
+        <source>Picture width</source>
+        <translation>Bildbreite</translation>
+    </message>
+    <message>
+        <source>Of the pictures that are saved to a file.</source>
+        <translation>Der Bilder, die in eine Datei gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Picture height</source>
+        <translation>Bildhöhe</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Teile</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>How parts are drawn.</source>
+        <translation>Wie Teile gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>Shaded</source>
+        <translation>Schattiert</translation>
+    </message>
+    <message>
+        <source>Shaded with edges</source>
+        <translation>Schattiert mit Kanten</translation>
+    </message>
+    <message>
+        <source>Shaded with triangles</source>
+        <translation>Schattiert mit Dreiecken</translation>
+    </message>
+    <message>
+        <source>Wireframe</source>
+        <translation>Drahtgitter</translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation>Durchsichtig</translation>
+    </message>
+    <message>
+        <source>Boxes</source>
+        <translation>Quader</translation>
+    </message>
+    <message>
+        <source>Smooth shading</source>
+        <translation>Weiche Schattierung</translation>
+    </message>
+    <message>
+        <source>Light runs smoothly over soft bends.</source>
+        <translation>Das Licht läuft weich über sanfte Biegungen.</translation>
+    </message>
+    <message>
+        <source>Fine edges</source>
+        <translation>Feine Kanten</translation>
+    </message>
+    <message>
+        <source>A view at rest is drawn twice as fine.</source>
+        <translation>Eine ruhende Ansicht wird doppelt so fein gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Names of parts</source>
+        <translation>Namen der Teile</translation>
+    </message>
+    <message>
+        <source>Font of texts in the scene</source>
+        <translation>Schrift der Texte in der Szene</translation>
+    </message>
+    <message>
+        <source>Names, sizes and measurements.</source>
+        <translation>Namen, Größen und Messungen.</translation>
+    </message>
+    <message>
+        <source>Around the Parts</source>
+        <translation>Um die Teile herum</translation>
+    </message>
+    <message>
+        <source>Plate</source>
+        <translation>Platte</translation>
+    </message>
+    <message>
+        <source>Shadows</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>Of the parts on the plate.</source>
+        <translation>Der Teile auf der Platte.</translation>
+    </message>
+    <message>
+        <source>Axes</source>
+        <translation>Achsen</translation>
+    </message>
+    <message>
+        <source>View cube</source>
+        <translation>Ansichtswürfel</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>Distance of the lines</source>
+        <translation>Abstand der Linien</translation>
+    </message>
+    <message>
+        <source>0 for the usual one of the unit: 10 mm, half an inch.</source>
+        <translation>0 für den üblichen der Einheit: 10 mm, ein halber Zoll.</translation>
+    </message>
+    <message>
+        <source>Strong lines</source>
+        <translation>Kräftige Linien</translation>
+    </message>
+    <message>
+        <source>Every so many lines is a strong one.</source>
+        <translation>Jede wievielte Linie kräftig ist.</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Mouse</source>
+        <translation>Maus</translation>
+    </message>
+    <message>
+        <source>Speed of turning</source>
+        <translation>Geschwindigkeit des Drehens</translation>
+    </message>
+    <message>
+        <source>1 is the usual one.</source>
+        <translation>1 ist die übliche.</translation>
+    </message>
+    <message>
+        <source> times</source>
+        <translation> ×</translation>
+    </message>
+    <message>
+        <source>Speed of zooming</source>
+        <translation>Geschwindigkeit des Zoomens</translation>
+    </message>
+    <message>
+        <source>Turn the wheel the other way</source>
+        <translation>Drehrichtung des Rads umkehren</translation>
+    </message>
+    <message>
+        <source>Views</source>
+        <translation>Ansichten</translation>
+    </message>
+    <message>
+        <source>Perspective</source>
+        <translation>Perspektive</translation>
+    </message>
+    <message>
+        <source>What is far away is smaller.</source>
+        <translation>Was weiter weg ist, ist kleiner.</translation>
+    </message>
+    <message>
+        <source>Flight to another view</source>
+        <translation>Flug zu einer anderen Ansicht</translation>
+    </message>
+    <message>
+        <source>0 to be there at once.</source>
+        <translation>0, um sofort dort zu sein.</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Views to go back to</source>
+        <translation>Ansichten, zu denen man zurückkann</translation>
+    </message>
+    <message>
+        <source>View at the start</source>
+        <translation>Ansicht beim Start</translation>
+    </message>
+    <message>
+        <source>From where the program looks at the plate when it starts.</source>
+        <translation>Von wo das Programm beim Start auf die Platte blickt.</translation>
+    </message>
+    <message>
+        <source>Take the present one (now %1, %2)</source>
+        <translation>Die jetzige nehmen (jetzt %1, %2)</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>Szene</translation>
+    </message>
+    <message>
+        <source>Background, above</source>
+        <translation>Hintergrund, oben</translation>
+    </message>
+    <message>
+        <source>As the theme</source>
+        <translation>Wie das Design</translation>
+    </message>
+    <message>
+        <source>Background, below</source>
+        <translation>Hintergrund, unten</translation>
+    </message>
+    <message>
+        <source>Grid, strong lines</source>
+        <translation>Raster, kräftige Linien</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Edges</source>
+        <translation>Kanten</translation>
+    </message>
+    <message>
+        <source>New Parts</source>
+        <translation>Neue Teile</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>Farbe %1</translation>
+    </message>
+    <message>
+        <source>Take the colours in turn</source>
+        <translation>Die Farben reihum verwenden</translation>
+    </message>
+    <message>
+        <source>Otherwise all new parts have the first colour.</source>
+        <translation>Sonst haben alle neuen Teile die erste Farbe.</translation>
+    </message>
+    <message>
+        <source>Machine and Material</source>
+        <translation>Maschine und Material</translation>
+    </message>
+    <message>
+        <source>Build Volume</source>
+        <translation>Bauraum</translation>
+    </message>
+    <message>
+        <source>Own figures</source>
+        <translation>Eigene Werte</translation>
+    </message>
+    <message>
+        <source>Material in use</source>
+        <translation>Verwendetes Material</translation>
+    </message>
+    <message>
+        <source>Brings its figures along.</source>
+        <translation>Bringt seine Werte mit.</translation>
+    </message>
+    <message>
+        <source>For the weight of parts.</source>
+        <translation>Für das Gewicht der Teile.</translation>
+    </message>
+    <message>
+        <source>Flatter surfaces need a support.</source>
+        <translation>Flachere Flächen brauchen eine Stütze.</translation>
+    </message>
+    <message>
+        <source>Profile &quot;%1&quot;</source>
+        <translation>Profil „%1“</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Colour of new parts</source>
+        <translation>Farbe neuer Teile</translation>
+    </message>
+    <message>
+        <source>Otherwise the colours of the options in turn.</source>
+        <translation>Sonst die Farben der Optionen reihum.</translation>
+    </message>
+    <message>
+        <source>In turn</source>
+        <translation>Reihum</translation>
+    </message>
+    <message>
+        <source>This profile</source>
+        <translation>Dieses Profil</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>More Profiles</source>
+        <translation>Weitere Profile</translation>
+    </message>
+    <message>
+        <source>A profile with the figures in use</source>
+        <translation>Ein Profil mit den verwendeten Werten</translation>
+    </message>
+    <message>
+        <source>Add Profile</source>
+        <translation>Profil hinzufügen</translation>
+    </message>
+    <message>
+        <source>Material %1</source>
+        <translation>Material %1</translation>
+    </message>
+    <message>
+        <source>Measuring</source>
+        <translation>Messen</translation>
+    </message>
+    <message>
+        <source>Snapping</source>
+        <translation>Fangen</translation>
+    </message>
+    <message>
+        <source>To points</source>
+        <translation>An Punkten</translation>
+    </message>
+    <message>
+        <source>A click takes the nearest corner.</source>
+        <translation>Ein Klick nimmt die nächste Ecke.</translation>
+    </message>
+    <message>
+        <source>To edges</source>
+        <translation>An Kanten</translation>
+    </message>
+    <message>
+        <source>A click takes the nearest place of an edge, unless it goes to points.</source>
+        <translation>Ein Klick nimmt die nächste Stelle einer Kante, wenn er nicht an Punkten fängt.</translation>
+    </message>
+    <message>
+        <source>Point that is taken</source>
+        <translation>Gefangener Punkt</translation>
+    </message>
+    <message>
+        <source>Measurements</source>
+        <translation>Messungen</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Linien</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Zahlen</translation>
+    </message>
+    <message>
+        <source>Width of lines</source>
+        <translation>Linienbreite</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Schichten</translation>
+    </message>
+    <message>
+        <source>Hatching</source>
+        <translation>Schraffur</translation>
+    </message>
+    <message>
+        <source>Distance of hatch lines</source>
+        <translation>Abstand der Schraffurlinien</translation>
+    </message>
+    <message>
+        <source>Angle of hatch lines</source>
+        <translation>Winkel der Schraffurlinien</translation>
+    </message>
+    <message>
+        <source>Cross every other layer</source>
+        <translation>Jede zweite Schicht kreuzen</translation>
+    </message>
+    <message>
+        <source>Colours of Layers</source>
+        <translation>Farben der Schichten</translation>
+    </message>
+    <message>
+        <source>Contours</source>
+        <translation>Konturen</translation>
+    </message>
+    <message>
+        <source>Otherwise the colour of each part.</source>
+        <translation>Sonst die Farbe jedes Teils.</translation>
+    </message>
+    <message>
+        <source>As the part</source>
+        <translation>Wie das Teil</translation>
+    </message>
+    <message>
+        <source>Hatch lines</source>
+        <translation>Schraffurlinien</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Time of a step</source>
+        <translation>Dauer eines Schritts</translation>
+    </message>
+    <message>
+        <source>When the layers are run through.</source>
+        <translation>Wenn die Schichten durchlaufen werden.</translation>
+    </message>
+    <message>
+        <source>New Solids</source>
+        <translation>Neue Körper</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Quader</translation>
+    </message>
+    <message>
+        <source>Cylinder</source>
+        <translation>Zylinder</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Radius</translation>
+    </message>
+    <message>
+        <source>Cone</source>
+        <translation>Kegel</translation>
+    </message>
+    <message>
+        <source>Lower radius</source>
+        <translation>Unterer Radius</translation>
+    </message>
+    <message>
+        <source>Upper radius</source>
+        <translation>Oberer Radius</translation>
+    </message>
+    <message>
+        <source>Prism</source>
+        <translation>Prisma</translation>
+    </message>
+    <message>
+        <source>Radius over corners</source>
+        <translation>Radius über die Ecken</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Ecken</translation>
+    </message>
+    <message>
+        <source>Sphere</source>
+        <translation>Kugel</translation>
+    </message>
+    <message>
+        <source>Ring</source>
+        <translation>Ring</translation>
+    </message>
+    <message>
+        <source>Outer radius</source>
+        <translation>Außenradius</translation>
+    </message>
+    <message>
+        <source>Radius of the tube</source>
+        <translation>Radius des Rohrs</translation>
+    </message>
+    <message>
+        <source>Search in the options</source>
+        <translation>In den Optionen suchen</translation>
+    </message>
+    <message>
+        <source>Lengths in</source>
+        <translation>Längen in</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Millimetern</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Pages of the options</source>
+        <translation>Seiten der Optionen</translation>
+    </message>
+    <message>
+        <source>No option has these words.</source>
+        <translation>Keine Option enthält diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Restore What Is Shown</source>
+        <translation>Gezeigtes wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Restore All</source>
+        <translation>Alles wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Take Over From a File...</source>
+        <translation>Aus einer Datei übernehmen...</translation>
+    </message>
+    <message>
+        <source>Take Over Options</source>
+        <translation>Optionen übernehmen</translation>
+    </message>
+    <message>
+        <source>Options (*.xml)</source>
+        <translation>Optionen (*.xml)</translation>
+    </message>
+    <message>
+        <source>Options taken over from %1.</source>
+        <translation>Optionen aus %1 übernommen.</translation>
     </message>
 </context>
 <context>
@@ -5248,6 +6177,65 @@
 Tick to show it, double click to rename it.</source>
         <translation>%1
 Ein Haken zeigt es, ein Doppelklick benennt es um.</translation>
+    </message>
+</context>
+<context>
+    <name>tarnix::PartTreePage</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Kennzahlen</translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation>Abschnitte</translation>
+    </message>
+    <message>
+        <source>No section is shown</source>
+        <translation>Kein Abschnitt wird gezeigt</translation>
+    </message>
+    <message>
+        <source>Keep the proportions</source>
+        <translation>Proportionen beibehalten</translation>
+    </message>
+    <message>
+        <source>A new size in one direction changes the others too</source>
+        <translation>Eine neue Größe in einer Richtung ändert auch die anderen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Recolour</source>
+        <translation>Umfärben</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Größe ändern</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
     </message>
 </context>
 <context>
@@ -5391,6 +6379,13 @@ Ein Haken zeigt es, ein Doppelklick benennt es um.</translation>
     <message>
         <source>Reset Scale</source>
         <translation>Skalierung zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>tarnix::PrimitivesPage</name>
+    <message>
+        <source>Insert</source>
+        <translation>Einfügen</translation>
     </message>
 </context>
 <context>
@@ -5735,6 +6730,45 @@ Ein Haken zeigt es, ein Doppelklick benennt es um.</translation>
     </message>
 </context>
 <context>
+    <name>tarnix::TransformDialog</name>
+    <message>
+        <source>Along &amp;X:</source>
+        <translation>Entlang &amp;X:</translation>
+    </message>
+    <message>
+        <source>Along &amp;Y:</source>
+        <translation>Entlang &amp;Y:</translation>
+    </message>
+    <message>
+        <source>Along &amp;Z:</source>
+        <translation>Entlang &amp;Z:</translation>
+    </message>
+    <message>
+        <source>&amp;Turn about Z:</source>
+        <translation>Um Z &amp;drehen:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the parts inside the build volume</source>
+        <translation>Teile im Bauraum &amp;halten</translation>
+    </message>
+    <message>
+        <source>A field holds no number that is allowed.</source>
+        <translation>Ein Feld enthält keine erlaubte Zahl.</translation>
+    </message>
+    <message>
+        <source>The parts would leave the build volume.</source>
+        <translation>Die Teile würden den Bauraum verlassen.</translation>
+    </message>
+    <message>
+        <source>Changed from the last move.</source>
+        <translation>Gegenüber der letzten Verschiebung geändert.</translation>
+    </message>
+    <message>
+        <source>The last move, as it was.</source>
+        <translation>Die letzte Verschiebung, wie sie war.</translation>
+    </message>
+</context>
+<context>
     <name>tarnix::ViewCube</name>
     <message>
         <source>FRONT</source>
@@ -5839,6 +6873,26 @@ Ein Haken zeigt es, ein Doppelklick benennt es um.</translation>
         <source>Layers</source>
         <translation>Schichten</translation>
     </message>
+    <message>
+        <source>Part</source>
+        <translation>Teil</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Primitives</source>
+        <translation>Grundkörper</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
 </context>
 <context>
     <name>toolsheets</name>
@@ -5861,6 +6915,22 @@ Ein Haken zeigt es, ein Doppelklick benennt es um.</translation>
     <message>
         <source>Layers</source>
         <translation>Schichten</translation>
+    </message>
+    <message>
+        <source>Primitives</source>
+        <translation>Grundkörper</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
     </message>
 </context>
 </TS>

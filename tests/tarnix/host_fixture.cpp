@@ -107,7 +107,7 @@ void HostFixture::PrepareScene()
     faulty = Merge({Mesh(faulty.Points(), triangles),
                     MakeSphere(2, 8).Mapped(Transform::Translation({20, 0, 0}))});
     scene.Reset({});
-    scene.Add(QStringLiteral("Add"),
+    scene.Add(QStringLiteral("Laid out"),
               {MakePart(QStringLiteral("cone"), MakeCone(8, 3, 12), {3, 4, 5}),
                MakePart(QStringLiteral("faulty"), faulty, {40, 20, 6}),
                MakePart(QStringLiteral("third"), MakeBox({6, 5, 4}), {-50, -30, 8}),

@@ -1,3 +1,5 @@
+#include "window_program.h"
+
 #include "../support/test_main.h"
 
 #include <QDir>
@@ -11,170 +13,9 @@
 
 #include <memory>
 
+using namespace tarnix_test;
+
 namespace {
-
-constexpr int k_patience_ms = 20000;
-
-/// An X server and a window manager of the test's own.
-class Screen
-{
-public:
-    bool Start()
-    {
-        m_server.setStandardErrorFile(QProcess::nullDevice());
-        m_server.start("Xvfb",
-                       {"-displayfd", "1", "-screen", "0", "1600x1000x24", "-nolisten", "tcp"});
-        if (!m_server.waitForStarted())
-            return false;
-        while (!m_server.canReadLine()) {
-            if (!m_server.waitForReadyRead(k_patience_ms))
-                return false;
-        }
-        m_display = ":" + QString::fromLatin1(m_server.readLine()).trimmed();
-        m_manager.setProcessEnvironment(Environment());
-        m_manager.setStandardErrorFile(QProcess::nullDevice());
-        m_manager.setStandardOutputFile(QProcess::nullDevice());
-        m_manager.start("openbox", {"--sm-disable"});
-        return m_manager.waitForStarted();
-    }
-
-    ~Screen()
-    {
-        for (QProcess* process : {&m_manager, &m_server}) {
-            process->terminate();
-            if (!process->waitForFinished(5000))
-                process->kill();
-            process->waitForFinished(5000);
-        }
-    }
-
-    QProcessEnvironment Environment() const
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("DISPLAY", m_display);
-        environment.insert("QT_QPA_PLATFORM", "xcb");
-        environment.remove("SESSION_MANAGER");
-        return environment;
-    }
-
-    bool Tool(const QStringList& arguments) const
-    {
-        QProcess tool;
-        tool.setProcessEnvironment(Environment());
-        tool.start("xdotool", arguments);
-        return tool.waitForFinished(k_patience_ms) && tool.exitCode() == 0;
-    }
-
-    bool ClickAt(const QPoint& at) const
-    {
-        // Without --sync: that waits for ever where the pointer is there already.
-        return Tool({"mousemove", QString::number(at.x()), QString::number(at.y())}) &&
-               Tool({"click", "1"});
-    }
-
-private:
-    QProcess m_server;
-    QProcess m_manager;
-    QString m_display;
-};
-
-/// Visits every widget of a description of the window.
-template <class Visit> void Walk(const QJsonObject& node, const Visit& visit)
-{
-    visit(node);
-    for (const QJsonValue& child : node["children"].toArray())
-        Walk(child.toObject(), visit);
-}
-
-/// The running program as it is seen from outside.
-class Program
-{
-public:
-    Program(const Screen& screen, const QString& folder) : m_screen(screen), m_folder(folder) {}
-
-    ~Program()
-    {
-        if (m_process.state() == QProcess::NotRunning)
-            return;
-        m_process.kill();
-        m_process.waitForFinished(5000);
-    }
-
-    bool Start(const QStringList& arguments)
-    {
-        QFile::remove(DumpPath());
-        m_process.setProcessEnvironment(m_screen.Environment());
-        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QStringLiteral(TARNIX_PROGRAM),
-                        QStringList{"--data-dir", m_folder, "--dump-ui", DumpPath()} + arguments);
-        return m_process.waitForStarted();
-    }
-
-    QJsonArray Windows() const
-    {
-        QFile file(DumpPath());
-        if (!file.open(QIODevice::ReadOnly))
-            return {};
-        return QJsonDocument::fromJson(file.readAll()).object()["windows"].toArray();
-    }
-
-    /// The first widget that a test holds for; empty when there is none.
-    template <class Test> QJsonObject Find(const Test& test) const
-    {
-        QJsonObject found;
-        for (const QJsonValue& window : Windows()) {
-            Walk(window.toObject(), [&](const QJsonObject& node) {
-                if (found.isEmpty() && test(node))
-                    found = node;
-            });
-        }
-        return found;
-    }
-
-    QJsonObject Named(const QString& name) const
-    {
-        return Find([&](const QJsonObject& node) { return node["name"].toString() == name; });
-    }
-
-    /// The ribbon's button of a command.
-    QJsonObject Button(const QString& command) const
-    {
-        return Find([&](const QJsonObject& node) { return node["command"].toString() == command; });
-    }
-
-    bool Click(const QJsonObject& widget) const
-    {
-        return !widget.isEmpty() &&
-               m_screen.ClickAt({widget["x"].toInt() + widget["width"].toInt() / 2,
-                                 widget["y"].toInt() + std::min(widget["height"].toInt() / 2, 20)});
-    }
-
-    /// Brings the window to a place that is known, so that no click meets it on its way there.
-    bool Settle() const
-    {
-        constexpr int k_place = 60;
-        if (!m_screen.Tool({"search", "--sync", "--onlyvisible", "--pid",
-                            QString::number(m_process.processId()), "--name", "Tarnix",
-                            "windowactivate", "windowmove", QString::number(k_place),
-                            QString::number(k_place)}))
-            return false;
-        const auto placed = [this] {
-            const QJsonObject window = Named("tarnixWindow");
-            return std::abs(window["x"].toInt() - k_place) < 12 &&
-                   std::abs(window["y"].toInt() - k_place) < 40 && !Button("Select.All").isEmpty();
-        };
-        return QTest::qWaitFor(placed, k_patience_ms);
-    }
-
-    QProcess& Process() { return m_process; }
-
-private:
-    QString DumpPath() const { return m_folder + "/window.json"; }
-
-    const Screen& m_screen;
-    QString m_folder;
-    QProcess m_process;
-};
 
 QJsonObject DefaultLayout(const QString& name)
 {
@@ -281,10 +122,7 @@ private Q_SLOTS:
             QTRY_VERIFY_WITH_TIMEOUT(!close_button().isEmpty(), k_patience_ms);
             QVERIFY(program.Click(close_button()));
             QTRY_VERIFY_WITH_TIMEOUT(program.Named("panel.properties").isEmpty(), k_patience_ms);
-            QVERIFY(m_screen->Tool({"key", "ctrl+q"}));
-            QVERIFY(program.Process().waitForFinished(k_patience_ms));
-            QCOMPARE(program.Process().exitStatus(), QProcess::NormalExit);
-            QCOMPARE(program.Process().exitCode(), 0);
+            QVERIFY(program.Leave());
         }
         QVERIFY(HasFile(folder.path(), "uiprofile.tarnix.bin"));
         QVERIFY(HasFile(folder.path(), "preferences.xml"));
