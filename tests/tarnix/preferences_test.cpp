@@ -289,7 +289,8 @@ void PreferencesPageTest::everyPreferenceDoesSomething()
     m_host->GetWorkspace().AddMeasurement(*Measure(MeasureKind::Distance, {{-50, 0, 40}, {50, 0, 40}}));
     Camera camera;
     camera.elevation = 60.0;
-    camera.height = 180.0;
+    camera.azimuth = 0.0;
+    camera.height = 221.0;
     m_host->GetHost().view->GoTo(camera, true);
     Apply();
     const QString before = effect.look(*m_host);
