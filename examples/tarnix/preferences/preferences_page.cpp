@@ -9,6 +9,7 @@
 #include <ovk/preferences/preferences_controller.h>
 #include <ovk/widgets/tree_edit/tree_edit.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileDialog>
@@ -151,6 +152,8 @@ int PreferencesPage::RowCount() const
 
 void PreferencesPage::Build()
 {
+    // The row that is edited goes with the tree, and the keys must go on to reach the page.
+    const bool focused = mp_tree && mp_tree->isAncestorOf(QApplication::focusWidget());
     delete mp_tree;
     mp_tree = new ovk::TreeEdit(this);
     mp_tree->setObjectName(QStringLiteral("optionsTree"));
@@ -174,6 +177,8 @@ void PreferencesPage::Build()
     m_page = std::min(m_page, mp_pages->count() - 1);
     UpdateUnit();
     ShowRows();
+    if (focused)
+        mp_search->setFocus();
 }
 
 void PreferencesPage::Refresh()
