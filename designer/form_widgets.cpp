@@ -34,6 +34,9 @@ constexpr char g_check_text[] = R"(<property name="text"><string>CheckBox</strin
 constexpr char g_expander_text[] = R"(<property name="text"><string>Details</string></property>)";
 constexpr char g_status_text[] = R"(<property name="text"><string>Status</string></property>)";
 constexpr char g_suffix_text[] = R"(<property name="text"><string>%</string></property>)";
+/// A layout would stretch its track.
+constexpr char g_fixed_size[] =
+    R"(<property name="sizePolicy"><sizepolicy hsizetype="Fixed" vsizetype="Fixed"/></property>)";
 constexpr char g_tooltip_text[] = R"(<property name="text"><string>Tooltip</string></property>)";
 
 } // namespace
@@ -93,7 +96,7 @@ const std::vector<FormWidget>& FormWidgets()
          false, g_check_text, &Create<CheckBox>},
         {"ovk::MSwitcher", "ovk/widgets/m_switcher.h", g_buttons, "Switch",
          "A switch with a thumb that moves to the right while it is on.", QSize(30, 18), "switcher",
-         false, nullptr, &Create<MSwitcher>},
+         false, g_fixed_size, &Create<MSwitcher>},
         {"ovk::ExpanderButton", "ovk/widgets/expander_button.h", g_buttons, "Expander",
          "A flat button with an arrow, which points down while it is expanded.", QSize(120, 28),
          "expanderButton", false, g_expander_text, &Create<ExpanderButton>},

@@ -55,8 +55,13 @@ QString WidgetPlugin::includeFile() const
 
 QIcon WidgetPlugin::icon() const
 {
-    return QIcon(QStringLiteral(":/ovk/designer/icons/%1.svg")
-                     .arg(QFileInfo(QLatin1String(m_widget.header)).completeBaseName()));
+    const QIcon drawn(QStringLiteral(":/ovk/designer/icons/%1.svg")
+                          .arg(QFileInfo(QLatin1String(m_widget.header)).completeBaseName()));
+    // The widget box takes an icon that names no sizes for none.
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32, 48})
+        icon.addPixmap(drawn.pixmap(QSize(size, size)));
+    return icon;
 }
 
 bool WidgetPlugin::isContainer() const
@@ -74,13 +79,14 @@ QString WidgetPlugin::domXml() const
     // Fonts differ: what is dropped must not be cut off.
     const std::unique_ptr<QWidget> sample(m_widget.create(nullptr));
     const QSize size = m_widget.size.expandedTo(sample->minimumSizeHint());
-    return QStringLiteral("<ui language=\"c++\">"
+    return QStringLiteral("<ui language=\"c++\" displayname=\"%6\">"
                           "<widget class=\"%1\" name=\"%2\">"
                           "<property name=\"geometry\"><rect><x>0</x><y>0</y>"
                           "<width>%3</width><height>%4</height></rect></property>"
                           "%5</widget></ui>")
         .arg(name(), QLatin1String(m_widget.objectName), QString::number(size.width()),
-             QString::number(size.height()), QLatin1String(m_widget.properties));
+             QString::number(size.height()), QLatin1String(m_widget.properties),
+             name().section(QStringLiteral("::"), -1));
 }
 
 } // namespace ovk_designer

@@ -218,6 +218,9 @@ void DesignerPluginTest::aWidgetPresentsItself()
     QVERIFY(widget->whatsThis().size() > widget->toolTip().size());
     QVERIFY(Ink(widget->icon(), 24) > 60);
     QVERIFY(Ink(widget->icon(), 48) > 240);
+    // Designer takes an icon that names no sizes for none.
+    QVERIFY(widget->icon().availableSizes().contains(QSize(22, 22)));
+    QVERIFY(widget->domXml().contains("displayname=\"" + name.mid(5) + '"'));
     QCOMPARE(widget->isContainer(), name == "ovk::GroupBox");
     const QString header = widget->includeFile();
     QVERIFY(header.startsWith('<') && header.endsWith('>'));
