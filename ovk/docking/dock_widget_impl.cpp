@@ -110,14 +110,18 @@ void DockWidget::Impl::PostUpdate(int flags)
         return;
     if (flags & (UpdateSizes | UpdateTabs | UpdateTitleOnOff | UpdateTitleText))
         sizes_dirty = true;
-    if (pending_updates == 0)
+    // What setVisible() carried out meanwhile leaves its event in the queue, which will do.
+    if (pending_updates == 0 && !m_update_posted) {
+        m_update_posted = true;
         QCoreApplication::postEvent(this, new DockUpdateEvent, c_update_priority);
+    }
     pending_updates |= flags;
 }
 
 bool DockWidget::Impl::event(QEvent* event)
 {
     if (event->type() == DockUpdateEvent::GetType()) {
+        m_update_posted = false;
         ProcessUpdate();
         return true;
     }
@@ -197,6 +201,7 @@ void DockWidget::Impl::UpdateTitleButtons()
     panel_title->GetCollapsibleButton()->setVisible(!collapsed);
     panel_title->GetCollapsibleButton()->SetCollapsible(collapsible);
     panel_title->GetCloseButton()->setVisible(closable);
+    panel_title->LayoutButtons();
 }
 
 bool DockWidget::Impl::TabsShown() const

@@ -198,6 +198,7 @@ private:
     /// A page may be half destroyed when it is taken out: its widget is not asked of it then.
     QHash<const IDockPage*, QWidget*> m_widgets;
     bool m_focus_page = false;
+    bool m_update_posted = false;
     bool m_waiting = false;
     /// Where the panel was put when it began to float, till something else moves it.
     QPoint m_put_at;

@@ -70,6 +70,21 @@ void DockWidgetTest::aBurstOfChangesIsOneEvent()
     QCoreApplication::sendPostedEvents(panel->_Impl(), 0);
     QCOMPARE(counter.events, 1);
     QCOMPARE(panel->_Impl()->pending_updates, 0);
+
+    // However many, and whatever was carried out at once in between.
+    fixture.Left()->AddWidget(panel);
+    DockFixture::Settle();
+    counter.events = 0;
+    for (int i = 0; i < 50; ++i) {
+        panel->AddPage(new FakePage(QString::number(i)));
+        panel->SetForcedTitle(QString::number(i));
+        panel->SetTabsEnabled(i % 2);
+        panel->SetCollapsed(i % 2, false);
+        panel->setVisible(i % 3);
+        panel->SetTitleEnabled(i % 5);
+    }
+    QCoreApplication::sendPostedEvents(panel->_Impl(), 0);
+    QCOMPARE(counter.events, 1);
 }
 
 void DockWidgetTest::settersPostOnlyWhatChanged_data()
