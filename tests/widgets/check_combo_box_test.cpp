@@ -23,6 +23,8 @@ private Q_SLOTS:
     void rowsOutsideTheRange();
     void activatingARowTogglesIt();
     void theFieldIsOnlyShown();
+    void theCurrentRowIsNotTheText();
+    void theWheelChecksNothing();
     void theArrowsOpenThePopup_data();
     void theArrowsOpenThePopup();
     void aClickOnARowKeepsThePopupOpen();
@@ -155,6 +157,28 @@ void CheckComboBoxTest::theFieldIsOnlyShown()
     QSignalSpy spy(mp_box.get(), &QComboBox::editTextChanged);
     mp_box->lineEdit()->setText("typed");
     QCOMPARE(spy.size(), 0);
+}
+
+void CheckComboBoxTest::theCurrentRowIsNotTheText()
+{
+    mp_box->setDefaultText("(none)");
+    QSignalSpy spy(mp_box.get(), &CheckComboBox::checkedItemsChanged);
+    mp_box->setCurrentIndex(2);
+    QCOMPARE(mp_box->lineEdit()->text(), QString("(none)"));
+    QCOMPARE(mp_box->checkedItems(), QStringList());
+    QCOMPARE(spy.size(), 0);
+}
+
+void CheckComboBoxTest::theWheelChecksNothing()
+{
+    mp_box->show();
+    for (const int delta : {-120, 120, -120}) {
+        QWheelEvent wheel(QPointF(5, 5), mp_box->mapToGlobal(QPoint(5, 5)), QPoint(),
+                          QPoint(0, delta), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(mp_box.get(), &wheel);
+        QVERIFY(!wheel.isAccepted());
+    }
+    QCOMPARE(mp_box->checkedItems(), QStringList());
 }
 
 void CheckComboBoxTest::theArrowsOpenThePopup_data()

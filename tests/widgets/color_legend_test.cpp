@@ -48,6 +48,8 @@ private Q_SLOTS:
     void theColoursAreThinAndTheLabelsBeside_data();
     void theColoursAreThinAndTheLabelsBeside();
     void thicknessAndDistanceAreProperties();
+    void aLayoutLeavesRoomForIt_data();
+    void aLayoutLeavesRoomForIt();
     void onlyTheEndsAreLabelled_data();
     void onlyTheEndsAreLabelled();
     void aDisabledLegendFades();
@@ -150,6 +152,28 @@ void ColorLegendTest::thicknessAndDistanceAreProperties()
     Picture(legend);
     QCOMPARE(legend.m_image.height(), 20);
     QCOMPARE(legend.minimumHeight(), legend._EstimateLabelsSize().height() + 25);
+}
+
+void ColorLegendTest::aLayoutLeavesRoomForIt_data()
+{
+    theColoursAreThinAndTheLabelsBeside_data();
+}
+
+void ColorLegendTest::aLayoutLeavesRoomForIt()
+{
+    QFETCH(int, orientation);
+    Legend legend;
+    legend.SetOrientation(ColorMap::Orientation(orientation));
+    // Before it was ever painted, when it has no minimum of its own.
+    QCOMPARE(legend.minimumSize(), QSize(0, 0));
+    QCOMPARE(legend.sizeHint(), QSize(-1, -1));
+    const QSize labels = legend._EstimateLabelsSize();
+    const bool vertical = orientation == ColorMap::Vertical;
+    QCOMPARE(legend.minimumSizeHint(), vertical ? QSize(10 + labels.width(), 2 * labels.height())
+                                                : QSize(2 * labels.width(), 10 + labels.height()));
+    legend.setProperty("colorSize", 20);
+    QCOMPARE(vertical ? legend.minimumSizeHint().width() : legend.minimumSizeHint().height(),
+             22 + (vertical ? labels.width() : labels.height()));
 }
 
 void ColorLegendTest::onlyTheEndsAreLabelled_data()

@@ -88,6 +88,7 @@ private Q_SLOTS:
     void labelsTakeRoomFromTheScale();
     void labelsFollowTheUnits();
     void theLargestLabelIsOnTop();
+    void disabledLabelsFade();
     void aLabelHasSixDigits_data();
     void aLabelHasSixDigits();
 };
@@ -511,6 +512,34 @@ void ColorMapTest::theLargestLabelIsOnTop()
     QVERIFY(ink(0) > ink(200 - map._GetLabelsFontHeight()));
     QVERIFY(ink(200 - map._GetLabelsFontHeight()) > 0);
     QCOMPARE(ink(90), 0);
+}
+
+void ColorMapTest::disabledLabelsFade()
+{
+    class Labelled : public ColorMapHueWithLabels
+    {
+    public:
+        using ColorMapHueWithLabels::m_labels_image;
+    };
+    Labelled map;
+    QPalette palette = map.palette();
+    palette.setColor(QPalette::Active, QPalette::WindowText, Qt::blue);
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(200, 10, 10));
+    map.setPalette(palette);
+    map.resize(80, 120);
+    const auto strongest = [&map] {
+        QRgb found = 0;
+        for (int y = 0; y < map.m_labels_image.height(); ++y) {
+            for (int x = 0; x < map.m_labels_image.width(); ++x) {
+                if (qAlpha(map.m_labels_image.pixel(x, y)) > qAlpha(found))
+                    found = map.m_labels_image.pixel(x, y);
+            }
+        }
+        return QColor(found);
+    };
+    QCOMPARE(strongest(), QColor(Qt::blue));
+    map.setEnabled(false);
+    QCOMPARE(strongest(), QColor(200, 10, 10));
 }
 
 void ColorMapTest::aLabelHasSixDigits_data()

@@ -67,6 +67,9 @@ private Q_SLOTS:
     void aCheckableActionAndItsButtonAgree();
     void aClickSkipsThePartialState();
     void theExpanderShowsItsState();
+    void anExpandedButtonIsNotDrawnPressed();
+    void theExpandersArrowIsBesideItsText_data();
+    void theExpandersArrowIsBesideItsText();
     void uncheckingHidesTheContents();
     void aFlatBoxIsFlatAgain();
     void aBoxThatDoesNotCollapseKeepsItsContents();
@@ -82,6 +85,8 @@ private Q_SLOTS:
     void theThumbMovesToTheEnd();
     void aResizedSwitchShowsItsThumbAtTheLeft();
     void thePointerIsAHandOverTheSwitch();
+    void aSwitchOfADisabledFormLooksDisabled();
+    void aClickByTheProgramSwitches();
     void theToolTipHasItsCells_data();
     void theToolTipHasItsCells();
     void theToolTipKeepsWhatLooksLikeAMark();
@@ -216,6 +221,65 @@ void SmallWidgetsTest::theExpanderShowsItsState()
     QVERIFY(button.setProperty("isExpanded", true));
     QVERIFY(button.isChecked());
     QCOMPARE(ExpanderButton().text(), QString());
+}
+
+void SmallWidgetsTest::anExpandedButtonIsNotDrawnPressed()
+{
+    ExpanderButton button(QString(6, QLatin1Char(' ')));
+    button.resize(100, 30);
+    const QImage collapsed = Picture(button);
+    button.setExpanded(true);
+    const QImage expanded = Picture(button);
+    // The arrows differ, the ground beside them does not.
+    QVERIFY(collapsed != expanded);
+    QCOMPARE(expanded.copy(50, 0, 50, 30), collapsed.copy(50, 0, 50, 30));
+}
+
+void SmallWidgetsTest::theExpandersArrowIsBesideItsText_data()
+{
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<bool>("expanded");
+    for (const bool expanded : {false, true}) {
+        QTest::addRow("left to right, %d", expanded) << int(Qt::LeftToRight) << expanded;
+        QTest::addRow("right to left, %d", expanded) << int(Qt::RightToLeft) << expanded;
+    }
+}
+
+void SmallWidgetsTest::theExpandersArrowIsBesideItsText()
+{
+    QFETCH(int, direction);
+    QFETCH(bool, expanded);
+    const auto ink = [&](const QString& text) {
+        ExpanderButton button(text);
+        button.setLayoutDirection(Qt::LayoutDirection(direction));
+        button.setExpanded(expanded);
+        button.resize(200, 30);
+        const QImage picture = Picture(button);
+        const QRgb ground = picture.pixel(100, 2);
+        QVector<int> columns;
+        for (int x = 4; x < 196; ++x) {
+            for (int y = 4; y < 26; ++y) {
+                if (picture.pixel(x, y) != ground) {
+                    columns << x;
+                    break;
+                }
+            }
+        }
+        return columns;
+    };
+    const QVector<int> arrow = ink(QString());
+    const QVector<int> both = ink("Details");
+    QVERIFY(!arrow.isEmpty() && both.size() > arrow.size() + 10);
+    // The arrow is where it is without a text, at its side; the text does not touch it.
+    if (direction == Qt::RightToLeft) {
+        QVERIFY(arrow.first() > 150);
+        QCOMPARE(both.last(), arrow.last());
+        QVERIFY(!both.contains(arrow.first() - 1));
+    } else {
+        QVERIFY(arrow.last() < 50);
+        QCOMPARE(both.first(), arrow.first());
+        QVERIFY(!both.contains(arrow.last() + 1));
+    }
 }
 
 void SmallWidgetsTest::uncheckingHidesTheContents()
@@ -441,6 +505,31 @@ void SmallWidgetsTest::thePointerIsAHandOverTheSwitch()
     Switcher switcher;
     switcher.Enter();
     QCOMPARE(switcher.cursor().shape(), Qt::PointingHandCursor);
+}
+
+void SmallWidgetsTest::aSwitchOfADisabledFormLooksDisabled()
+{
+    QWidget form;
+    MSwitcher switcher(&form);
+    switcher.resize(30, 18);
+    Picture(switcher);
+    switcher.setToggle(true);
+    form.setEnabled(false);
+    QVERIFY(!switcher.isDisable());
+    QCOMPARE(Picture(switcher), SwitchPicture(QSize(30, 18), 6, true, true, QColor()));
+}
+
+void SmallWidgetsTest::aClickByTheProgramSwitches()
+{
+    MSwitcher switcher;
+    QSignalSpy spy(&switcher, &MSwitcher::toggled);
+    switcher.click();
+    QVERIFY(switcher.isToggled());
+    QCOMPARE(spy.size(), 1);
+    switcher.setDisable(true);
+    switcher.click();
+    QVERIFY(switcher.isToggled());
+    QCOMPARE(spy.size(), 1);
 }
 
 void SmallWidgetsTest::theToolTipHasItsCells_data()

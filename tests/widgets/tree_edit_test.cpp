@@ -53,6 +53,7 @@ private Q_SLOTS:
     void enterReachesTheDialog();
     void theTitleIsSelectedAtTheTopLevel();
     void aSectionIsABand();
+    void theBandBeginsAtTheEdge();
     void rowsHaveTheirLines();
     void theCurrentTitleIsLit();
     void aDisabledTitleIsPale();
@@ -475,6 +476,24 @@ void TreeEditTest::aSectionIsABand()
         QCOMPARE(image.pixelColor(84, 24), QColor(10, 200, 30));
         QCOMPARE(image.pixelColor(85, 24), QColor(Qt::white));
     }
+}
+
+void TreeEditTest::theBandBeginsAtTheEdge()
+{
+    Form form;
+    TreeEditSectionItem* const section = form.AddSection(QString(), QString());
+    section->AddItem(QString(), CheckBoxDelegate::GetInstance());
+    QPalette palette = form.palette();
+    palette.setColor(QPalette::AlternateBase, QColor(10, 200, 30));
+    form.setPalette(palette);
+    form.resize(300, 100);
+    form.expandAll();
+    form.show();
+    const QImage picture = form.viewport()->grab().toImage();
+    const int band = form.visualRect(form.Cell(0, 0)).bottom();
+    QCOMPARE(picture.pixelColor(0, band), QColor(10, 200, 30));
+    const int row = form.visualRect(form.Cell(0, 0, form.Cell(0, 0))).center().y();
+    QVERIFY(picture.pixelColor(0, row) != QColor(10, 200, 30));
 }
 
 void TreeEditTest::rowsHaveTheirLines()
