@@ -7,6 +7,8 @@
 #include <QHash>
 #include <QWidget>
 
+#include <memory>
+
 namespace Qtitan {
 namespace {
 
@@ -84,19 +86,32 @@ RibbonMetrics RibbonMetrics::compute(int fontHeight, int averageCharWidth, qreal
 
 const RibbonMetrics& RibbonMetrics::of(const QWidget* widget)
 {
-    static QHash<quint64, RibbonMetrics> cache;
+    // The entries stay where they are: callers keep references while others are added.
+    static QHash<quint64, std::shared_ptr<const RibbonMetrics>> cache;
     const RibbonTheme::Family family = RibbonTheme::current().family();
     const bool flat =
         family == RibbonTheme::Family::Office2010 || family == RibbonTheme::Family::Office2013;
-    const QFontMetrics font = widget->fontMetrics();
     const int dpi = widget->logicalDpiY();
+    // Asked several times for each element that is painted, nearly always for the same font.
+    static QFont last_font;
+    static int last_dpi = 0;
+    static bool last_flat = false;
+    static const RibbonMetrics* last = nullptr;
+    if (last && last_dpi == dpi && last_flat == flat && widget->font().isCopyOf(last_font))
+        return *last;
+    const QFontMetrics font = widget->fontMetrics();
     const int char_width = font.averageCharWidth();
     const quint64 key = (quint64(font.height()) << 40) | (quint64(char_width) << 24) |
                         (quint64(dpi) << 1) | quint64(flat);
     auto it = cache.constFind(key);
     if (it == cache.constEnd())
-        it = cache.insert(key, compute(font.height(), char_width, dpi, flat));
-    return *it;
+        it = cache.insert(key, std::make_shared<RibbonMetrics>(
+                                   compute(font.height(), char_width, dpi, flat)));
+    last_font = widget->font();
+    last_dpi = dpi;
+    last_flat = flat;
+    last = it->get();
+    return *last;
 }
 
 int RibbonMetrics::computations()
