@@ -39,6 +39,12 @@ QIcon Mirrored(const QIcon& icon)
     return mirrored;
 }
 
+/// Hidden for itself, not only as long as its title is.
+bool IsHidden(const QWidget& button)
+{
+    return button.isHidden() && button.testAttribute(Qt::WA_WState_ExplicitShowHide);
+}
+
 } // namespace
 
 DockTitle::DockTitle(QWidget* parent) : QWidget(parent) {}
@@ -83,7 +89,7 @@ int DockTitle::GetRightExtent() const
     const int margin = GetMargin();
     int extent = margin;
     for (const QWidget* button : m_right) {
-        if (!button->isHidden())
+        if (!IsHidden(*button))
             extent += button->width() + margin;
     }
     return extent;
@@ -116,6 +122,9 @@ void DockTitle::LayoutButtons()
     }
     x = width();
     for (QWidget* button : qAsConst(m_right)) {
+        // The grip reaches up to the last button that is seen.
+        if (IsHidden(*button))
+            continue;
         x -= button->width() + margin;
         place(button, x);
     }

@@ -28,6 +28,9 @@ public:
     const QList<QWidget*>& GetLeft() const { return m_left; }
     const QList<QWidget*>& GetRight() const { return m_right; }
 
+    /// Places the buttons anew; to be called when one was shown or hidden.
+    void LayoutButtons();
+
     QSize sizeHint() const override;
 
 protected:
@@ -42,8 +45,6 @@ protected:
     void DrawText(QPainter& painter) const;
 
 private:
-    void LayoutButtons();
-
     QString m_title;
     QList<QWidget*> m_left;
     QList<QWidget*> m_right;

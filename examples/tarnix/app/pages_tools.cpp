@@ -212,6 +212,7 @@ public:
         layout->setSpacing(0);
         auto* bar = new QHBoxLayout;
         bar->setContentsMargins(k_margin, 3, k_margin, 3);
+        bar->setSpacing(4);
         mp_kind = new QComboBox(this);
         mp_kind->setObjectName(QStringLiteral("logKind"));
         bar->addWidget(mp_kind);
