@@ -7,6 +7,7 @@
 #include <QDateTimeEdit>
 #include <QDial>
 #include <QDialogButtonBox>
+#include <QDockWidget>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QGridLayout>
@@ -16,7 +17,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -24,8 +29,11 @@
 #include <QScrollBar>
 #include <QSlider>
 #include <QSplitter>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QTextEdit>
+#include <QToolBar>
 #include <QToolBox>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -291,4 +299,56 @@ QWidget* MakeViewsSheet()
     layout->addWidget(upper, 1);
     layout->addWidget(lower, 1);
     return sheet;
+}
+
+QWidget* MakeWindowSheet()
+{
+    auto* window = new QMainWindow;
+    // Inside a page it is a widget like others.
+    window->setWindowFlags(Qt::Widget);
+    QMenu* file = window->menuBar()->addMenu(Text("&File"));
+    file->addAction(Icon("File.New"), Text("&New"));
+    file->addAction(Icon("File.Open"), Text("&Open"));
+    window->menuBar()->addMenu(Text("&Edit"))->addAction(Text("Undo"));
+    window->menuBar()->addMenu(Text("&Help"))->setEnabled(false);
+    QToolBar* tools = window->addToolBar(Text("Tools"));
+    const char* icons[] = {"Edit.Cut",    "Edit.Copy", "Edit.Paste",
+                           "Edit.Delete", "Edit.Undo", "Edit.Redo"};
+    for (const char* icon : icons)
+        tools->addAction(Icon(icon), QLatin1String(icon));
+    tools->addSeparator();
+    tools->addAction(Text("Text only"))->setCheckable(true);
+    // More than fits: the rest is behind the extension button.
+    QToolBar* long_bar = window->addToolBar(Text("Long"));
+    for (int i = 0; i < 40; ++i)
+        long_bar->addAction(Text("Command %1").arg(i + 1));
+
+    const auto add_dock = [window](const QString& title, Qt::DockWidgetArea area) {
+        auto* dock = new QDockWidget(title, window);
+        auto* list = new QListWidget;
+        list->addItems({Text("One"), Text("Two"), Text("Three")});
+        list->setCurrentRow(1);
+        dock->setWidget(list);
+        window->addDockWidget(area, dock);
+        return dock;
+    };
+    QDockWidget* first = add_dock(Text("Scene"), Qt::LeftDockWidgetArea);
+    window->tabifyDockWidget(first, add_dock(Text("Layers"), Qt::LeftDockWidgetArea));
+    QDockWidget* standing = add_dock(Text("Standing title"), Qt::RightDockWidgetArea);
+    standing->setFeatures(standing->features() | QDockWidget::DockWidgetVerticalTitleBar);
+
+    auto* inner = new QMdiArea;
+    for (int i = 0; i < 2; ++i) {
+        auto* text = new QTextEdit(
+            Text("<h3>A text</h3><p>With <b>bold</b> words and <i>others</i>.</p>"));
+        QMdiSubWindow* sub = inner->addSubWindow(text);
+        sub->setWindowTitle(Text("Document %1").arg(i + 1));
+        sub->setWindowIcon(Icon("File.New"));
+        sub->resize(280, 190);
+        sub->move(20 + i * 120, 16 + i * 70);
+    }
+    window->setCentralWidget(inner);
+    window->statusBar()->addWidget(new QLabel(Text("Ready")));
+    window->statusBar()->addPermanentWidget(new QLabel(Text("Line 1, column 1")));
+    return window;
 }

@@ -6,3 +6,5 @@ class QWidget;
 QWidget* MakeControlsSheet();
 /// Trees, tables, lists and texts, a calendar and a box of pages.
 QWidget* MakeViewsSheet();
+/// A main window of Qt's own parts: menu bar, tool bars, dock widgets, windows inside, status bar.
+QWidget* MakeWindowSheet();

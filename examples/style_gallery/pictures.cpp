@@ -205,6 +205,15 @@ const std::vector<Scene>& Scenes()
              w.ShowSheet(W::States);
          },
          {}},
+        {"window",
+         "A main window of Qt's own parts",
+         usual,
+         false,
+         [](W& w) {
+             w.ShowPage(W::tr("View"));
+             w.ShowSheet(W::Window);
+         },
+         {}},
         {"contextual",
          "The page of a context",
          {1280, 420},

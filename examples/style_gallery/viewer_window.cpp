@@ -51,6 +51,7 @@ ViewerWindow::ViewerWindow(const Look& look) : m_bar(new LookBar(look)), m_sheet
     m_sheets->addTab(Scrolling(MakeControlsSheet()), tr("Controls"));
     m_sheets->addTab(Scrolling(new StateSheet), tr("States"));
     m_sheets->addTab(Scrolling(MakeViewsSheet()), tr("Views"));
+    m_sheets->addTab(MakeWindowSheet(), tr("Window"));
     auto* middle = new QWidget;
     auto* layout = new QVBoxLayout(middle);
     layout->setContentsMargins(8, 8, 8, 8);

@@ -21,7 +21,8 @@ public:
     {
         Controls,
         States,
-        Views
+        Views,
+        Window
     };
 
     explicit ViewerWindow(const Look& look);

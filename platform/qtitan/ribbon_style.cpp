@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QLineEdit>
+#include <QMdiArea>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabBar>
@@ -97,9 +98,32 @@ bool IsDockTitle(const QObject* object)
     return object->inherits("ovk::DockTitle");
 }
 
+/// Widgets that need help to follow a change of theme or direction.
+bool IsFollowed(const QWidget* widget)
+{
+    return qobject_cast<const QTabBar*>(widget) || qobject_cast<const QMdiArea*>(widget) || IsDockTitle(widget);
+}
+
 void ColorDockTitle(QWidget& title, const RibbonTheme& theme)
 {
     title.setPalette(style_draw::TextPalette(title.palette(), QPalette::WindowText, theme[Element::DockTitle]));
+}
+
+/// An area of windows keeps the ground that it was made with; this one follows the theme unless the
+/// host chose another.
+void ColorMdiArea(QMdiArea& area, const RibbonTheme& theme)
+{
+    constexpr char given[] = "_ribbon_ground";
+    const QVariant last = area.property(given);
+    const bool ours = last.isValid() ? area.background() == last.value<QBrush>()
+                                     : area.background().style() == Qt::SolidPattern;
+    if (!ours)
+        return;
+    const ThemeLook& window = theme[Element::Window];
+    const QBrush ground(theme.isHighContrast() ? window.middle
+                                               : DrawHelpers::mix(window.middle, window.border, 0.6));
+    area.setProperty(given, ground);
+    area.setBackground(ground);
 }
 
 } // namespace
@@ -141,7 +165,7 @@ void RibbonStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
     const Canvas canvas{baseStyle(), option, painter, widget, ribbonTheme()};
     if (style_draw::DrawField(control, canvas) || style_draw::DrawSlider(control, canvas)
         || style_draw::DrawToolButton(control, canvas) || style_draw::DrawGroupBox(control, canvas)
-        || style_draw::DrawDial(control, canvas))
+        || style_draw::DrawDial(control, canvas) || style_draw::DrawTitleBar(control, canvas))
         return;
     OfficeStyle::drawComplexControl(control, option, painter, widget);
 }
@@ -294,7 +318,9 @@ void RibbonStyle::polish(QWidget* widget)
         target->setAttribute(Qt::WA_Hover, true);
     if (IsDockTitle(widget))
         ColorDockTitle(*widget, ribbonTheme());
-    if (qobject_cast<QTabBar*>(widget) || IsDockTitle(widget))
+    if (auto* area = qobject_cast<QMdiArea*>(widget))
+        ColorMdiArea(*area, ribbonTheme());
+    if (IsFollowed(widget))
         widget->installEventFilter(this);
 }
 
@@ -302,7 +328,7 @@ void RibbonStyle::unpolish(QWidget* widget)
 {
     if (QWidget* target = HoverTarget(widget))
         target->setAttribute(Qt::WA_Hover, false);
-    if (qobject_cast<QTabBar*>(widget) || IsDockTitle(widget))
+    if (IsFollowed(widget))
         widget->removeEventFilter(this);
     OfficeStyle::unpolish(widget);
 }
@@ -315,6 +341,10 @@ bool RibbonStyle::eventFilter(QObject* watched, QEvent* event)
     // A theme came: the colour that a title was given is that of the former one.
     if (event->type() == QEvent::StyleChange && IsDockTitle(watched))
         ColorDockTitle(*static_cast<QWidget*>(watched), ribbonTheme());
+    if (event->type() == QEvent::StyleChange) {
+        if (auto* area = qobject_cast<QMdiArea*>(watched))
+            ColorMdiArea(*area, ribbonTheme());
+    }
     return OfficeStyle::eventFilter(watched, event);
 }
 

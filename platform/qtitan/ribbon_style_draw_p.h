@@ -45,6 +45,7 @@ bool DrawSlider(QStyle::ComplexControl control, const Canvas& canvas);
 bool DrawToolButton(QStyle::ComplexControl control, const Canvas& canvas);
 bool DrawGroupBox(QStyle::ComplexControl control, const Canvas& canvas);
 bool DrawDial(QStyle::ComplexControl control, const Canvas& canvas);
+bool DrawTitleBar(QStyle::ComplexControl control, const Canvas& canvas);
 bool DrawToolBoxControl(QStyle::ControlElement element, const Canvas& canvas);
 /// \}
 
@@ -90,6 +91,9 @@ QPalette TextPalette(const QPalette& palette, QPalette::ColorRole role, const Th
 /// An icon that draws itself in the theme's colours whenever it is asked, so that it follows a
 /// change of theme; null for pictures that are not ours. The widget says what it will lie on.
 QIcon GlyphIcon(QStyle::StandardPixmap pixmap, const QWidget* widget = nullptr);
+
+/// The sign itself, centred in a square of the rectangle's shorter side.
+void DrawWindowGlyph(QPainter& painter, const QRect& rect, QStyle::StandardPixmap pixmap, const QColor& color);
 
 /// The same for the signs of messages, and for folders and files.
 QIcon SignIcon(QStyle::StandardPixmap pixmap);

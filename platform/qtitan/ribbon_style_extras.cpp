@@ -13,7 +13,8 @@ namespace {
 qreal DialAngle(const QStyleOptionSlider& dial, int position)
 {
     const qreal span = std::max(1.0, qreal(dial.maximum) - dial.minimum);
-    const qreal part = (dial.upsideDown ? qreal(dial.maximum) - position : qreal(position) - dial.minimum) / span;
+    const qreal part =
+        (dial.upsideDown ? qreal(dial.maximum) - position : qreal(position) - dial.minimum) / span;
     return dial.dialWrapping ? M_PI * 1.5 - part * 2 * M_PI : M_PI * (8 - part * 10) / 6;
 }
 
@@ -150,7 +151,82 @@ void DrawToolBoxLabel(const Canvas& canvas, const QStyleOptionToolBox& tab)
     }
 }
 
+/// A button of the title of a window inside a window, and its sign.
+struct TitleButton
+{
+    QStyle::SubControl control;
+    QStyle::StandardPixmap sign;
+};
+
+constexpr TitleButton TitleButtons[] = {
+    {QStyle::SC_TitleBarMinButton, QStyle::SP_TitleBarMinButton},
+    {QStyle::SC_TitleBarMaxButton, QStyle::SP_TitleBarMaxButton},
+    {QStyle::SC_TitleBarNormalButton, QStyle::SP_TitleBarNormalButton},
+    {QStyle::SC_TitleBarShadeButton, QStyle::SP_TitleBarShadeButton},
+    {QStyle::SC_TitleBarUnshadeButton, QStyle::SP_TitleBarUnshadeButton},
+    {QStyle::SC_TitleBarCloseButton, QStyle::SP_TitleBarCloseButton},
+};
+
+void DrawTitleButton(const Canvas& canvas, const QStyleOptionTitleBar& bar,
+                     const TitleButton& button, const ThemeLook& ground)
+{
+    const QRect rect = canvas.style->proxy()->subControlRect(QStyle::CC_TitleBar, &bar,
+                                                             button.control, canvas.widget);
+    if (!(bar.subControls & button.control) || rect.isEmpty())
+        return;
+    const bool active = bar.activeSubControls & button.control;
+    const bool close = button.control == QStyle::SC_TitleBarCloseButton;
+    const bool sunken = active && canvas.has(QStyle::State_Sunken);
+    const bool over = active && canvas.has(QStyle::State_MouseOver);
+    const ThemeLook& look =
+        sunken ? canvas.look(close ? Element::CaptionClosePressed : Element::CaptionButtonPressed)
+        : over ? canvas.look(close ? Element::CaptionCloseHover : Element::CaptionButtonHover)
+               : ground;
+    if (sunken || over)
+        DrawPanel(canvas, rect, look, std::max(0, canvas.theme.cornerRadius() - 1));
+    DrawWindowGlyph(*canvas.painter, rect, button.sign, look.text);
+}
+
+/// The title of a window inside a window.
+void DrawTitle(const Canvas& canvas, const QStyleOptionTitleBar& bar)
+{
+    const QStyle* style = canvas.style->proxy();
+    const bool active = bar.titleBarState & QStyle::State_Active;
+    const ThemeLook& look = canvas.look(active ? Element::Caption : Element::CaptionInactive);
+    QPainter& painter = *canvas.painter;
+    FillGround(canvas, bar.rect, look);
+    DrawHelpers::drawFrame(painter, bar.rect, canvas.look(Element::DockFrame).border, Qt::NoBrush);
+    const auto part = [&](QStyle::SubControl control) {
+        return style->subControlRect(QStyle::CC_TitleBar, &bar, control, canvas.widget);
+    };
+    if (bar.subControls & QStyle::SC_TitleBarLabel) {
+        painter.save();
+        painter.setPen(look.text);
+        const QRect text = part(QStyle::SC_TitleBarLabel);
+        painter.drawText(text, Qt::AlignCenter | Qt::TextSingleLine,
+                         painter.fontMetrics().elidedText(bar.text, Qt::ElideRight,
+                                                          text.width() - Px(canvas.widget, 8)));
+        painter.restore();
+    }
+    const QRect menu = part(QStyle::SC_TitleBarSysMenu);
+    if ((bar.subControls & QStyle::SC_TitleBarSysMenu) && !menu.isEmpty() && !bar.icon.isNull()) {
+        const int extent = style->pixelMetric(QStyle::PM_SmallIconSize, &bar, canvas.widget);
+        DrawHelpers::drawIcon(painter, menu, bar.icon, QSize(extent, extent));
+    }
+    for (const TitleButton& button : TitleButtons)
+        DrawTitleButton(canvas, bar, button, look);
+}
+
 } // namespace
+
+bool DrawTitleBar(QStyle::ComplexControl control, const Canvas& canvas)
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(canvas.option);
+    if (control != QStyle::CC_TitleBar || !bar)
+        return false;
+    DrawTitle(canvas, *bar);
+    return true;
+}
 
 bool DrawDial(QStyle::ComplexControl control, const Canvas& canvas)
 {

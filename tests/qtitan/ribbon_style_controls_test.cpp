@@ -6,6 +6,7 @@
 #include <QDial>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMdiArea>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
@@ -77,6 +78,12 @@ private Q_SLOTS:
     void signsOfMessagesAreSharpAtEverySize();
     void arrowsOfACalendarReadOnItsBar();
     void anArrowStaysNearTheTextOfASplitButton();
+    void anAreaOfWindowsFollowsTheTheme();
+    void windowsInsideHaveTheCaptionOfTheTheme();
+    void theTextOfAComboBoxStandsStill();
+    void buttonsOfASpinBoxFillItsEnd_data();
+    void buttonsOfASpinBoxFillItsEnd();
+    void aSortArrowStaysOffTheTitle();
 };
 
 void RibbonStyleControlsTest::closeButtonsOfTabsStayBesideTheText_data()
@@ -356,6 +363,126 @@ void RibbonStyleControlsTest::anArrowStaysNearTheTextOfASplitButton()
     QVERIFY(button.sizeHint().width() >= parts);
     QVERIFY2(button.sizeHint().width() <= parts + 20,
              qPrintable(QString::number(button.sizeHint().width() - parts)));
+}
+
+void RibbonStyleControlsTest::anAreaOfWindowsFollowsTheTheme()
+{
+    style_test::ApplicationStyle style;
+    style->setTheme(OfficeStyle::Office2007Blue);
+    QMdiArea area;
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    const QColor blue = area.background().color();
+    style->setTheme(OfficeStyle::Office2013Dark);
+    QVERIFY(area.background().color() != blue);
+    QVERIFY(DrawHelpers::luminance(area.background().color()) < 0.2);
+    area.setBackground(QColor(10, 200, 30));
+    style->setTheme(OfficeStyle::Office2010Silver);
+    QCOMPARE(area.background().color(), QColor(10, 200, 30));
+}
+
+void RibbonStyleControlsTest::windowsInsideHaveTheCaptionOfTheTheme()
+{
+    style_test::ApplicationStyle style;
+    for (int i = 0; i < style_test::ThemeCount; ++i) {
+        style->setTheme(static_cast<OfficeStyle::Theme>(i));
+        QStyleOptionTitleBar bar;
+        bar.rect = QRect(0, 0, 200, 24);
+        bar.palette = QApplication::palette();
+        bar.state = QStyle::State_Enabled | QStyle::State_Active;
+        bar.titleBarState = int(QStyle::State_Active);
+        bar.titleBarFlags = Qt::SubWindow | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
+                            Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+        bar.subControls = QStyle::SC_All;
+        const auto picture = [&] {
+            return style_test::Picture(bar.rect.size(), 1, Qt::magenta, [&](QPainter& painter) {
+                style->drawComplexControl(QStyle::CC_TitleBar, &bar, &painter);
+            });
+        };
+        const RibbonTheme& theme = style->ribbonTheme();
+        const QImage active = picture();
+        QVERIFY(qAbs(active.pixelColor(100, 12).lightness() -
+                     theme[Element::Caption].middle.lightness()) < 8);
+        bar.titleBarState = 0;
+        QVERIFY(qAbs(picture().pixelColor(100, 12).lightness() -
+                     theme[Element::CaptionInactive].middle.lightness()) < 8);
+        bar.titleBarState = int(QStyle::State_Active);
+        bar.activeSubControls = QStyle::SC_TitleBarCloseButton;
+        bar.state |= QStyle::State_MouseOver;
+        const QRect close =
+            style->subControlRect(QStyle::CC_TitleBar, &bar, QStyle::SC_TitleBarCloseButton);
+        QVERIFY(!close.isEmpty());
+        QVERIFY(active.copy(close) != picture().copy(close));
+        const QRect minimize =
+            style->subControlRect(QStyle::CC_TitleBar, &bar, QStyle::SC_TitleBarMinButton);
+        QVERIFY(active.copy(minimize) == picture().copy(minimize));
+    }
+}
+
+void RibbonStyleControlsTest::theTextOfAComboBoxStandsStill()
+{
+    style_test::ApplicationStyle style;
+    QStyleOptionComboBox option;
+    option.rect = QRect(0, 0, 100, 24);
+    option.state = QStyle::State_Enabled;
+    const QRect still =
+        style->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField);
+    option.state |= QStyle::State_Sunken | QStyle::State_On;
+    QCOMPARE(style->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField),
+             still);
+}
+
+void RibbonStyleControlsTest::buttonsOfASpinBoxFillItsEnd_data()
+{
+    QTest::addColumn<bool>("mirrored");
+    QTest::addColumn<int>("height");
+    for (const int height : {18, 23, 24, 40}) {
+        QTest::addRow("left to right, %d high", height) << false << height;
+        QTest::addRow("right to left, %d high", height) << true << height;
+    }
+}
+
+void RibbonStyleControlsTest::buttonsOfASpinBoxFillItsEnd()
+{
+    QFETCH(bool, mirrored);
+    QFETCH(int, height);
+    style_test::ApplicationStyle style;
+    QStyleOptionSpinBox option;
+    option.rect = QRect(0, 0, 90, height);
+    option.direction = mirrored ? Qt::RightToLeft : Qt::LeftToRight;
+    option.frame = true;
+    option.subControls = QStyle::SC_All;
+    const auto rect = [&](QStyle::SubControl control) {
+        return style->subControlRect(QStyle::CC_SpinBox, &option, control);
+    };
+    const QRect up = rect(QStyle::SC_SpinBoxUp);
+    const QRect down = rect(QStyle::SC_SpinBoxDown);
+    const QRect text = rect(QStyle::SC_SpinBoxEditField);
+    QCOMPARE(up.top(), 1);
+    QCOMPARE(down.bottom(), height - 2);
+    QCOMPARE(up.bottom() + 1, down.top());
+    QVERIFY(qAbs(up.height() - down.height()) <= 1);
+    QCOMPARE(mirrored ? up.left() : up.right(), mirrored ? 1 : 88);
+    QVERIFY(!text.intersects(up) && !text.intersects(down));
+}
+
+void RibbonStyleControlsTest::aSortArrowStaysOffTheTitle()
+{
+    style_test::ApplicationStyle style;
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        QStyleOptionHeader option;
+        option.rect = QRect(30, 0, 80, 24);
+        option.direction = direction;
+        option.sortIndicator = QStyleOptionHeader::SortDown;
+        const QRect arrow = style->subElementRect(QStyle::SE_HeaderArrow, &option);
+        const QRect label = style->subElementRect(QStyle::SE_HeaderLabel, &option);
+        QVERIFY(option.rect.contains(arrow.intersected(option.rect)) && !arrow.isEmpty());
+        QVERIFY(!arrow.intersects(label));
+        QCOMPARE(arrow.left() < label.left(), direction == Qt::RightToLeft);
+        // Without an arrow the title has the room.
+        option.sortIndicator = QStyleOptionHeader::None;
+        QVERIFY(style->subElementRect(QStyle::SE_HeaderLabel, &option).width() > label.width());
+    }
 }
 
 OVK_TEST_CLASS(RibbonStyleControlsTest)

@@ -44,6 +44,7 @@ class RibbonStyleTest : public QObject
 private Q_SLOTS:
     void wrongOptionsAreHarmless();
     void dockPanelsHaveFrameAndTitleStrip();
+    void titlesOfPanelsFollowTheTheme();
     void otherStylesDrawNothingForADockPanel();
     void aHoveredFieldShowsIt();
     void hoverIsTakenBackWithTheStyle();
@@ -100,6 +101,19 @@ void RibbonStyleTest::dockPanelsHaveFrameAndTitleStrip()
         QCOMPARE(picture.pixelColor(50, 60), theme[Element::DockFrame].middle);
         QCOMPARE(picture.pixelColor(50, 20), theme[Element::DockTitle].border);
         QVERIFY(qAbs(picture.pixelColor(50, 11).lightness() - theme[Element::DockTitle].middle.lightness()) < 8);
+    }
+}
+
+void RibbonStyleTest::titlesOfPanelsFollowTheTheme()
+{
+    style_test::ApplicationStyle style;
+    ovk::DockTitle title;
+    title.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&title));
+    // Dark and light in turn.
+    for (const int i : {10, 0, 1, 10, 8, 7, 4}) {
+        style->setTheme(static_cast<OfficeStyle::Theme>(i));
+        QCOMPARE(title.palette().color(QPalette::WindowText), style->ribbonTheme()[Element::DockTitle].text);
     }
 }
 
