@@ -118,7 +118,7 @@ public:
         Settle();
         Note("create", clock.Milliseconds());
         Note("memory", HeapInUse() - before);
-        Note("visible", docking_benchmark::CountVisible(contender->Window()));
+        Note("visible", docking_benchmark::CountVisible());
         if (Wanted("resize"))
             Resize(*contender);
         if (Wanted("drag"))
@@ -207,7 +207,7 @@ private:
             }
             Note("rebuild", Median(samples));
         }
-        Note("rebuilt", docking_benchmark::CountVisible(contender->Window()));
+        Note("rebuilt", docking_benchmark::CountVisible());
         if (Wanted("capture") || Wanted("write")) {
             Samples captured;
             Samples written;

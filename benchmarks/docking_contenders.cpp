@@ -1,6 +1,6 @@
 #include "docking_contenders.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDockWidget>
 #include <QLabel>
 #include <QMainWindow>
@@ -194,12 +194,12 @@ void Fill(QWidget& content, int number)
     }
 }
 
-int CountVisible(QWidget& window)
+int CountVisible()
 {
     int count = 0;
-    const QList<QSpinBox*> boxes = window.findChildren<QSpinBox*>();
-    for (const QSpinBox* box : boxes)
-        count += box->isVisible() ? 1 : 0;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (const QWidget* widget : widgets)
+        count += qobject_cast<const QSpinBox*>(widget) && widget->isVisible() ? 1 : 0;
     return count / c_lines;
 }
 

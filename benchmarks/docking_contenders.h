@@ -86,8 +86,9 @@ std::unique_ptr<Contender> CreateQtDocks(int contents);
 std::unique_ptr<Contender> CreateAdvancedDocking(int contents);
 std::unique_ptr<Contender> CreateSplitters(int contents);
 
-/// How many contents are on screen: the work that is compared must be the same.
-int CountVisible(QWidget& window);
+/// How many contents are shown, those of floating panels too: the work that is compared must be the
+/// same. (QDockWidget shows what lies behind other tabs, out of sight.)
+int CountVisible();
 
 /// The frame that our windows live in.
 class Host
