@@ -35,7 +35,9 @@ private:
         if (m_rules.special_value_text.isEmpty() || text != m_rules.special_value_text) {
             if (!m_rules.prefix.isEmpty() && text.startsWith(m_rules.prefix))
                 text = text.mid(m_rules.prefix.size());
-            // Without the shown form an editor would refuse what it shows itself.
+            // The suffix as it is shown, if it stands there: taking off less would make "5 mm" into
+            // "5mm", of which the base selects and replaces a digit too few, and an editor would
+            // refuse its own "5 [mm]".
             if (!m_rules.shown_suffix.isEmpty() && text.endsWith(m_rules.shown_suffix))
                 m_suffix = m_rules.shown_suffix;
             if (!m_suffix.isEmpty() && text.endsWith(m_suffix))
