@@ -1,6 +1,6 @@
-// A property tree with open editors, beside its floor: the same editors put into a plain tree view as
-// index widgets. The goals: at most 1.5 times the floor at 1,000 rows, linear in the number of rows;
-// and the repaint of a large legend beside a plain drawing of its image.
+// A property tree with open editors, beside its floor: the same editors put into a plain tree view
+// as index widgets. The goals: at most 1.5 times the floor at 1,000 rows, linear in the number of
+// rows; and the repaint of a large legend beside a plain drawing of its image.
 //
 // The contenders of a row are run in turn, so that a disturbance of the machine hits both, and the
 // medians are compared. Runs without a display: QT_QPA_PLATFORM=offscreen.
@@ -65,11 +65,16 @@ private:
 QVariant InitialValue(int row)
 {
     switch (row % g_kinds) {
-    case 0: return true;
-    case 1: return 1;
-    case 2: return QColor(Qt::darkCyan);
-    case 3: return 20;
-    default: return 42.125;
+    case 0:
+        return true;
+    case 1:
+        return 1;
+    case 2:
+        return QColor(Qt::darkCyan);
+    case 3:
+        return 20;
+    default:
+        return 42.125;
     }
 }
 
@@ -109,19 +114,26 @@ QWidget* BareEditor(int row)
         edit->setColor(Qt::darkCyan);
         return edit;
     }
-    case 3: return SpinBox(100.0, 0, 20.0);
-    default: return SpinBox(400.0, 3, 42.125);
+    case 3:
+        return SpinBox(100.0, 0, 20.0);
+    default:
+        return SpinBox(400.0, 3, 42.125);
     }
 }
 
 TreeItemDelegateWrapper Delegate(int row)
 {
     switch (row % g_kinds) {
-    case 0: return CheckBoxDelegate::GetInstance();
-    case 1: return new ComboBoxDelegate(Texts());
-    case 2: return ColorEditDelegate::GetInstance();
-    case 3: return new SpinBoxDelegate(QStringLiteral(" mm"), 0, 100);
-    default: return new DoubleSpinBoxDelegate(QStringLiteral(" mm"), 0.0, 400.0);
+    case 0:
+        return CheckBoxDelegate::GetInstance();
+    case 1:
+        return new ComboBoxDelegate(Texts());
+    case 2:
+        return ColorEditDelegate::GetInstance();
+    case 3:
+        return new SpinBoxDelegate(QStringLiteral(" mm"), 0, 100);
+    default:
+        return new DoubleSpinBoxDelegate(QStringLiteral(" mm"), 0.0, 400.0);
     }
 }
 
@@ -300,9 +312,11 @@ Pair RepaintLegend(int edge)
     PlainImage plain(QSize(edge, edge));
     QImage canvas(edge, edge, QImage::Format_RGB32);
     const auto paint = [&canvas](QWidget& widget) {
-        return Milliseconds([&] { widget.render(&canvas, QPoint(), QRegion(), QWidget::RenderFlags()); });
+        return Milliseconds(
+            [&] { widget.render(&canvas, QPoint(), QRegion(), QWidget::RenderFlags()); });
     };
-    return Compare(101, [&] { return paint(legend); }, [&] { return paint(plain); });
+    return Compare(
+        101, [&] { return paint(legend); }, [&] { return paint(plain); });
 }
 
 } // namespace

@@ -27,8 +27,7 @@ constexpr char g_colors[] = "Ovk Colors";
 constexpr char g_buttons[] = "Ovk Buttons";
 constexpr char g_views[] = "Ovk Views";
 
-constexpr char g_group_title[] =
-    R"(<property name="title"><string>GroupBox</string></property>)";
+constexpr char g_group_title[] = R"(<property name="title"><string>GroupBox</string></property>)";
 constexpr char g_button_text[] = R"(<property name="text"><string>Action</string></property>)";
 constexpr char g_check_text[] = R"(<property name="text"><string>CheckBox</string></property>)";
 constexpr char g_expander_text[] = R"(<property name="text"><string>Details</string></property>)";
@@ -53,8 +52,10 @@ const std::vector<FormWidget>& FormWidgets()
          "An editor of a length. Its limits are given in millimetres and in inches; digits and "
          "suffix follow the units of the application.",
          QSize(90, 23), "editDblUnits", false, nullptr, &Create<EditDblUnits>},
-        {"ovk::CheckComboBox", "ovk/widgets/check_combo_box.h", g_editors, "Combo box of check boxes",
-         "A combo box whose rows are checked and unchecked. It shows the texts of the checked rows, "
+        {"ovk::CheckComboBox", "ovk/widgets/check_combo_box.h", g_editors,
+         "Combo box of check boxes",
+         "A combo box whose rows are checked and unchecked. It shows the texts of the checked "
+         "rows, "
          "or a text that stands for none.",
          QSize(120, 23), "checkComboBox", false, nullptr, &Create<CheckComboBox>},
         {"ovk::SuffixLabel", "ovk/units/suffix_label.h", g_editors, "Suffix beside an editor",
@@ -68,7 +69,8 @@ const std::vector<FormWidget>& FormWidgets()
          "statusLabel", false, g_status_text, &Create<StatusLabel>},
 
         {"ovk::ColorEdit", "ovk/widgets/color_edit.h", g_colors, "Color button",
-         "A button that shows a color. A click opens the standard and the custom colors, from which "
+         "A button that shows a color. A click opens the standard and the custom colors, from "
+         "which "
          "the full dialog is reached.",
          QSize(59, 23), "colorEdit", false, nullptr, &Create<ColorEdit>},
         {"ovk::ColorRangeSelection", "ovk/widgets/color_range_selection.h", g_colors, "Color range",
@@ -115,7 +117,8 @@ const std::vector<FormWidget>& FormWidgets()
          "A tree whose subclasses choose how it shows where a drag would land.", QSize(220, 150),
          "treeView", false, nullptr, &Create<MTreeView>},
         {"ovk::TreeEdit", "ovk/widgets/tree_edit/tree_edit.h", g_views, "Property tree",
-         "A property editor: titles on the left, one editor each on the right. The program adds the "
+         "A property editor: titles on the left, one editor each on the right. The program adds "
+         "the "
          "rows.",
          QSize(260, 200), "treeEdit", false, nullptr, &Create<TreeEdit>},
     };

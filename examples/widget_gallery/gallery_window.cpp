@@ -37,7 +37,8 @@ constexpr Switch g_switches[] = {
 /// "Office2013White" becomes "Office 2013 White".
 QString Spaced(QString key)
 {
-    static const QRegularExpression border(QStringLiteral("(?<=[a-z])(?=[0-9A-Z])|(?<=[0-9])(?=[A-Z])"));
+    static const QRegularExpression border(
+        QStringLiteral("(?<=[a-z])(?=[0-9A-Z])|(?<=[0-9])(?=[A-Z])"));
     return key.replace(border, QStringLiteral(" "));
 }
 

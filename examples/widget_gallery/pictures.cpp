@@ -46,8 +46,10 @@ constexpr Look g_looks[] = {
     {"disabled", "Disabled", g_light, false, false, false, false, nullptr},
     {"disabled-dark", "Disabled, dark", g_dark, false, false, false, false, nullptr},
     {"right-to-left", "From right to left", g_light, false, true, true, false, nullptr},
-    {"inches", "Inches, with the suffix inside the editors", g_light, false, true, false, true, nullptr},
-    {"colors", "The colors of a color button", g_light, false, true, false, false, g_color_edit_name},
+    {"inches", "Inches, with the suffix inside the editors", g_light, false, true, false, true,
+     nullptr},
+    {"colors", "The colors of a color button", g_light, false, true, false, false,
+     g_color_edit_name},
     {"colors-dark", "The colors of a color button, dark", g_dark, false, true, false, false,
      g_color_edit_name},
     {"check-combo", "An open combo box of check boxes", g_light, false, true, false, false,
@@ -107,7 +109,8 @@ bool Write(OfficeStyle& style, const QDir& folder, const Look& look)
     QWidget* const popup = look.popup ? OpenPopup(window, look.popup) : nullptr;
     if (popup)
         Settle(60);
-    const bool done = Shot(window).save(folder.filePath(QLatin1String(look.name) + QStringLiteral(".png")));
+    const bool done =
+        Shot(window).save(folder.filePath(QLatin1String(look.name) + QStringLiteral(".png")));
     if (popup)
         popup->close();
     window.ShowRightToLeft(false);

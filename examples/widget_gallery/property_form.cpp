@@ -68,7 +68,8 @@ void PropertyForm::AddNumbers()
     degrees->setDecimals(1);
     TreeEditSectionItem* const inner = section->AddSection(tr("Overhang"), QString());
     inner->AddItem(tr("From angle"), degrees.release())->SetDataProvider(Keep(45.0));
-    inner->AddItem(tr("Distance"), new DoubleSpinBoxDelegate(-1.0, 1.0))->SetDataProvider(Keep(0.125));
+    inner->AddItem(tr("Distance"), new DoubleSpinBoxDelegate(-1.0, 1.0))
+        ->SetDataProvider(Keep(0.125));
 }
 
 void PropertyForm::AddLooks()
@@ -76,7 +77,8 @@ void PropertyForm::AddLooks()
     TreeEditSectionItem* const section = AddSection(tr("Looks"), QString());
     section->AddItem(tr("Color"), ColorEditDelegate::GetInstance())
         ->SetDataProvider(Keep(QColor(0x2F, 0x7F, 0xD6)));
-    section->AddItem(tr("Edges"), ColorEditDelegate::GetInstance())->SetDataProvider(Keep(QColor()));
+    section->AddItem(tr("Edges"), ColorEditDelegate::GetInstance())
+        ->SetDataProvider(Keep(QColor()));
 }
 
 void PropertyForm::AddLocked()

@@ -145,8 +145,9 @@ QWidget* MakeButtons()
     texts->addWidget(open);
     auto* const tip = new Tooltip;
     tip->setIcon(tip->style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(16, 16));
-    tip->setMessage(Tr(QT_TRANSLATE_NOOP("WidgetGallery", "<b>Overhang</b><br>The angle from which on "
-                                                          "a face needs supports.")));
+    tip->setMessage(
+        Tr(QT_TRANSLATE_NOOP("WidgetGallery", "<b>Overhang</b><br>The angle from which on "
+                                              "a face needs supports.")));
     texts->addStretch();
     texts->addWidget(new QLabel(Tr(QT_TRANSLATE_NOOP("WidgetGallery", "Overhang"))));
     texts->addWidget(tip);
@@ -163,7 +164,8 @@ QWidget* MakeBoxes()
     auto* const collapsed = MakeBox(Tr(QT_TRANSLATE_NOOP("WidgetGallery", "Collapsed")));
     collapsed->setChecked(false);
     layout->addWidget(collapsed);
-    auto* const fixed = MakeBox(Tr(QT_TRANSLATE_NOOP("WidgetGallery", "Unchecked, not collapsive")));
+    auto* const fixed =
+        MakeBox(Tr(QT_TRANSLATE_NOOP("WidgetGallery", "Unchecked, not collapsive")));
     fixed->setCollapsive(false);
     fixed->setChecked(false);
     layout->addWidget(fixed);

@@ -56,7 +56,8 @@ QWidget* MakeColors()
     auto* const color = MakeEdit(QColor(0x2F, 0x7F, 0xD6));
     color->setObjectName(QString::fromLatin1(g_color_edit_name));
     AddLabelled(*layout, 0, 0, Tr(QT_TRANSLATE_NOOP("WidgetGallery", "Color")), color);
-    AddLabelled(*layout, 0, 2, Tr(QT_TRANSLATE_NOOP("WidgetGallery", "No color")), MakeEdit(QColor()));
+    AddLabelled(*layout, 0, 2, Tr(QT_TRANSLATE_NOOP("WidgetGallery", "No color")),
+                MakeEdit(QColor()));
 
     auto* const split = MakeEdit(QColor(0xE0, 0x8A, 0x1E));
     split->setPopupMode(QToolButton::MenuButtonPopup);
@@ -130,8 +131,9 @@ QWidget* MakeScales()
     auto* const overhang = new ColorLegend;
     overhang->setProperty("colorSize", 16);
     overhang->setProperty("offset", 4);
-    overhang->SetColorsAndLabels(
-        {{0.0, QColor(0xD6, 0x45, 0x41)}, {45.0, QColor(0xF2, 0xC1, 0x4E)}, {90.0, QColor(0x3F, 0x9B, 0x57)}});
+    overhang->SetColorsAndLabels({{0.0, QColor(0xD6, 0x45, 0x41)},
+                                  {45.0, QColor(0xF2, 0xC1, 0x4E)},
+                                  {90.0, QColor(0x3F, 0x9B, 0x57)}});
     layout->addWidget(overhang, 3, 0, 1, column);
     auto* const disabled = new ColorLegend;
     disabled->setEnabled(false);

@@ -53,10 +53,12 @@ struct SuffixRow
 };
 
 constexpr SuffixRow g_suffix_rows[] = {
-    {QT_TRANSLATE_NOOP("WidgetGallery", "As the application says"), EditDblSuffix::spAuto, " %", ""},
-    {QT_TRANSLATE_NOOP("WidgetGallery", "Suffix always inside"), EditDblSuffix::spVisible, "\u00B0C",
-     " %"},
-    {QT_TRANSLATE_NOOP("WidgetGallery", "Suffix in brackets"), EditDblSuffix::spVisible, "kg", " [%]"},
+    {QT_TRANSLATE_NOOP("WidgetGallery", "As the application says"), EditDblSuffix::spAuto, " %",
+     ""},
+    {QT_TRANSLATE_NOOP("WidgetGallery", "Suffix always inside"), EditDblSuffix::spVisible,
+     "\u00B0C", " %"},
+    {QT_TRANSLATE_NOOP("WidgetGallery", "Suffix in brackets"), EditDblSuffix::spVisible, "kg",
+     " [%]"},
     {QT_TRANSLATE_NOOP("WidgetGallery", "Suffix never inside"), EditDblSuffix::spHidden, " s", ""},
 };
 

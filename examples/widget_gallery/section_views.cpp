@@ -45,7 +45,8 @@ public:
 
 QWidget* MakeViews()
 {
-    auto* const box = new QGroupBox(Tr(QT_TRANSLATE_NOOP("WidgetGallery", "Views with rows to drag")));
+    auto* const box =
+        new QGroupBox(Tr(QT_TRANSLATE_NOOP("WidgetGallery", "Views with rows to drag")));
     auto* const layout = new QHBoxLayout(box);
 
     auto* const table = new MTableView;

@@ -188,7 +188,8 @@ void ColorLegend::_PaintReading(QPainter& painter) const
     const QPoint at = _ReadingPoint();
     QRect line = m_orientation == Vertical ? QRect(0, at.y(), colors.width(), 1)
                                            : QRect(at.x(), 0, 1, colors.height());
-    QRect edges = m_orientation == Vertical ? line.adjusted(0, -1, 0, 1) : line.adjusted(-1, 0, 1, 0);
+    QRect edges =
+        m_orientation == Vertical ? line.adjusted(0, -1, 0, 1) : line.adjusted(-1, 0, 1, 0);
     painter.setPen(palette().color(QPalette::Highlight));
     painter.drawRect(colors.adjusted(0, 0, -1, -1));
     painter.fillRect(edges & colors, Qt::black);
@@ -225,7 +226,8 @@ double ColorLegend::GetReadingStep() const
 
 QString ColorLegend::GetReadingText() const
 {
-    return LabelText(GetReadingValue()) + QLatin1String(", ") + ColorText(ColorAt(m_colors, m_reading));
+    return LabelText(GetReadingValue()) + QLatin1String(", ") +
+           ColorText(ColorAt(m_colors, m_reading));
 }
 
 QPoint ColorLegend::_ReadingPoint() const

@@ -66,9 +66,8 @@ void ExpanderButton::paintEvent(QPaintEvent*)
     const int space = option.iconSize.width() + g_arrow_gap;
     QStyleOption arrow = option;
     arrow.rect = QRect(inner.right() + 1 - space, inner.top(), space, inner.height());
-    painter.drawPrimitive(isChecked() ? QStyle::PE_IndicatorArrowDown
-                                      : QStyle::PE_IndicatorArrowLeft,
-                          arrow);
+    painter.drawPrimitive(
+        isChecked() ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowLeft, arrow);
     style()->drawItemText(&painter, inner.adjusted(0, 0, -space, 0),
                           Qt::AlignVCenter | Qt::AlignRight | Qt::AlignAbsolute |
                               Qt::TextShowMnemonic,

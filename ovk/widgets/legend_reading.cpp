@@ -54,7 +54,8 @@ std::optional<double> MovedReading(double reading, int key, int entries)
     double moved = reading;
     switch (known->stride) {
     case Stride::Step:
-        moved = ToNext(reading, known->direction, static_cast<int>(std::lround(1.0 / g_reading_step)));
+        moved =
+            ToNext(reading, known->direction, static_cast<int>(std::lround(1.0 / g_reading_step)));
         break;
     case Stride::Entry:
         moved = ToNext(reading, known->direction, entries - 1);

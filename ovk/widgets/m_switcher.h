@@ -9,8 +9,8 @@
 
 namespace ovk {
 
-/// A switch: a track on which a thumb moves to the right while it is on. To accessibility clients it
-/// is a check box.
+/// A switch: a track on which a thumb moves to the right while it is on. To accessibility clients
+/// it is a check box.
 class OVK_EXPORT MSwitcher : public QAbstractButton
 {
     Q_OBJECT

@@ -120,8 +120,8 @@ private:
     ExpanderButton* Button() const { return static_cast<ExpanderButton*>(object()); }
 };
 
-/// Unlike Qt's, it bears the name of its label where there is one; the texts of the checked rows are
-/// its value.
+/// Unlike Qt's, it bears the name of its label where there is one; the texts of the checked rows
+/// are its value.
 class AccessibleCheckCombo : public QAccessibleWidget
 {
 public:
@@ -135,9 +135,12 @@ public:
     QAccessibleInterface* child(int index) const override
     {
         switch (index) {
-        case 0: return QAccessible::queryAccessibleInterface(Combo()->view());
-        case 1: return QAccessible::queryAccessibleInterface(Combo()->lineEdit());
-        default: return nullptr;
+        case 0:
+            return QAccessible::queryAccessibleInterface(Combo()->view());
+        case 1:
+            return QAccessible::queryAccessibleInterface(Combo()->lineEdit());
+        default:
+            return nullptr;
         }
     }
 
@@ -193,8 +196,7 @@ private:
 class AccessibleColorEdit : public QAccessibleWidget
 {
 public:
-    explicit AccessibleColorEdit(ColorEdit* edit)
-        : QAccessibleWidget(edit, QAccessible::ButtonMenu)
+    explicit AccessibleColorEdit(ColorEdit* edit) : QAccessibleWidget(edit, QAccessible::ButtonMenu)
     {
     }
 
@@ -203,8 +205,9 @@ public:
         const QString own = QAccessibleWidget::text(type);
         switch (type) {
         case QAccessible::Name:
-            return own.isEmpty() ? Translated(QT_TRANSLATE_NOOP("ovk::WidgetAccessibility", "Color"))
-                                 : own;
+            return own.isEmpty()
+                       ? Translated(QT_TRANSLATE_NOOP("ovk::WidgetAccessibility", "Color"))
+                       : own;
         case QAccessible::Value:
             return ColorText(Edit()->color());
         case QAccessible::Description:

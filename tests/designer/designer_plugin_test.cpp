@@ -89,9 +89,9 @@ const QVector<Setting>& Settings()
 /// form.
 QSet<QString> WidgetsOfTheHeaders()
 {
-    static const QStringList roots = {"QWidget",   "QAbstractButton", "QPushButton", "QToolButton",
-                                      "QCheckBox", "QComboBox",       "QLabel",      "QGroupBox",
-                                      "QTreeView", "QTableView",      "QDoubleSpinBox"};
+    static const QStringList roots = {
+        "QWidget", "QAbstractButton", "QPushButton", "QToolButton", "QCheckBox",     "QComboBox",
+        "QLabel",  "QGroupBox",       "QTreeView",   "QTableView",  "QDoubleSpinBox"};
     QMap<QString, QString> bases;
     for (const char* const folder : {"/ovk/units", "/ovk/widgets"}) {
         QDirIterator files(QStringLiteral(OVK_SOURCE_FOLDER) + folder, {"*.h"}, QDir::Files,

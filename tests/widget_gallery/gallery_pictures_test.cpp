@@ -71,9 +71,11 @@ void GalleryPicturesTest::noPictureIsBlank()
         QSet<QRgb> colors;
         for (int y = 0; y < half.height(); y += 3) {
             for (int x = 0; x < half.width(); x += 3)
-                colors << picture.pixel(x + (quarter % 2) * half.width(), y + (quarter / 2) * half.height());
+                colors << picture.pixel(x + (quarter % 2) * half.width(),
+                                        y + (quarter / 2) * half.height());
         }
-        QVERIFY2(colors.size() > 8, qPrintable(QString("quarter %1: %2").arg(quarter).arg(colors.size())));
+        QVERIFY2(colors.size() > 8,
+                 qPrintable(QString("quarter %1: %2").arg(quarter).arg(colors.size())));
     }
 }
 

@@ -59,9 +59,10 @@ public:
     bool eventFilter(QObject*, QEvent* event) override
     {
         // Not that the pointer is now above another editor, or the focus in it.
-        static const QSet<int> touching = {QEvent::Show,    QEvent::Hide,          QEvent::Resize,
-                                           QEvent::Destroy, QEvent::DeferredDelete, QEvent::EnabledChange,
-                                           QEvent::StyleChange, QEvent::LayoutRequest};
+        static const QSet<int> touching = {QEvent::Show,           QEvent::Hide,
+                                           QEvent::Resize,         QEvent::Destroy,
+                                           QEvent::DeferredDelete, QEvent::EnabledChange,
+                                           QEvent::StyleChange,    QEvent::LayoutRequest};
         if (event->type() == QEvent::Move)
             ++m_effort.moved;
         else if (touching.contains(event->type()))
@@ -276,7 +277,8 @@ void TreeEditEffortTest::positionsAreRightAfterAnyChange()
         if (kind == 0 || items.isEmpty()) {
             items << root.AddItem(QString::number(step), TreeItemDelegateWrapper());
         } else if (kind == 1) {
-            auto* const item = new TreeEditItem(QString::number(step), TreeItemDelegateWrapper(), model);
+            auto* const item =
+                new TreeEditItem(QString::number(step), TreeItemDelegateWrapper(), model);
             const int at = random.bounded(root.GetChildCount() + 1);
             const ITreeItem* const next = root.GetChild(at);
             root.InsertChild(at, item);

@@ -83,7 +83,7 @@ int TreeEditItemBase::GetIndexOf(ITreeItem* child) const
         return last;
     const int known = static_cast<const TreeEditItemBase*>(child)->m_shown_position;
     return known >= 0 && known <= last && shown[static_cast<std::size_t>(known)] == child ? known
-                                                                                         : last;
+                                                                                          : last;
 }
 
 /// The position in the list of all children; behind the last one if there is no such visible child.

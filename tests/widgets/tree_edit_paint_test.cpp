@@ -1,0 +1,172 @@
+#include "tests/support/test_main.h"
+#include "tests/widgets/tree_edit_form.h"
+
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+using namespace ovk;
+using ovk_test::Form;
+using ovk_test::Value;
+
+/// How the rows of a property tree look.
+class TreeEditPaintTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aSectionIsABand();
+    void theBandBeginsAtTheEdge();
+    void rowsHaveTheirLines();
+    void theCurrentTitleIsLit();
+    void aDisabledTitleIsPale();
+    void aRowIsHigherThanItsText();
+    void editorsLeaveAMargin();
+};
+
+void TreeEditPaintTest::aSectionIsABand()
+{
+    Form form;
+    form.AddSection(QString(), QString());
+    QPalette palette = form.palette();
+    palette.setColor(QPalette::AlternateBase, QColor(10, 200, 30));
+    form.setPalette(palette);
+    form.resize(300, 100);
+    QStyleOptionViewItem option = form.viewOptions();
+    option.rect = QRect(5, 5, 80, 20);
+    for (const int column : {0, 1}) {
+        QImage image(100, 30, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        form.itemDelegate()->paint(&painter, option, form.Cell(0, column));
+        QCOMPARE(image.pixelColor(5, 5), QColor(10, 200, 30));
+        QCOMPARE(image.pixelColor(84, 24), QColor(10, 200, 30));
+        QCOMPARE(image.pixelColor(85, 24), QColor(Qt::white));
+    }
+}
+
+void TreeEditPaintTest::theBandBeginsAtTheEdge()
+{
+    Form form;
+    TreeEditSectionItem* const section = form.AddSection(QString(), QString());
+    section->AddItem(QString(), CheckBoxDelegate::GetInstance());
+    QPalette palette = form.palette();
+    palette.setColor(QPalette::AlternateBase, QColor(10, 200, 30));
+    form.setPalette(palette);
+    form.resize(300, 100);
+    form.expandAll();
+    form.show();
+    const QImage picture = form.viewport()->grab().toImage();
+    const int band = form.visualRect(form.Cell(0, 0)).bottom();
+    QCOMPARE(picture.pixelColor(0, band), QColor(10, 200, 30));
+    const int row = form.visualRect(form.Cell(0, 0, form.Cell(0, 0))).center().y();
+    QVERIFY(picture.pixelColor(0, row) != QColor(10, 200, 30));
+}
+
+void TreeEditPaintTest::rowsHaveTheirLines()
+{
+    Form form;
+    form.AddItem(QString(), CheckBoxDelegate::GetInstance());
+    QPalette palette = form.palette();
+    palette.setColor(QPalette::AlternateBase, QColor(10, 200, 30));
+    form.setPalette(palette);
+    QStyleOptionViewItem option = form.viewOptions();
+    option.rect = QRect(5, 5, 80, 20);
+    for (const int column : {0, 1}) {
+        QImage image(100, 30, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        form.itemDelegate()->paint(&painter, option, form.Cell(0, column));
+        for (int y = 0; y < 30; ++y) {
+            for (int x = 0; x < 100; ++x) {
+                const bool bottom = y == 24 && x >= 5 && x < 85;
+                const bool left = column == 1 && x == 5 && y >= 5 && y < 25;
+                QCOMPARE(image.pixelColor(x, y),
+                         bottom || left ? QColor(10, 200, 30) : QColor(Qt::white));
+            }
+        }
+    }
+}
+
+void TreeEditPaintTest::theCurrentTitleIsLit()
+{
+    Form form;
+    form.AddItem(QString(), CheckBoxDelegate::GetInstance());
+    form.AddItem(QString(), CheckBoxDelegate::GetInstance());
+    QStyleOptionViewItem option = form.viewOptions();
+    option.rect = QRect(5, 5, 80, 20);
+    const auto color = [&](int row, bool active) {
+        QImage image(100, 30, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        QStyleOptionViewItem own = option;
+        own.state.setFlag(QStyle::State_Active, active);
+        form.itemDelegate()->paint(&painter, own, form.Cell(row, 0));
+        return image.pixelColor(40, 15);
+    };
+    QCOMPARE(color(0, true), QColor(Qt::white));
+    form.setCurrentIndex(form.Cell(0, 1));
+    QCOMPARE(color(0, true).rgb(), option.palette.color(QPalette::Highlight).lighter(150).rgb());
+    QCOMPARE(color(0, false), QColor(Qt::white));
+    QCOMPARE(color(1, true), QColor(Qt::white));
+}
+
+void TreeEditPaintTest::aDisabledTitleIsPale()
+{
+    Form form;
+    TreeEditItem* const item =
+        form.AddItem(QString(8, QChar(0x2588)), CheckBoxDelegate::GetInstance());
+    QPalette palette = form.palette();
+    palette.setColor(QPalette::Text, Qt::blue);
+    palette.setColor(QPalette::Mid, QColor(230, 120, 10));
+    form.setPalette(palette);
+    QStyleOptionViewItem option = form.viewOptions();
+    option.rect = QRect(0, 0, 150, 20);
+    const auto has = [&](const QColor& color) {
+        QImage image(150, 20, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        form.itemDelegate()->paint(&painter, option, form.Cell(0, 0));
+        for (int y = 0; y < 20; ++y) {
+            for (int x = 0; x < 150; ++x) {
+                if (image.pixelColor(x, y) == color)
+                    return true;
+            }
+        }
+        return false;
+    };
+    QVERIFY(has(Qt::blue));
+    item->SetEnabled(false);
+    QVERIFY(!has(Qt::blue));
+    QVERIFY(has(QColor(230, 120, 10)));
+}
+
+void TreeEditPaintTest::aRowIsHigherThanItsText()
+{
+    Form form;
+    form.AddItem("Row", TreeItemDelegateWrapper());
+    const QStyleOptionViewItem option = form.viewOptions();
+    const QStyledItemDelegate plain;
+    QCOMPARE(form.itemDelegate()->sizeHint(option, form.Cell(0, 0)),
+             plain.sizeHint(option, form.Cell(0, 0)) + QSize(0, 4));
+}
+
+void TreeEditPaintTest::editorsLeaveAMargin()
+{
+    Form form;
+    Value value(QString("text"));
+    form.AddItem("Row", TreeItemDelegateWrapper())->SetDataProvider(&value);
+    form.CreateEditors();
+    QWidget* const editor = form.Editor(0);
+    QStyleOptionViewItem option = form.viewOptions();
+    option.rect = QRect(10, 10, 300, 40);
+    form.itemDelegate()->updateEditorGeometry(editor, option, form.Cell(0));
+    const QRect own = editor->geometry();
+    QStyleOptionViewItem inner = option;
+    inner.rect = QRect(11, 11, 298, 38);
+    QStyledItemDelegate().updateEditorGeometry(editor, inner, form.Cell(0));
+    QCOMPARE(own, editor->geometry());
+}
+
+OVK_TEST_CLASS(TreeEditPaintTest)
+
+#include "tree_edit_paint_test.moc"
