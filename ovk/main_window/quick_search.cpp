@@ -111,6 +111,12 @@ void QSCommandModel::SetLayout(UiLayout* layout)
     endResetModel();
 }
 
+bool QSSortProxy::lessThan(const QModelIndex& left, const QModelIndex& right) const
+{
+    const auto* model = static_cast<const QSCommandModel*>(sourceModel());
+    return model->DisplayText(left.row()) < model->DisplayText(right.row());
+}
+
 QuickSearchWidget::QuickSearchWidget(QWidget* parent)
     : QLineEdit(parent)
 {

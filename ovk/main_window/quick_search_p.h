@@ -43,6 +43,9 @@ public:
     /// Lists the commands that the layout offers; none for null. They are not owned.
     void SetLayout(UiLayout* layout);
 
+    /// What Qt::DisplayRole answers for a row of the list.
+    const QString& DisplayText(int row) const;
+
 private:
     /// The text of a row, and what it was made from.
     struct Text
@@ -52,11 +55,22 @@ private:
         QString display;
     };
 
-    const QString& DisplayText(int row) const;
-
     /// Sorting and each key typed ask for all texts over and over. They are made once, and again
     /// when the command says something else.
     mutable std::vector<Text> m_texts;
+};
+
+/// Sorts the commands by their texts, as its base would, without a copy of both for each
+/// comparison.
+class OVK_TEST_EXPORT QSSortProxy : public QSortFilterProxyModel
+{
+    Q_OBJECT
+
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+protected:
+    bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
 };
 
 /// The edit at the end of the quick access bar that finds a command by its title and runs it.
@@ -99,7 +113,7 @@ private:
 
     QCompleter m_completer;
     QSCommandModel m_model;
-    QSortFilterProxyModel m_proxy;
+    QSSortProxy m_proxy;
     /// The row that ran last, in the completer's completion model: Return runs it again until the
     /// text is edited.
     QModelIndex m_last_activated;
