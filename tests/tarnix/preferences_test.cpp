@@ -1,5 +1,6 @@
 #include "../support/test_main.h"
 
+#include "app/file_actions.h"
 #include "app/transform_dialog.h"
 #include "host_fixture.h"
 #include "model/primitives.h"
@@ -20,10 +21,13 @@
 #include <QCryptographicHash>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
+#include <QFile>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -105,6 +109,10 @@ private Q_SLOTS:
     void materialsComeAndGo();
     void anInvertedRowIsShownInverted();
     void theUnitGoesIntoTheFields();
+    void thePageComesBackAsItWas();
+    void partsFromFilesStayWhereTheyAreIfWanted();
+    void unsavedPartsMayBeLostWithoutAQuestion();
+    void oldFilesAreTakenOverOnThePage();
 
     void theDialogOfMovesLoadsAndCommits();
     void theDialogOfMovesRefusesWhatLeavesTheVolume();
@@ -518,6 +526,73 @@ void PreferencesPageTest::theUnitGoesIntoTheFields()
     g_pref_suffix_in_editor.SetData(false);
     Apply();
     QVERIFY(!editor->text().contains("mm"));
+}
+
+void PreferencesPageTest::thePageComesBackAsItWas()
+{
+    PreferencesPage* const page = OpenPage(4);
+    page->findChild<QLineEdit*>("optionsSearch")->setText("grid colour");
+    for (const bool damaged : {false, true}) {
+        if (damaged)
+            S().options_state.SetData("no state");
+        QScopedPointer<QWidget> parent(new QWidget);
+        auto* const next = new PreferencesPage(m_host->GetHost(), parent.data());
+        QCOMPARE(next->RowCount(), 0);
+        parent->show();
+        QCOMPARE(next->findChild<QLineEdit*>("optionsSearch")->text(), QString(damaged ? "" : "grid colour"));
+        next->findChild<QLineEdit*>("optionsSearch")->clear();
+        QCOMPARE(next->findChild<QListWidget*>("optionsPages")->currentRow(), damaged ? 0 : 4);
+    }
+}
+
+void PreferencesPageTest::partsFromFilesStayWhereTheyAreIfWanted()
+{
+    Scene& scene = m_host->GetWorkspace().GetScene();
+    QTemporaryDir folder;
+    const QString path = folder.filePath("far.stl");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("solid far\nfacet normal 0 0 1\nouter loop\nvertex 60 60 1\nvertex 70 60 1\nvertex 60 70 2\n"
+               "endloop\nendfacet\nendsolid far\n");
+    file.close();
+    scene.Reset({});
+    QVERIFY(ImportFiles(m_host->GetHost(), {path}));
+    QVERIFY(scene.Parts()[0].Bounds().low.x < 10.0);
+    scene.Reset({});
+    S().place_at_import.SetData(false);
+    QVERIFY(ImportFiles(m_host->GetHost(), {path}));
+    QCOMPARE(scene.Parts()[0].Bounds().low.x, 60.0);
+    QCOMPARE(scene.Parts()[0].Bounds().low.z, 1.0);
+}
+
+void PreferencesPageTest::unsavedPartsMayBeLostWithoutAQuestion()
+{
+    m_host->PrepareScene();
+    QVERIFY(m_host->GetWorkspace().GetScene().IsModified());
+    bool ran = false;
+    UnlessUnsaved(m_host->GetHost(), "yes", [&] { ran = true; });
+    QVERIFY(!ran);
+    S().dont_ask_unsaved.SetData(true);
+    UnlessUnsaved(m_host->GetHost(), "yes", [&] { ran = true; });
+    QVERIFY(ran);
+}
+
+void PreferencesPageTest::oldFilesAreTakenOverOnThePage()
+{
+    PreferencesPage* const page = OpenPage(0);
+    QTemporaryDir folder;
+    const QString path = folder.filePath("old.xml");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<preferences><rotate_part><rotate_step_size>12.5</rotate_step_size></rotate_part></preferences>");
+    file.close();
+    page->findChild<QPushButton*>("importOptions")->click();
+    auto* const dialog = page->findChild<QFileDialog*>();
+    QVERIFY(dialog);
+    Q_EMIT dialog->fileSelected(path);
+    dialog->reject();
+    QTRY_COMPARE(m_host->GetWorkspace().turn_step, 12.5);
+    QTRY_COMPARE(EditorOf<QDoubleSpinBox>(page, "Step of turning")->value(), 12.5);
 }
 
 void PreferencesPageTest::theDialogOfMovesLoadsAndCommits()

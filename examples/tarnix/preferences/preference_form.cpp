@@ -153,10 +153,12 @@ void PreferenceForm::AddAction(const Title& title, const QString& button, const 
     AddRow(title, new ActionDelegate(run), [button] { return button; }, [](const QVariant&) {});
 }
 
-void PreferenceForm::Finish()
+void PreferenceForm::Finish(int page)
 {
-    m_tree.expandAll();
+    // Rows that are not seen need no editors yet.
+    ShowPage(page);
     m_tree.CreateEditors();
+    Update();
 }
 
 QStringList PreferenceForm::Pages() const

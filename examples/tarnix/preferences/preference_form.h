@@ -57,8 +57,9 @@ public:
                 ovk::PreferenceBasics* preference = nullptr);
     void AddAction(const Title& title, const QString& button, const std::function<void()>& run);
 
-    /// Opens the editors of all rows; called once after the last row.
-    void Finish();
+    /// Shows a page and opens the editors of its rows; called once after the last row. Those of other
+    /// rows follow when they come into view.
+    void Finish(int page);
 
     QStringList Pages() const;
     void ShowPage(int page);

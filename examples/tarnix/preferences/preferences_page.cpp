@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDataStream>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -93,7 +94,10 @@ PreferencesPage::PreferencesPage(Host& host, QWidget* parent)
     m_apply.setInterval(0);
     m_rebuild.setSingleShot(true);
     m_rebuild.setInterval(0);
-    connect(&m_rebuild, &QTimer::timeout, this, &PreferencesPage::Build);
+    connect(&m_rebuild, &QTimer::timeout, this, [this] {
+        if (mp_form)
+            Build();
+    });
     connect(&m_apply, &QTimer::timeout, this, [this] {
         const bool inches = m_host.workspace.Format().Unit() == LengthUnit::Inch;
         m_host.ApplySettings();
@@ -135,7 +139,8 @@ PreferencesPage::PreferencesPage(Host& host, QWidget* parent)
         mp_restore_page->setText(Texts::tr("Restore What Is Shown"));
         mp_restore_all->setText(Texts::tr("Restore All"));
         mp_import->setText(Texts::tr("Take Over From a File..."));
-        Build();
+        if (mp_form)
+            Build();
     });
 }
 
@@ -147,7 +152,7 @@ PreferencesPage::~PreferencesPage()
 
 int PreferencesPage::RowCount() const
 {
-    return mp_form->RowCount();
+    return mp_form ? mp_form->RowCount() : 0;
 }
 
 void PreferencesPage::Build()
@@ -167,14 +172,14 @@ void PreferencesPage::Build()
     mp_tree->header()->resizeSection(0, k_titles_width);
     mp_form = std::make_unique<PreferenceForm>(*mp_tree, [this] { Changed(); });
     FillPreferenceForm(*mp_form, m_host, [this] { m_rebuild.start(); });
-    mp_form->Finish();
     mp_body->insertWidget(1, mp_tree, 10);
     const QSignalBlocker blocker(mp_pages);
     mp_pages->clear();
     mp_pages->addItems(mp_form->Pages());
     for (int i = 0; i < mp_pages->count(); ++i)
         mp_pages->item(i)->setSizeHint({k_pages_width, mp_pages->fontMetrics().height() + 14});
-    m_page = std::min(m_page, mp_pages->count() - 1);
+    m_page = std::clamp(m_page, 0, mp_pages->count() - 1);
+    mp_form->Finish(m_page);
     UpdateUnit();
     ShowRows();
     if (focused)
@@ -185,6 +190,12 @@ void PreferencesPage::Refresh()
 {
     // Commands change the view without asking the preferences.
     m_host.StoreSettings();
+    if (!mp_form) {
+        // A start of the program does not wait for a hundred editors.
+        RestoreState();
+        Build();
+        return;
+    }
     mp_form->Update();
     UpdateUnit();
 }
@@ -194,8 +205,34 @@ void PreferencesPage::Changed()
     m_apply.start();
 }
 
+void PreferencesPage::StoreState()
+{
+    QByteArray state;
+    QDataStream stream(&state, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_5_15);
+    stream << qint32(m_page) << mp_search->text();
+    if (state != m_host.settings.options_state.GetData())
+        m_host.settings.options_state.SetData(state);
+}
+
+void PreferencesPage::RestoreState()
+{
+    QDataStream stream(m_host.settings.options_state);
+    stream.setVersion(QDataStream::Qt_5_15);
+    qint32 page = 0;
+    QString search;
+    stream >> page >> search;
+    if (stream.status() != QDataStream::Ok)
+        return;
+    m_page = page;
+    const QSignalBlocker blocker(mp_search);
+    mp_search->setText(search);
+}
+
 void PreferencesPage::ShowRows()
 {
+    if (!mp_form)
+        return;
     const QString text = mp_search->text().simplified();
     bool found = true;
     const QSignalBlocker blocker(mp_pages);
@@ -210,12 +247,14 @@ void PreferencesPage::ShowRows()
     mp_tree->setVisible(found);
     mp_nothing->setVisible(!found);
     mp_restore_page->setEnabled(found);
+    StoreState();
 }
 
 void PreferencesPage::UpdateUnit()
 {
     mp_unit->setCurrentIndex(m_host.settings.inches ? 1 : 0);
-    mp_form->Update();
+    if (mp_form)
+        mp_form->Update();
 }
 
 void PreferencesPage::AskImport()

@@ -40,6 +40,9 @@ private:
     void Build();
     void Changed();
     void ShowRows();
+    /// The page and the search that are seen come back with the next start.
+    void StoreState();
+    void RestoreState();
     void AskImport();
     void Import(const QString& path);
     void UpdateUnit();
