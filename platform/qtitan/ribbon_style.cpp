@@ -59,7 +59,7 @@ constexpr Metric Metrics[] = {
     {QStyle::PM_TabBarBaseOverlap, 1},
     {QStyle::PM_TabBarTabHSpace, 20},
     {QStyle::PM_TabBarTabVSpace, 9},
-    {QStyle::PM_ToolTipLabelFrameWidth, 2},
+    {QStyle::PM_ToolTipLabelFrameWidth, 4},
     {QStyle::PM_SliderThickness, 19},
     {QStyle::PM_SliderControlThickness, 17},
     {QStyle::PM_SliderLength, 11},
@@ -230,6 +230,12 @@ QRect RibbonStyle::subControlRect(ComplexControl control, const QStyleOptionComp
             return style_draw::SpinButtonRect(
                 *spin, sub_control, OfficeStyle::subControlRect(control, option, sub_control, widget));
     }
+    if (control == CC_ComboBox && sub_control == SC_ComboBoxListBoxPopup) {
+        // Asked once, when the list opens: the box counts the height of rows after that, before the
+        // list is polished.
+        if (const auto* combo = qobject_cast<const QComboBox*>(widget))
+            style_draw::UseComboDelegate(*combo->view());
+    }
     if (control == CC_ComboBox && sub_control == SC_ComboBoxEditField) {
         // The text stands still while the list is open.
         if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
@@ -320,6 +326,7 @@ void RibbonStyle::polish(QWidget* widget)
         ColorDockTitle(*widget, ribbonTheme());
     if (auto* area = qobject_cast<QMdiArea*>(widget))
         ColorMdiArea(*area, ribbonTheme());
+    style_draw::UseComboDelegate(*widget);
     if (IsFollowed(widget))
         widget->installEventFilter(this);
 }

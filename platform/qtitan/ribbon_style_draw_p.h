@@ -55,6 +55,9 @@ QSize ToolButtonSize(const QStyleOptionToolButton& tool, const QSize& size, cons
 /// The size of a menu's item for its text's size.
 QSize MenuItemSize(const QStyleOptionMenuItem& item, const QSize& contents, const QWidget* widget);
 
+/// Gives the list of a combo box rows that the style draws, unless the host gave it a delegate.
+void UseComboDelegate(QWidget& widget);
+
 /// A button of a spin box from the place that the base gives it: up to the frame and to the other.
 QRect SpinButtonRect(const QStyleOptionSpinBox& spin, QStyle::SubControl control, const QRect& base);
 

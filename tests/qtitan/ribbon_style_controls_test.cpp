@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStyleOption>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 #include <QToolBox>
 #include <QToolButton>
@@ -81,6 +82,7 @@ private Q_SLOTS:
     void anAreaOfWindowsFollowsTheTheme();
     void windowsInsideHaveTheCaptionOfTheTheme();
     void theTextOfAComboBoxStandsStill();
+    void theListOfAComboBoxLooksLikeOtherLists();
     void buttonsOfASpinBoxFillItsEnd_data();
     void buttonsOfASpinBoxFillItsEnd();
     void aSortArrowStaysOffTheTitle();
@@ -430,6 +432,44 @@ void RibbonStyleControlsTest::theTextOfAComboBoxStandsStill()
     option.state |= QStyle::State_Sunken | QStyle::State_On;
     QCOMPARE(style->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField),
              still);
+}
+
+void RibbonStyleControlsTest::theListOfAComboBoxLooksLikeOtherLists()
+{
+    style_test::ApplicationStyle style;
+    style->setTheme(OfficeStyle::Office2013White);
+    QComboBox combo;
+    combo.setFont(style_test::TestFont());
+    combo.addItems({QStringLiteral("First"), QStringLiteral("Second")});
+    combo.insertSeparator(1);
+    combo.setCurrentIndex(2);
+    combo.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&combo));
+    combo.showPopup();
+    QAbstractItemView* view = combo.view();
+    QTRY_VERIFY(view->isVisible());
+    QListWidget list;
+    list.setFont(style_test::TestFont());
+    list.addItem(QStringLiteral("First"));
+    QCOMPARE(view->visualRect(combo.model()->index(0, 0)).height(), list.sizeHintForRow(0));
+    QVERIFY(view->visualRect(combo.model()->index(1, 0)).height() < 10);
+    // The first time too, all rows have their place.
+    QVERIFY(view->viewport()->rect().contains(view->visualRect(combo.model()->index(2, 0))));
+    const QRect current = view->visualRect(combo.model()->index(2, 0));
+    const QImage picture = view->viewport()->grab().toImage();
+    QCOMPARE(picture.pixelColor(current.right() - 3, current.center().y()),
+             style->ribbonTheme()[Element::ItemSelected].middle);
+    combo.hidePopup();
+
+    // A delegate of the host's stays.
+    QComboBox other;
+    auto* own = new QStyledItemDelegate(&other);
+    other.setItemDelegate(own);
+    other.addItem(QStringLiteral("First"));
+    other.show();
+    other.showPopup();
+    QCOMPARE(other.itemDelegate(), own);
+    other.hidePopup();
 }
 
 void RibbonStyleControlsTest::buttonsOfASpinBoxFillItsEnd_data()
