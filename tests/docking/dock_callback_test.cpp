@@ -77,6 +77,8 @@ class DockCallbackTest : public QObject
 private Q_SLOTS:
     void anythingMayBeDoneFromInside_data();
     void anythingMayBeDoneFromInside();
+    void layoutsMaySwitchWhileOneIsBuilt_data();
+    void layoutsMaySwitchWhileOneIsBuilt();
 };
 
 void DockCallbackTest::anythingMayBeDoneFromInside_data()
@@ -148,7 +150,8 @@ void DockCallbackTest::anythingMayBeDoneFromInside()
     DockFixture::Settle();
     if (panel() && panel()->_Impl()->title) {
         Q_EMIT panel()->_Impl()->title->customContextMenuRequested(QPoint(5, 5));
-        if (QMenu* const menu = panel()->findChild<QMenu*>()) {
+        QMenu* const menu = panel() ? panel()->findChild<QMenu*>() : nullptr;
+        if (menu) {
             const QPointer<QMenu> guard(menu);
             menu->actions().at(0)->trigger();
             if (guard)
@@ -177,6 +180,67 @@ void DockCallbackTest::anythingMayBeDoneFromInside()
     host.Load(Docking({{"left", {Panel("c", {"C"})}}}));
     QVERIFY(host.Find("c")->isVisible());
     QCOMPARE(host.Manager()._Impl()->CheckConsistency(), QString());
+}
+
+void DockCallbackTest::layoutsMaySwitchWhileOneIsBuilt_data()
+{
+    QTest::addColumn<QString>("when");
+    QTest::addColumn<QString>("deed");
+    for (const char* when : {"availability", "activated", "policy", "group"}) {
+        for (const char* deed : {"another", "none", "the same", "two", "reset"})
+            QTest::addRow("%s: %s", when, deed)
+                << QString::fromLatin1(when) << QString::fromLatin1(deed);
+    }
+}
+
+void DockCallbackTest::layoutsMaySwitchWhileOneIsBuilt()
+{
+    QFETCH(QString, when);
+    QFETCH(QString, deed);
+    DockHost host;
+    BusyFactory factory;
+    host.Load(Docking({{"left", {Panel("a", {"A1", "A2"}), Panel("b", {"B"})}}},
+                      {Panel("f", {"F"}, QRect(300, 200, 250, 180))}, 160));
+    host.host.Activate(QStringLiteral("Slice"));
+    DockFixture::Settle();
+    UiController& controller = host.host.Controller();
+    const auto layout = [&](const char* name) {
+        return controller.GetProfile()->GetLayout(QString::fromLatin1(name));
+    };
+    const QHash<QString, std::function<void()>> deeds{
+        {"another", [&] { controller.SetActiveLayout(layout("Slice")); }},
+        {"none", [&] { controller.SetActiveLayout(nullptr); }},
+        {"the same", [&] { controller.SetActiveLayout(layout("Model")); }},
+        {"two",
+         [&] {
+             controller.SetActiveLayout(nullptr);
+             controller.SetActiveLayout(layout("Slice"));
+         }},
+        {"reset", [&] { controller.ResetProfile(new UiProfile(*controller.GetProfile())); }},
+    };
+    int done = 0;
+    for (BusyPage* page : qAsConst(factory.pages)) {
+        page->when = when;
+        page->act = [&] {
+            if (done++ == 0)
+                deeds.value(deed)();
+        };
+    }
+    controller.SetActiveLayout(layout("Model"));
+    DockFixture::Settle();
+    QVERIFY2(done > 0, "nothing was done");
+    QCOMPARE(host.Manager()._Impl()->CheckConsistency(), QString());
+    QVERIFY(host.Manager().isVisible());
+    // What was asked for last is on the screen, and nothing else.
+    const QHash<QString, QString> active{
+        {"another", "Slice"}, {"none", {}}, {"the same", "Model"}, {"two", "Slice"},
+        {"reset", "Model"}};
+    const UiLayout* const now = controller.GetActiveLayout();
+    QCOMPARE(now ? now->GetName() : QString(), active.value(deed));
+    QCOMPARE(host.Manager().GetWidgetsList().size(), active.value(deed) == "Model" ? 3 : 0);
+    host.layout = host.host.Activate(QStringLiteral("Model"));
+    DockFixture::Settle();
+    QCOMPARE(host.Manager().GetWidgetsList().size(), 3);
 }
 
 OVK_TEST_CLASS(DockCallbackTest)
