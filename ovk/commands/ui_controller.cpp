@@ -8,7 +8,10 @@
 #include "ovk/ui_state/ui_profile.h"
 #include "ovk/ui_state/ui_profile_controller.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 namespace ovk {
@@ -59,6 +62,19 @@ public:
         _pr()._Notify();
     }
 
+    /// Puts another layout on the screen.
+    void Switch(UiLayout* layout)
+    {
+        const QScopedValueRollback<bool> guard(switching, true);
+        if (active) {
+            active->Store();
+            active->Deactivate(UiProfileItem::amOrdinary);
+        }
+        active = layout;
+        if (layout)
+            layout->Activate(UiProfileItem::amOrdinary);
+    }
+
     /// Runs one cycle. An object that leaves meanwhile leaves a gap, so that the walk goes on.
     void Update(const UpdatableContext* context)
     {
@@ -75,6 +91,10 @@ public:
     std::unique_ptr<UpdatableContext> context;
     int cycles = 0;
     bool gaps = false;
+    bool switching = false;
+    // What was asked for in the middle of a switch.
+    std::optional<UiLayout*> asked_layout;
+    std::optional<std::unique_ptr<UiProfile>> asked_profile;
 };
 
 UiController::UiController() : m_impl(std::make_unique<Impl>(*this))
@@ -95,16 +115,19 @@ UiController* UiController::GetInstance()
 void UiController::SetActiveLayout(UiLayout* layout)
 {
     Impl& impl = _pr();
-    if (layout != impl.active) {
-        if (impl.active) {
-            impl.active->Store();
-            impl.active->Deactivate(UiProfileItem::amOrdinary);
-        }
-        impl.active = layout;
-        if (layout)
-            layout->Activate(UiProfileItem::amOrdinary);
-        _Notify();
+    if (impl.switching) {
+        // What is being built must not be taken down under the hands that build it.
+        impl.asked_layout = layout;
+        return;
     }
+    while (layout != impl.active) {
+        impl.Switch(layout);
+        _Notify();
+        if (impl.asked_layout)
+            layout = *std::exchange(impl.asked_layout, std::nullopt);
+    }
+    if (impl.asked_profile)
+        ResetProfile(std::exchange(impl.asked_profile, std::nullopt)->release());
     ValidateActiveLayout();
 }
 
@@ -158,6 +181,11 @@ void UiController::SetProfile(UiProfile* profile)
 
 void UiController::ResetProfile(UiProfile* profile)
 {
+    if (_pr().switching) {
+        _pr().asked_layout.reset(); // of the profile that goes
+        _pr().asked_profile.emplace(profile);
+        return;
+    }
     UiProfile* const former = _pr().profile.get();
     SetProfile(profile);
     if (former != profile)

@@ -27,8 +27,8 @@ public:
     /// The one object; null before it is constructed.
     static UiController* GetInstance();
 
-    /// Puts a layout of the present profile on the screen, or none with null. The former one is
-    /// stored and taken down. Validates the active layout in every case.
+    /// Puts a layout of the present profile on the screen, or none with null; from inside a switch,
+    /// right after it. The former one is stored and taken down. Validates the active one always.
     void SetActiveLayout(UiLayout* layout);
     /// The layout on the screen; null if there is none.
     UiLayout* GetActiveLayout();
