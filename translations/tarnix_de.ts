@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
-    <name>Layouts</name>
-    <message>
-        <source>Prepare</source>
-        <translation>Vorbereiten</translation>
-    </message>
-    <message>
-        <source>Inspect</source>
-        <translation>Prüfen</translation>
-    </message>
-    <message>
-        <source>Slice</source>
-        <translation>Schichten</translation>
-    </message>
-</context>
-<context>
     <name>QObject</name>
     <message>
         <source>inch</source>
@@ -5531,7 +5516,7 @@
     </message>
     <message>
         <source>Steps that can be undone</source>
-        <translation>Schritte, die sich zurücknehmen lassen</translation>
+        <translation>Zurücknehmbare Schritte</translation>
     </message>
     <message>
         <source>Older steps are forgotten.</source>

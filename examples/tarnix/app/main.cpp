@@ -166,9 +166,12 @@ void SetUpControllers(const Options& options)
 /// Parts for a tour that was given none: the samples.
 void AddSamples(tarnix::Host& host)
 {
-    tarnix::AddSample(host, QStringLiteral("bracket.stl"), QStringLiteral("Bracket"));
-    tarnix::AddSample(host, QStringLiteral("gear.stl"), QStringLiteral("Gear wheel"));
-    tarnix::AddSample(host, QStringLiteral("vase.stl"), QStringLiteral("Vase"));
+    const auto title = [](const char* text) {
+        return QApplication::translate("tarnix::FileCommands", text);
+    };
+    tarnix::AddSample(host, QStringLiteral("bracket.stl"), title("Bracket"));
+    tarnix::AddSample(host, QStringLiteral("gear.stl"), title("Gear wheel"));
+    tarnix::AddSample(host, QStringLiteral("vase.stl"), title("Vase"));
 }
 
 int RunWindow(const Options& options, tarnix::Host& host, tarnix::PageFactory& pages)

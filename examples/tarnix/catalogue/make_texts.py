@@ -31,8 +31,7 @@ def entries():
             continue
         for key, comment in (("title", "title"), ("tooltip", "tooltip"), ("status", "statustip")):
             yield "commands." + command["id"], command[key], comment
-    for _, name in make_catalogue.LAYOUTS:
-        yield "Layouts", name, ""
+    # Not the layouts: the customise dialog finds a layout by the text that it shows.
     tables = make_catalogue.Tables()
     for composite in tables.composites:
         head, _ = make_catalogue.split_head(composite)
