@@ -2,6 +2,7 @@
 #include "tests/widgets/tree_edit_form.h"
 
 #include <QPainter>
+#include <QProxyStyle>
 #include <QStyledItemDelegate>
 
 using namespace ovk;
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void theCurrentTitleIsLit();
     void aDisabledTitleIsPale();
     void aRowIsHigherThanItsText();
+    void aTitleIsMeasuredAnewWhenItsLookChanges();
     void editorsLeaveAMargin();
 };
 
@@ -148,6 +150,49 @@ void TreeEditPaintTest::aRowIsHigherThanItsText()
     const QStyledItemDelegate plain;
     QCOMPARE(form.itemDelegate()->sizeHint(option, form.Cell(0, 0)),
              plain.sizeHint(option, form.Cell(0, 0)) + QSize(0, 4));
+}
+
+void TreeEditPaintTest::aTitleIsMeasuredAnewWhenItsLookChanges()
+{
+    Form form;
+    TreeEditItem* const item = form.AddItem("Row", TreeItemDelegateWrapper());
+    const auto size = [&form] {
+        return form.itemDelegate()->sizeHint(form.viewOptions(), form.Cell(0, 0));
+    };
+    const QStyledItemDelegate plain;
+    const auto expected = [&] {
+        return plain.sizeHint(form.viewOptions(), form.Cell(0, 0)) + QSize(0, 4);
+    };
+    const QSize before = size();
+    item->SetTitle("A row with a longer title");
+    QCOMPARE(size(), expected());
+    QVERIFY(size().width() > before.width());
+    QFont font = form.font();
+    font.setPointSizeF(font.pointSizeF() * 2);
+    form.setFont(font);
+    QCOMPARE(size(), expected());
+    item->SetTitle("Row");
+    QCOMPARE(size(), expected());
+    QVERIFY(size().height() > before.height());
+    // A style of its own, with other margins.
+    class Wide : public QProxyStyle
+    {
+        int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                        const QWidget* widget) const override
+        {
+            return QProxyStyle::pixelMetric(metric, option, widget) +
+                   (metric == PM_FocusFrameHMargin ? 20 : 0);
+        }
+    };
+    const QSize narrow = size();
+    Wide style;
+    form.setStyle(&style);
+    QCOMPARE(size(), expected());
+    QVERIFY(size().width() > narrow.width());
+    form.setStyle(nullptr);
+    QCOMPARE(size(), narrow);
+    form.setWordWrap(true);
+    QCOMPARE(size(), expected());
 }
 
 void TreeEditPaintTest::editorsLeaveAMargin()

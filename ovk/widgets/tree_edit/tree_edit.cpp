@@ -17,9 +17,11 @@ constexpr int g_value_column = 1;
 
 } // namespace
 
-TreeEdit::TreeEdit(QWidget* parent) : QTreeView(parent), mp_model(new SettingsItemsModel(this))
+TreeEdit::TreeEdit(QWidget* parent)
+    : QTreeView(parent), mp_model(new SettingsItemsModel(this)),
+      mp_delegate(new TreeItemDelegate(this))
 {
-    setItemDelegate(new TreeItemDelegate(this));
+    setItemDelegate(mp_delegate);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setSelectionBehavior(QAbstractItemView::SelectItems);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -156,6 +158,21 @@ void TreeEdit::_OnCurrentChanged(const QModelIndex& current, const QModelIndex&)
         return;
     selectionModel()->select(current.sibling(current.row(), 0),
                              QItemSelectionModel::Select | QItemSelectionModel::Current);
+}
+
+void TreeEdit::changeEvent(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::StyleChange:
+    case QEvent::FontChange:
+    case QEvent::LanguageChange:
+    case QEvent::LocaleChange:
+        mp_delegate->_ForgetSizes();
+        break;
+    default:
+        break;
+    }
+    QTreeView::changeEvent(event);
 }
 
 bool TreeEdit::event(QEvent* event)

@@ -10,6 +10,7 @@ class SettingsItemsModel;
 class TreeEditItem;
 class TreeEditItemBase;
 class TreeEditSectionItem;
+class TreeItemDelegate;
 class TreeItemDelegateWrapper;
 
 /// A property editor: titles on the left, one editor each on the right, sections as bands between
@@ -40,6 +41,7 @@ public:
 protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void rowsInserted(const QModelIndex& parent, int start, int end) override;
     void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
     /// The band of a section begins at the edge of the view.
@@ -53,6 +55,7 @@ private:
     void _HandFocusOn(bool next);
 
     SettingsItemsModel* mp_model;
+    TreeItemDelegate* mp_delegate;
     bool m_editors_created = false;
 };
 

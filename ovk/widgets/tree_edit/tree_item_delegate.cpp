@@ -14,6 +14,8 @@ constexpr int g_cell_margin = 1;
 /// The margins of a cell above and below its editor, and as much again as air.
 constexpr int g_additional_height = 4;
 constexpr int g_current_lightness = 150;
+/// A form whose titles change all the time keeps no more of them than this.
+constexpr int g_most_sizes = 10000;
 
 QRect WithoutMargin(const QRect& rect)
 {
@@ -74,7 +76,26 @@ void TreeItemDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionV
 
 QSize TreeItemDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, g_additional_height);
+    const auto measured = [&] {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, g_additional_height);
+    };
+    // Wrapped texts have the size that their column allows, and values change all the time.
+    if (index.column() == g_value_column ||
+        option.features.testFlag(QStyleOptionViewItem::WrapText))
+        return measured();
+    if (m_sizes_font != option.font || m_sizes.size() > g_most_sizes) {
+        m_sizes.clear();
+        m_sizes_font = option.font;
+    }
+    QSize& size = m_sizes[index.data().toString()];
+    if (!size.isValid())
+        size = measured();
+    return size;
+}
+
+void TreeItemDelegate::_ForgetSizes()
+{
+    m_sizes.clear();
 }
 
 bool TreeItemDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,

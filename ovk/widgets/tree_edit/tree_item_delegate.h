@@ -2,6 +2,10 @@
 
 #include <ovk/core/export.h>
 
+#include <QFont>
+#include <QHash>
+#include <QSize>
+#include <QString>
 #include <QStyledItemDelegate>
 
 namespace ovk {
@@ -33,7 +37,16 @@ protected:
                      const QModelIndex& index) override;
 
 private:
+    friend class TreeEdit;
+
     bool _IsCurrentTitle(const QModelIndex& index) const;
+    /// Measures anew from now on: the look of the view changed.
+    void _ForgetSizes();
+
+    /// The size hints of titles in m_sizes_font. Views measure all rows several times over while
+    /// they come up.
+    mutable QHash<QString, QSize> m_sizes;
+    mutable QFont m_sizes_font;
 };
 
 } // namespace ovk
