@@ -268,9 +268,47 @@ void installRibbonAccessibility()
     installed = true;
 }
 
+namespace {
+
+RibbonAnnouncer g_announcer = &QAccessible::updateAccessibility;
+
+} // namespace
+
+void setRibbonAnnouncer(RibbonAnnouncer announcer)
+{
+    g_announcer = announcer ? announcer : &QAccessible::updateAccessibility;
+}
+
+void tellCurrentTab(RibbonTabBar* tabs)
+{
+    const int index = tabs->currentIndex();
+    if (index < 0)
+        return;
+    QAccessibleEvent selection(tabs, QAccessible::Selection);
+    selection.setChild(index);
+    g_announcer(&selection);
+    if (!tabs->hasFocus())
+        return;
+    QAccessibleEvent focus(tabs, QAccessible::Focus);
+    focus.setChild(index);
+    g_announcer(&focus);
+}
+
+void tellExpanded(QWidget* widget)
+{
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent event(widget, changed);
+    g_announcer(&event);
+}
+
 #else
 
 void installRibbonAccessibility() {}
+void setRibbonAnnouncer(RibbonAnnouncer) {}
+void tellCurrentTab(RibbonTabBar*) {}
+void tellExpanded(QWidget*) {}
 
 #endif
 

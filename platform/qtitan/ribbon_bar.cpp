@@ -212,6 +212,8 @@ void RibbonBar::setMinimized(bool minimized)
     d->minimized = minimized;
     d->area->setVisible(!minimized);
     d->heightChanged();
+    tellExpanded(this);
+    tellExpanded(d->tabBar);
     Q_EMIT minimizationChanged(minimized);
 }
 

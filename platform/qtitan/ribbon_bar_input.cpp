@@ -1,3 +1,4 @@
+#include "ribbon_accessible_p.h"
 #include "ribbon_backstage.h"
 #include "ribbon_bar_p.h"
 #include "ribbon_key_tips_p.h"
@@ -109,6 +110,7 @@ void RibbonBarPrivate::beginPeek()
     area->show();
     area->raise();
     qApp->installEventFilter(q);
+    tellExpanded(tabBar);
     tabBar->update();
     updateArea();
 }
@@ -129,6 +131,7 @@ void RibbonBarPrivate::endPeek()
     area->setVisible(!minimized);
     if (had_focus && focusBefore)
         focusBefore->setFocus(Qt::OtherFocusReason);
+    tellExpanded(tabBar);
     tabBar->update();
     updateArea();
 }

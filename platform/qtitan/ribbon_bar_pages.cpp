@@ -1,4 +1,6 @@
 #include "ribbon_bar.h"
+
+#include "ribbon_accessible_p.h"
 #include "ribbon_bar_p.h"
 #include "ribbon_key_tips_p.h"
 #include "ribbon_keyboard_p.h"
@@ -222,6 +224,7 @@ void RibbonBarPrivate::makeCurrent(RibbonPage* page)
     tabBar->showCurrent();
     tabBar->update();
     updateArea();
+    tellCurrentTab(tabBar);
     Q_EMIT q->currentPageChanged(page);
 }
 

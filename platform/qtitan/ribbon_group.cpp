@@ -1,5 +1,6 @@
 #include "ribbon_group.h"
 
+#include "ribbon_accessible_p.h"
 #include "ribbon_bar_p.h"
 #include "ribbon_gallery.h"
 #include "ribbon_group_p.h"
@@ -199,6 +200,7 @@ void RibbonGroup::showPopup()
     if (!d->popup)
         d->popup = new RibbonGroupPopup(this, d->panel);
     d->popup->openAt(QRect(mapToGlobal(QPoint(0, 0)), size()));
+    tellExpanded(this);
     update();
 }
 
@@ -454,6 +456,7 @@ void RibbonGroupPrivate::popupHidden()
         panel->setGeometry(q->rect());
         panel->setVisible(!collapsed);
     }
+    tellExpanded(q);
     q->update();
 }
 

@@ -1,5 +1,6 @@
 #include "ribbon_tab_bar_p.h"
 
+#include "ribbon_accessible_p.h"
 #include "ribbon_bar_p.h"
 #include "ribbon_keyboard_p.h"
 #include "ribbon_metrics_p.h"
@@ -317,6 +318,7 @@ void RibbonTabBar::changeEvent(QEvent* event)
 
 void RibbonTabBar::focusInEvent(QFocusEvent*)
 {
+    tellCurrentTab(this);
     update();
 }
 

@@ -1,3 +1,4 @@
+#include "platform/qtitan/ribbon_accessible_p.h"
 #include "platform/qtitan/ribbon_group_panel_p.h"
 #include "tests/qtitan/ribbon_test_window.h"
 
@@ -17,6 +18,40 @@ QString Name(QObject* object)
 {
     return Interface(object)->text(QAccessible::Name);
 }
+
+/// What assistive programs are told.
+class EventLog
+{
+public:
+    EventLog()
+    {
+        Events().clear();
+        setRibbonAnnouncer([](QAccessibleEvent* event) {
+            Events().append({event->object(), event->type(), event->child()});
+        });
+    }
+    ~EventLog() { setRibbonAnnouncer(nullptr); }
+    bool Has(const QObject* object, QAccessible::Event type, int child) const
+    {
+        for (const Entry& entry : Events())
+            if (entry.object == object && entry.type == type && entry.child == child)
+                return true;
+        return false;
+    }
+
+private:
+    struct Entry
+    {
+        const QObject* object;
+        QAccessible::Event type;
+        int child;
+    };
+    static QList<Entry>& Events()
+    {
+        static QList<Entry> events;
+        return events;
+    }
+};
 
 } // namespace
 
@@ -100,6 +135,26 @@ private Q_SLOTS:
         action.setToolTip(QStringLiteral("Rotates the part"));
         w.Group()->addAction(&action, Qt::ToolButtonIconOnly);
         QCOMPARE(Name(w.Group()->buttonForAction(&action)), QStringLiteral("Rotates the part"));
+    }
+
+    void assistiveProgramsHearOfTabsAndOfWhatOpens()
+    {
+        Window w(3, 5, QSize(300, 400));
+        const EventLog log;
+        w.bar->setCurrentPage(2);
+        QVERIFY(log.Has(w.TabBar(), QAccessible::Selection, 2));
+        QVERIFY(!log.Has(w.TabBar(), QAccessible::Focus, 2));
+        w.window.activateWindow();
+        w.TabBar()->setFocus();
+        QVERIFY(log.Has(w.TabBar(), QAccessible::Focus, 2));
+        QTest::keyClick(w.TabBar(), Qt::Key_Left);
+        QVERIFY(log.Has(w.TabBar(), QAccessible::Focus, 1));
+        w.Group(4)->showPopup();
+        QVERIFY(log.Has(w.Group(4), QAccessible::StateChanged, -1));
+        w.Group(4)->hidePopup();
+        w.bar->setMinimized(true);
+        QVERIFY(log.Has(w.bar, QAccessible::StateChanged, -1));
+        QVERIFY(log.Has(w.TabBar(), QAccessible::StateChanged, -1));
     }
 
     void aPageIsNamedByItsTitle()
