@@ -231,8 +231,8 @@ void DockToolboxSite::Impl::ResizeBy(int delta)
         return;
     const bool vertical = site->IsVertical();
 
-    // A central widget that asks for more than there is, or than it has, would hold the handle fast,
-    // or even pull it back.
+    // A central widget that asks for more than there is, or than it has, would hold the handle
+    // fast, or even pull it back.
     const QSize room = GetArea()->size();
     const QSize hint = central->sizeHint();
     const QSize least = central->minimumSizeHint();

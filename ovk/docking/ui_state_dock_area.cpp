@@ -19,12 +19,18 @@ const QLatin1String c_toolbox_id("toolboxes.site");
 const QLatin1String c_key_size("size");
 const QLatin1String c_key_minimized("minimized");
 
-/// A site that is larger than any screen would make its window so, which could never be shown.
-int FitToScreen(int cross_size, bool vertical)
+/// Sites that are larger than any screen, by a file of another one, would make the window so, and
+/// it could never be shown whole.
+void FitToScreen(DockArea& area, DockLayout::Side first, DockLayout::Side second, int screen)
 {
-    const QSize room = QGuiApplication::primaryScreen()->availableVirtualSize();
-    const int most = vertical ? room.width() : room.height();
-    return cross_size <= most ? cross_size : most / 2;
+    DockToolboxSite* const one = area.GetLayout()->GetSite(first)->GetToolboxSite();
+    DockToolboxSite* const other = area.GetLayout()->GetSite(second)->GetToolboxSite();
+    const qint64 both = qint64(one->GetCrossSize()) + other->GetCrossSize();
+    if (both <= screen)
+        return;
+    const qint64 room = qint64(screen) * 3 / 4; // the rest is for the middle
+    one->SetCrossSize(static_cast<int>(one->GetCrossSize() * room / both));
+    other->SetCrossSize(static_cast<int>(other->GetCrossSize() * room / both));
 }
 
 } // namespace
@@ -113,7 +119,7 @@ void UiStateDockToolboxSite::_Activate(ActivationMode mode)
         return;
     // No layout in between: there would be one for every panel.
     site->setEnabled(false);
-    site->SetCrossSize(FitToScreen(m_cross_size, site->IsVertical()));
+    site->SetCrossSize(m_cross_size);
     site->SetMinimized(m_minimized);
     bool before_spacer = true;
     for (UiStateDockWidget* child : _GetChildren()) {
@@ -206,6 +212,13 @@ void UiStateDockArea::_Activate(ActivationMode mode)
         }
     }
     TUiState::_Activate(mode);
+    if (mode != amOrdinary || !mp_area)
+        return;
+    // A window that is larger than its screen has that room too.
+    const QSize screen = QGuiApplication::primaryScreen()->availableVirtualSize();
+    const QSize room = screen.expandedTo(mp_area->window()->size());
+    FitToScreen(*mp_area, DockLayout::Left, DockLayout::Right, room.width());
+    FitToScreen(*mp_area, DockLayout::Top, DockLayout::Bottom, room.height());
 }
 
 } // namespace ovk

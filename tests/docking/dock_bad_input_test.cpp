@@ -88,6 +88,7 @@ private Q_SLOTS:
     void aSideThatIsThereTwiceTakesBoth();
     void sizesOfNoSenseDoNoHarm_data();
     void sizesOfNoSenseDoNoHarm();
+    void sidesOfALargerScreenLeaveRoomForEachOther();
     void placesOfNoSenseDoNoHarm_data();
     void placesOfNoSenseDoNoHarm();
     void pagesThatNobodyMakesLeaveTheRest();
@@ -182,6 +183,27 @@ void DockBadInputTest::sizesOfNoSenseDoNoHarm()
     }
     QVERIFY(host.Find("a")->isVisible());
     QVERIFY(host.Find("b")->isVisible());
+}
+
+void DockBadInputTest::sidesOfALargerScreenLeaveRoomForEachOther()
+{
+    DockHost host;
+    host.host.window->resize(700, 600);
+    DockFixture::Settle();
+    const QMap<QString, QJsonArray> docked{{"left", {Panel("a", {"A"})}},
+                                           {"right", {Panel("b", {"B"})}},
+                                           {"top", {Panel("c", {"C"})}}};
+    const QSize screen = QGuiApplication::primaryScreen()->availableVirtualSize();
+    host.Load(Docking(docked, {}, screen.width() * 3 / 4));
+    // Neither is lost, and the window can still be as small as the screen.
+    QCOMPARE(host.Site(DockLayout::Left).GetCrossSize(), screen.width() * 3 / 8);
+    QCOMPARE(host.Site(DockLayout::Right).GetCrossSize(), screen.width() * 3 / 8);
+    QVERIFY(host.Manager().GetLayout()->minimumSize().width() <= screen.width());
+    for (const char* name : {"a", "b", "c"})
+        QVERIFY(host.Find(name)->isVisible());
+    // What fits is as it was stored.
+    host.Load(Docking(docked, {}, screen.width() / 2));
+    QCOMPARE(host.Site(DockLayout::Left).GetCrossSize(), screen.width() / 2);
 }
 
 void DockBadInputTest::placesOfNoSenseDoNoHarm_data()

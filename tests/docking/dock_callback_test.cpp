@@ -232,9 +232,11 @@ void DockCallbackTest::layoutsMaySwitchWhileOneIsBuilt()
     QCOMPARE(host.Manager()._Impl()->CheckConsistency(), QString());
     QVERIFY(host.Manager().isVisible());
     // What was asked for last is on the screen, and nothing else.
-    const QHash<QString, QString> active{
-        {"another", "Slice"}, {"none", {}}, {"the same", "Model"}, {"two", "Slice"},
-        {"reset", "Model"}};
+    const QHash<QString, QString> active{{"another", "Slice"},
+                                         {"none", {}},
+                                         {"the same", "Model"},
+                                         {"two", "Slice"},
+                                         {"reset", "Model"}};
     const UiLayout* const now = controller.GetActiveLayout();
     QCOMPARE(now ? now->GetName() : QString(), active.value(deed));
     QCOMPARE(host.Manager().GetWidgetsList().size(), active.value(deed) == "Model" ? 3 : 0);

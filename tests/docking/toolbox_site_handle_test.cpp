@@ -195,7 +195,8 @@ void ToolboxSiteHandleTest::theHandlesOfAHostsWindowGoBothWays()
         return site.IsVertical() ? site.geometry().width() : site.geometry().height();
     };
     const auto drag = [&site](int growth) {
-        const bool far = site.GetSide() == DockLayout::Right || site.GetSide() == DockLayout::Bottom;
+        const bool far =
+            site.GetSide() == DockLayout::Right || site.GetSide() == DockLayout::Bottom;
         const int delta = far ? -growth : growth;
         DockToolboxSiteHandle* const handle = site.GetDockSite()->_pp()->handle;
         const QPoint press(2, 2);

@@ -30,6 +30,8 @@ private Q_SLOTS:
     void panelsKnowWhetherTheyCouldOpen();
     void sizesAreComputedOnceAChange();
     void aPanelMovesWithinItsSite();
+    void aBoxThatWasJustInvalidatedRefusesNobody();
+    void aBoxThatWasNeverLaidOutKnowsItsRoom();
     void aResizeStepComputesNoSizes();
     void theFoldButtonIsOffWhereThereIsNoRoom();
     void aPlainPageNeedsTheRoomOfItsLayout();
@@ -315,6 +317,39 @@ void ToolboxSiteTest::aPanelMovesWithinItsSite()
     fixture.Right()->RemoveWidget(a);
     QCOMPARE(a->GetToolboxSite(), fixture.Left());
     QCOMPARE(fixture.Inconsistency(), QString());
+}
+
+void ToolboxSiteTest::aBoxThatWasJustInvalidatedRefusesNobody()
+{
+    DockFixture fixture;
+    QList<DockWidget*> panels;
+    for (int i = 0; i < 4; ++i) {
+        panels.append(fixture.Panel(QString::number(i), QSize(100, 90)));
+        panels.last()->SetCollapsible(i % 2);
+        panels.last()->SetFloated(QPoint(100, 100));
+    }
+    DockFixture::Settle();
+    // Each one invalidates the box for the next one.
+    for (DockWidget* panel : qAsConst(panels)) {
+        QVERIFY(fixture.Left()->AddWidget(panel));
+        QVERIFY(fixture.Left()->geometry().isNull());
+        QVERIFY(!panel->IsCollapsed());
+    }
+    DockFixture::Settle();
+    for (const DockWidget* panel : qAsConst(panels))
+        QVERIFY(panel->isVisible() && !panel->IsCollapsed());
+}
+
+void ToolboxSiteTest::aBoxThatWasNeverLaidOutKnowsItsRoom()
+{
+    DockFixture fixture(QSize(800, 300), false);
+    DockWidget* const fits = fixture.Panel("fits", QSize(100, 200));
+    DockWidget* const large = fixture.Panel("large", QSize(100, 301));
+    fits->SetCollapsible(false);
+    large->SetCollapsible(false);
+    QVERIFY(!fixture.Left()->AddWidget(large));
+    QVERIFY(fixture.Left()->AddWidget(fits));
+    QCOMPARE(DockFixture::Order(*fixture.Left()), (QStringList{"fits", "|"}));
 }
 
 void ToolboxSiteTest::aResizeStepComputesNoSizes()
