@@ -38,6 +38,7 @@ namespace {
 constexpr double g_goal = 1.5;
 constexpr int g_goal_rows = 1000;
 constexpr int g_sizes[] = {250, 1000, 4000};
+/// The kinds of editors in a mixed form; the first of them, a check box, is the cheapest.
 constexpr int g_kinds = 5;
 constexpr QSize g_view_size(400, 800);
 
@@ -62,9 +63,9 @@ private:
     QVariant m_value;
 };
 
-QVariant InitialValue(int row)
+QVariant InitialValue(int kind)
 {
-    switch (row % g_kinds) {
+    switch (kind) {
     case 0:
         return true;
     case 1:
@@ -92,9 +93,9 @@ EditDblSuffix* SpinBox(double max, int decimals, double value)
 }
 
 /// The editor that the property tree makes for a row, made by hand.
-QWidget* BareEditor(int row)
+QWidget* BareEditor(int kind)
 {
-    switch (row % g_kinds) {
+    switch (kind) {
     case 0: {
         auto* const box = new QCheckBox;
         box->setChecked(true);
@@ -121,9 +122,9 @@ QWidget* BareEditor(int row)
     }
 }
 
-TreeItemDelegateWrapper Delegate(int row)
+TreeItemDelegateWrapper Delegate(int kind)
 {
-    switch (row % g_kinds) {
+    switch (kind) {
     case 0:
         return CheckBoxDelegate::GetInstance();
     case 1:
@@ -153,13 +154,13 @@ void Show(QWidget& view)
 
 struct BareTree
 {
-    explicit BareTree(int rows) : model(rows, 2)
+    BareTree(int rows, int kinds) : model(rows, 2)
     {
         for (int row = 0; row < rows; ++row)
             model.setData(model.index(row, 0), QStringLiteral("Property %1").arg(row));
         view.setModel(&model);
         for (int row = 0; row < rows; ++row)
-            view.setIndexWidget(model.index(row, 1), BareEditor(row));
+            view.setIndexWidget(model.index(row, 1), BareEditor(row % kinds));
         Show(view);
     }
 
@@ -169,11 +170,12 @@ struct BareTree
 
 struct PropertyTree
 {
-    explicit PropertyTree(int rows)
+    PropertyTree(int rows, int kinds)
     {
         for (int row = 0; row < rows; ++row) {
-            items.push_back(view.AddItem(QStringLiteral("Property %1").arg(row), Delegate(row)));
-            values.push_back(std::make_unique<Value>(InitialValue(row)));
+            items.push_back(
+                view.AddItem(QStringLiteral("Property %1").arg(row), Delegate(row % kinds)));
+            values.push_back(std::make_unique<Value>(InitialValue(row % kinds)));
             items.back()->SetDataProvider(values.back().get());
         }
         view.CreateEditors();
@@ -248,25 +250,25 @@ template <class Measure> double Table(const char* what, Measure measure)
     return ratio_at_goal;
 }
 
-Pair BuildAndShow(int rows)
+Pair BuildAndShow(int rows, int kinds)
 {
     return Compare(
         rows > g_goal_rows ? 3 : 7,
-        [rows] {
+        [=] {
             std::unique_ptr<PropertyTree> tree;
-            return Milliseconds([&] { tree = std::make_unique<PropertyTree>(rows); });
+            return Milliseconds([&] { tree = std::make_unique<PropertyTree>(rows, kinds); });
         },
-        [rows] {
+        [=] {
             std::unique_ptr<BareTree> tree;
-            return Milliseconds([&] { tree = std::make_unique<BareTree>(rows); });
+            return Milliseconds([&] { tree = std::make_unique<BareTree>(rows, kinds); });
         });
 }
 
 /// A row is hidden and shown again, and the view brought up to date.
 Pair HideAndShow(int rows)
 {
-    PropertyTree ours(rows);
-    BareTree floor(rows);
+    PropertyTree ours(rows, g_kinds);
+    BareTree floor(rows, g_kinds);
     const int row = rows / 2;
     return Compare(
         9,
@@ -327,10 +329,16 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     std::printf("%-34s %6s %15s %15s %8s\n", "", "size", "ours", "floor", "ratio");
-    const double ratio = Table("build and show, rows", BuildAndShow);
+    // Code and fonts are loaded by whoever comes first.
+    PropertyTree(10, g_kinds);
+    BareTree(10, g_kinds);
+    const double mixed =
+        Table("build and show, mixed rows", [](int rows) { return BuildAndShow(rows, g_kinds); });
+    const double cheap =
+        Table("build and show, check boxes", [](int rows) { return BuildAndShow(rows, 1); });
     Table("hide and show a row, rows", HideAndShow);
     Table("repaint a legend, edge", RepaintLegend);
     std::printf("goal: at most %.1f at %d rows: %s\n", g_goal, g_goal_rows,
-                ratio <= g_goal ? "reached" : "missed");
+                std::max(mixed, cheap) <= g_goal ? "reached" : "missed");
     return 0;
 }
