@@ -19,6 +19,7 @@ private Q_SLOTS:
     void aPageThatTheHostDoesNotKnowIsSkipped();
     void aPanelWithoutAnAvailablePageComesLater();
     void titlesAreTranslated();
+    void titlesFollowTheLanguageUnlessSomebodyChangedThem();
     void pagesSurviveASwitchOfTheLayout();
     void anUnknownAreaIsSkippedWithAllItHolds();
 };
@@ -158,6 +159,34 @@ void DockStateLiveTest::titlesAreTranslated()
         QCOMPARE(host.State().GetTitle("page"), QStringLiteral("page"));
     }
     QCoreApplication::removeTranslator(&upper);
+}
+
+void DockStateLiveTest::titlesFollowTheLanguageUnlessSomebodyChangedThem()
+{
+    class Prefix : public QTranslator
+    {
+    public:
+        QString translate(const char* context, const char* text, const char*, int) const override
+        {
+            return QStringLiteral("%1:%2").arg(QLatin1String(context), QString::fromUtf8(text));
+        }
+        bool isEmpty() const override { return false; }
+    } prefix;
+    DockHost host;
+    host.Load(Docking({{"left", {Panel("a", {"A"}), Panel("b", {"B"})}}}));
+    host.Find("b")->SetForcedTitle(QStringLiteral("mine"));
+    host.Pages().keep.value("B")->setWindowTitle(QStringLiteral("document"));
+    QCoreApplication::installTranslator(&prefix);
+    host.host.Revalidate();
+    QCOMPARE(host.Find("a")->GetForcedTitle(), QStringLiteral("toolsheets:a"));
+    QCOMPARE(host.Pages().keep.value("A")->windowTitle(), QStringLiteral("toolpages:A"));
+    QCOMPARE(host.Find("b")->GetForcedTitle(), QStringLiteral("mine"));
+    QCOMPARE(host.Pages().keep.value("B")->windowTitle(), QStringLiteral("document"));
+    QCOMPARE(host.State().GetTitle("a"), QStringLiteral("a"));
+    QCoreApplication::removeTranslator(&prefix);
+    host.host.Revalidate();
+    QCOMPARE(host.Find("a")->GetForcedTitle(), QStringLiteral("a"));
+    QCOMPARE(host.Pages().keep.value("A")->windowTitle(), QStringLiteral("A"));
 }
 
 void DockStateLiveTest::pagesSurviveASwitchOfTheLayout()

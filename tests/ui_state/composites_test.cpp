@@ -10,7 +10,9 @@
 #include <ovk/ui_state/ui_state_ribbon.h>
 #include <ovk/ui_state/ui_state_toolbars.h>
 
+#include <QIcon>
 #include <QMenu>
+#include <QPixmap>
 
 using namespace ovk;
 using namespace ovk_test;
@@ -256,6 +258,45 @@ private Q_SLOTS:
         QVERIFY(mp_clip->_IsChangedByUser());
         QCOMPARE(mp_clip->GetTitle(), QStringLiteral("Mine"));
         QCOMPARE(mp_clip->GetCommand()->GetTitle(), QStringLiteral("Mine"));
+    }
+
+    void iconNameGetsItsPictureFromTheSourceOfTheHost()
+    {
+        QStringList asked;
+        QPixmap pixmap(16, 16);
+        pixmap.fill(Qt::red);
+        UiStateComposites::SetIconSource([&](const QString& name) {
+            asked << name;
+            return QIcon(pixmap);
+        });
+        auto* const composite = mp_suite->CreateMenu();
+        composite->SetIconName("picture");
+        mp_suite->InsertComposite(composite, -1);
+        composite->InsertItem(new UiStateCompositeItem(QStringLiteral("File.Save")), -1);
+        QVERIFY(asked.isEmpty()); // nobody shows it
+        composite->Activate(UiProfileItem::amOrdinary);
+        QCOMPARE(asked, QStringList("picture"));
+        QVERIFY(!composite->GetCommand()->GetIcon().isNull());
+        // Made anew with another item it looks as before.
+        composite->InsertItem(new UiStateCompositeItem(QStringLiteral("File.Open")), -1);
+        QVERIFY(!composite->GetCommand()->GetIcon().isNull());
+        composite->SetIconName("other");
+        QCOMPARE(asked.last(), QString("other"));
+        UiStateComposites::SetIconSource({});
+    }
+
+    void iconThatTheHostGaveOutlivesAChangeOfTheItems()
+    {
+        auto* const composite = mp_suite->CreateMenu();
+        mp_suite->InsertComposite(composite, -1);
+        composite->InsertItem(new UiStateCompositeItem(QStringLiteral("File.Save")), -1);
+        composite->Activate(UiProfileItem::amOrdinary);
+        QVERIFY(composite->GetCommand()->GetIcon().isNull());
+        QPixmap pixmap(16, 16);
+        pixmap.fill(Qt::red);
+        composite->GetCommand()->SetIcon(QIcon(pixmap));
+        composite->InsertItem(new UiStateCompositeItem(QStringLiteral("File.Open")), -1);
+        QVERIFY(!composite->GetCommand()->GetIcon().isNull());
     }
 
     void validationReportsACompositeOfAChangedCommand()
