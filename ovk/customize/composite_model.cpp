@@ -177,7 +177,7 @@ int CompositeModel::DeleteRow(const QModelIndex& parent, int row)
 void CompositeModel::InsertCompositeItems(const QModelIndex& index, const QList<IUiItem*>& commands,
                                           int row)
 {
-    QModelIndex target = index;
+    QModelIndex target = RowIndex(index);
     ITreeItem* item = GetItem(index);
     if (dynamic_cast<UiStateCompositeItem*>(item)) {
         row = index.row() + 1;
@@ -208,7 +208,7 @@ void CompositeModel::MoveItem(const QModelIndex& sourceParent, int sourceRow,
 {
     auto* source = dynamic_cast<UiStateComposite*>(GetItem(sourceParent));
     auto* target = dynamic_cast<UiStateComposite*>(GetItem(targetParent));
-    if (!source || !target || !_HasRow(sourceParent, sourceRow))
+    if (!source || !target || !_HasRow(RowIndex(sourceParent), sourceRow))
         return;
     const bool same = source == target;
     const int last = target->GetAvailableCount() - (same ? 1 : 0);
@@ -221,7 +221,7 @@ void CompositeModel::MoveItem(const QModelIndex& sourceParent, int sourceRow,
         return;
     // The row counts after the item was taken out, and the announcement before.
     const int announced = same && row > sourceRow ? row + 1 : row;
-    if (!beginMoveRows(sourceParent, sourceRow, sourceRow, targetParent, announced))
+    if (!beginMoveRows(RowIndex(sourceParent), sourceRow, sourceRow, RowIndex(targetParent), announced))
         return;
     target->InsertItem(source->RemoveItem(sourceRow), row);
     _EndMove();

@@ -155,7 +155,7 @@ void RibbonModel::AddGroup(const QModelIndex& page_index, int row)
         row = page->GetChildCount();
     auto group = std::make_unique<UiStateRibbonGroup>();
     group->SetTitle(tr("New group"));
-    beginInsertRows(page_index, row, row);
+    beginInsertRows(RowIndex(page_index), row, row);
     page->InsertGroup(group.release(), row);
     _EndInsert();
 }

@@ -48,7 +48,7 @@ bool SiteTreeModel::CanMove(const QModelIndex& index, const QModelIndexList& ind
 
 void SiteTreeModel::InsertCommands(const QModelIndex& index, const QList<IUiItem*>& commands, int row)
 {
-    QModelIndex target = index;
+    QModelIndex target = RowIndex(index);
     ITreeItem* item = GetItem(index);
     if (dynamic_cast<UiSpot*>(item)) {
         row = index.row() + 1;
@@ -90,7 +90,7 @@ void SiteTreeModel::InsertCompositeCommand(UiStateComposite& composite, const QM
 bool SiteTreeModel::_ReadDrag(const QModelIndex& parent, int row, DropRequest& request,
                               DragReading reading) const
 {
-    request.index = parent;
+    request.index = RowIndex(parent);
     request.row = row;
     request.first_only = reading == DragReading::FirstOnly;
     request.target = GetItem(parent);
@@ -217,10 +217,11 @@ SiteTreeModel::DropRules SiteTreeModel::_SpotRules(NodeKind container, bool take
     return rules;
 }
 
-void SiteTreeModel::_MoveNodes(const QModelIndexList& indexes, const QModelIndex& target, int row,
+void SiteTreeModel::_MoveNodes(const QModelIndexList& indexes, const QModelIndex& wanted, int row,
                                const std::function<ITreeItem*(ITreeItem&, int)>& take,
                                const std::function<void(ITreeItem&, int)>& put)
 {
+    const QModelIndex target = RowIndex(wanted);
     ITreeItem* container = GetItem(target);
     const int count = rowCount(target);
     if (row < 0 || row > count)

@@ -217,7 +217,7 @@ void SiteTreeModel::AddSeparator(const QModelIndex& parent, int row)
     const int count = spots->GetAvailableCount();
     if (row < 0 || row > count)
         row = count;
-    beginInsertRows(parent, row, row);
+    beginInsertRows(RowIndex(parent), row, row);
     spots->InsertSpot(row, spots->CreateSeparatorSpot());
     _EndInsert();
 }

@@ -113,6 +113,9 @@ public:
     /// Whether a drop is being carried out: what it inserts is not opened for renaming.
     bool IsDropping() const { return m_dropping; }
 
+    /// The index in column 0, below which the children of a row lie. A pointer may point at any.
+    static QModelIndex RowIndex(const QModelIndex& index) { return index.siblingAtColumn(0); }
+
     /// The order in which rows are taken out, so that none moves before its turn: later rows
     /// first, rows of different parents by their parents.
     static bool ComesFirst(const QModelIndex& a, const QModelIndex& b);

@@ -269,7 +269,8 @@ void UiCustomizeSitesWidget::Impl::Run(SitesAction action)
 {
     using A = SitesAction;
     const Site* site = ActiveSite();
-    const QModelIndex current = site ? site->view->currentIndex() : QModelIndex();
+    const QModelIndex current =
+        site ? SiteTreeModel::RowIndex(site->view->currentIndex()) : QModelIndex();
     const QModelIndex parent = current.parent();
     const int row = current.row();
     const int composite_row = m_composites_proxy.mapToSource(m_composite_menu_index).row();

@@ -14,6 +14,7 @@ namespace {
 constexpr int c_commands_width = 46;
 constexpr int c_tree_width = 48;
 constexpr int c_icon_padding = 12;
+constexpr int c_button_gap = 8;
 
 void SetUpTree(QTreeView& view)
 {
@@ -53,6 +54,24 @@ void UiCustomizeSitesWidget::Impl::SizeColumns()
         view->header()->resizeSection(1, style_width);
         view->header()->resizeSection(2, icon);
     }
+    // No selection makes the dialog wider by the buttons that it offers.
+    int widest = 0;
+    for (const Site& site : m_sites) {
+        for (int selection = 0; selection <= static_cast<int>(SitesSelection::Several); ++selection) {
+            const SitesOffer* offer =
+                FindSitesOffer(site.tree, static_cast<SitesSelection>(selection));
+            int width = 0;
+            for (SitesAction action : offer ? offer->buttons : std::vector<SitesAction>()) {
+                for (const SitesButton& entry : SitesButtons()) {
+                    const auto* button = findChild<QToolButton*>(QLatin1String(entry.object_name));
+                    if (entry.action == action && button)
+                        width += button->sizeHint().width() + c_button_gap;
+                }
+            }
+            widest = qMax(widest, width);
+        }
+    }
+    mp_tabs_sites->setMinimumWidth(widest + 2 * c_button_gap * 3);
     // A key of a menu, or of a command, or the button that is there before there is one.
     const int key_width =
         WidthOf(*this, {QStringLiteral("Ctrl+Alt+Shift+F12"), QObject::tr("Assign shortcut")}) + icon;
@@ -113,6 +132,7 @@ void UiCustomizeSitesWidget::Impl::ConnectViews()
     mp_view_commands->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Fixed);
     mp_view_commands->verticalHeader()->hide();
     mp_view_commands->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    mp_view_commands->verticalHeader()->setMinimumSectionSize(1);
     mp_view_commands->verticalHeader()->setDefaultSectionSize(RowDelegate::RowHeight(fontMetrics()));
     mp_view_commands->setContextMenuPolicy(Qt::CustomContextMenu);
     ConnectModel(m_commands);

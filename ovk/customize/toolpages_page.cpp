@@ -4,6 +4,7 @@
 #include "ovk/core/observable.h"
 #include "ovk/core/pimpl_basics.h"
 #include "ovk/customize/toolpages_model_p.h"
+#include "ovk/customize/view_helpers_p.h"
 #include "ovk/docking/dock_manager.h"
 #include "ovk/docking/dock_widget.h"
 #include "ovk/docking/ui_state_docking.h"
@@ -59,6 +60,7 @@ public:
     {
         setupUi(this);
         mp_pages_view->setModel(&model);
+        mp_pages_view->setItemDelegate(&m_row_delegate);
         connect(mp_btn_restore, &QPushButton::clicked, this, [this] { _pr().Restore(); });
         connect(mp_animated_docking, &QCheckBox::stateChanged, this, [](int state) {
             if (DockManager* manager = Manager())
@@ -67,6 +69,9 @@ public:
     }
 
     ToolpagesModel model;
+
+private:
+    RowDelegate m_row_delegate;
 
 protected:
     void changeEvent(QEvent* event) override

@@ -83,6 +83,8 @@ private Q_SLOTS:
     void deletingTheLastItemKeepsTheButton();
     void deletingAnItemBehindUnresolvedOnes();
     void twoGroupsSendTheSameCommandOnce();
+    void aDropOnAnyColumnLandsInItsRow();
+    void aDragBetweenPagesIsTaken();
 };
 
 void DialogBadInputTest::aCommandThatIsDestroyedLeavesTheList()
@@ -476,6 +478,48 @@ void DialogBadInputTest::twoGroupsSendTheSameCommandOnce()
     QVERIFY(model.dropMimeData(data.get(), Qt::CopyAction, -1, -1, group(4)));
     QCOMPARE(model.rowCount(group(4)), 1);
     QCOMPARE(model.rowCount(group(2)) + model.rowCount(group(3)), 1);
+}
+
+void DialogBadInputTest::aDropOnAnyColumnLandsInItsRow()
+{
+    Dialog dialog;
+    RibbonModel& model = *dialog.Model();
+    model.AddGroup(model.index(0, 0), 0);
+    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    const QModelIndex second_column = model.index(0, 1, model.index(0, 0));
+    auto* commands = dialog.Find<QTableView>("mp_view_commands");
+    commands->selectRow(0);
+    const std::unique_ptr<QMimeData> data(
+        commands->model()->mimeData(commands->selectionModel()->selectedIndexes()));
+    QVERIFY(model.dropMimeData(data.get(), Qt::CopyAction, -1, -1, second_column));
+    model.AddSeparator(second_column, -1);
+    model.AddGroup(model.index(0, 1), -1);
+    QCOMPARE(inserted.count(), 3);
+    for (const QList<QVariant>& arguments : inserted)
+        QCOMPARE(arguments.at(0).toModelIndex().column(), 0);
+}
+
+void DialogBadInputTest::aDragBetweenPagesIsTaken()
+{
+    Dialog dialog;
+    auto* view = dialog.Find<QTreeView>("mp_view_ribbon");
+    dialog.Model()->AddPage(-1);
+    dialog.Model()->AddPage(-1);
+    view->collapseAll();
+    const QModelIndex last = dialog.Model()->index(2, 0);
+    const ITreeItem* moved = dialog.Model()->GetItem(last);
+    const std::unique_ptr<QMimeData> data(dialog.Model()->mimeData({last}));
+    const QRect rect = view->visualRect(dialog.Model()->index(1, 0));
+    QDragEnterEvent enter(rect.center(), Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view->viewport(), &enter);
+    QDragMoveEvent move({rect.center().x(), rect.top() + 1}, Qt::CopyAction, data.get(),
+                        Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view->viewport(), &move);
+    QVERIFY(move.isAccepted());
+    QDropEvent drop(QPoint(rect.center().x(), rect.top() + 1), Qt::CopyAction, data.get(),
+                    Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view->viewport(), &drop);
+    QCOMPARE(dialog.Model()->GetItem(dialog.Model()->index(1, 0)), moved);
 }
 
 OVK_TEST_CLASS(DialogBadInputTest)
