@@ -87,6 +87,11 @@ void DockWidget::Impl::FilterPanel(QEvent& event)
         if (!event.spontaneous())
             OnHidden();
         break;
+    case QEvent::WindowActivate:
+        // The focus of a floating panel goes into its page first, not to a button of the title.
+        if (floated && !window->focusWidget())
+            FocusCurrentPage(Qt::ActiveWindowFocusReason);
+        break;
     case QEvent::Move:
         if (event.spontaneous())
             OnMoved();

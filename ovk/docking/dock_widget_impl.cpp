@@ -161,8 +161,8 @@ void DockWidget::Impl::ProcessUpdate()
 
     const QPointer<DockWindow> guard(window);
     ShowCurrentPage();
-    if (guard && !destroying && m_focus_page)
-        FocusCurrentPage();
+    if (guard && !destroying && std::exchange(m_focus_page, false))
+        FocusCurrentPage(Qt::MouseFocusReason);
 }
 
 QString DockWidget::Impl::TitleText() const
@@ -227,14 +227,13 @@ void DockWidget::Impl::ShowCurrentPage()
         shown->show();
 }
 
-void DockWidget::Impl::FocusCurrentPage()
+void DockWidget::Impl::FocusCurrentPage(Qt::FocusReason reason)
 {
-    m_focus_page = false;
     const IDockPage* const page = GetCurrentPage();
     QWidget* const widget = page ? WidgetOf(page) : nullptr;
     if (!widget || !widget->isVisible())
         return;
-    FirstToFocus(*widget).setFocus(Qt::MouseFocusReason);
+    FirstToFocus(*widget).setFocus(reason);
 }
 
 void DockWidget::Impl::OnDocked(DockToolboxSite& site)

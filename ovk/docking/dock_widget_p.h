@@ -173,7 +173,7 @@ private:
     void UpdateTitle();
     void UpdateTitleButtons();
     void ShowCurrentPage();
-    void FocusCurrentPage();
+    void FocusCurrentPage(Qt::FocusReason reason);
     void ShowTab(IDockPage* page);
     void HideTab(IDockPage* page);
 

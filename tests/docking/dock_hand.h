@@ -52,6 +52,13 @@ public:
         Say("mouseup 1");
         QVERIFY(Buttons(Qt::NoButton));
     }
+    /// Out of the way of everything, with nothing in it.
+    void Rest()
+    {
+        if (m_down)
+            Release();
+        MoveTo(QGuiApplication::primaryScreen()->geometry().bottomRight() - QPoint(2, 2));
+    }
     void Click(const QPoint& at)
     {
         MoveTo(at);

@@ -85,7 +85,7 @@ void DockX11DragTest::cleanupTestCase()
 
 void DockX11DragTest::init()
 {
-    m_hand->MoveTo(QGuiApplication::primaryScreen()->geometry().bottomRight() - QPoint(2, 2));
+    m_hand->Rest();
 }
 
 void DockX11DragTest::Take(DockWidget& panel)
@@ -113,7 +113,7 @@ void DockX11DragTest::aPanelIsDraggedOutOfItsSite()
     const QPoint target = Spot(*fixture.central, 0.5, 0.5);
     m_hand->Glide(target);
     // It hangs at the place where it was taken.
-    QTRY_COMPARE(panel->pos(), target - hold);
+    QTRY_VERIFY((panel->pos() - (target - hold)).manhattanLength() <= 1);
     QVERIFY(IsDragging(fixture));
     m_hand->Release();
     QTRY_VERIFY(!IsDragging(fixture));

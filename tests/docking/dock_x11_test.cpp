@@ -129,7 +129,10 @@ void DockX11Test::theOverlayShowsWhatIsOnTheScreen()
         return image.pixelColor(image.width() / 2, image.height() / 2);
     };
     QTRY_COMPARE(middle(), QColor(Qt::red));
-    QCOMPARE(docked->_Impl()->overlay->GetPlain().size(), docked->_Impl()->overlay->size());
+    // As fine as the screen is.
+    const DockOverlay& overlay = *docked->_Impl()->overlay;
+    QCOMPARE(overlay.GetPlain().size(), overlay.size() * overlay.devicePixelRatioF());
+    QCOMPARE(overlay.GetPlain().devicePixelRatioF(), overlay.devicePixelRatioF());
     // A docked panel gets no native window of its own by that.
     QVERIFY(!docked->internalWinId());
 }

@@ -73,7 +73,7 @@ void DockX11WindowTest::cleanupTestCase()
 
 void DockX11WindowTest::init()
 {
-    m_hand->MoveTo(QGuiApplication::primaryScreen()->geometry().bottomRight() - QPoint(2, 2));
+    m_hand->Rest();
 }
 
 void DockX11WindowTest::aFloatingPanelIsResizedByItsEdges_data()

@@ -5,7 +5,6 @@
 #include <ovk/widgets/color_legend.h>
 
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPainter>
@@ -48,16 +47,11 @@ public:
         layout->addWidget(mp_quantity);
         mp_title = new QLabel(this);
         layout->addWidget(mp_title);
-        auto* row = new QHBoxLayout;
-        row->setSpacing(8);
         mp_legend = new ovk::ColorLegend(this);
         mp_legend->setObjectName(QStringLiteral("colorLegend"));
-        mp_legend->SetOrientation(ovk::ColorMap::Vertical);
         mp_legend->setProperty("colorSize", 18);
-        mp_legend->setProperty("offset", 4);
-        mp_legend->setMinimumHeight(60);
-        mp_legend->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding);
-        row->addWidget(mp_legend);
+        mp_legend->setProperty("offset", 3);
+        layout->addWidget(mp_legend);
         mp_table = new QTreeWidget(this);
         mp_table->setObjectName(QStringLiteral("colorAreas"));
         mp_table->setColumnCount(2);
@@ -66,8 +60,7 @@ public:
         mp_table->setSelectionMode(QAbstractItemView::NoSelection);
         mp_table->setFocusPolicy(Qt::NoFocus);
         mp_table->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-        row->addWidget(mp_table, 1);
-        layout->addLayout(row, 1);
+        layout->addWidget(mp_table, 1);
         connect(mp_quantity, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 [this](int index) {
                     if (!m_following)

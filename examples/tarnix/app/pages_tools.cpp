@@ -20,6 +20,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyle>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -232,9 +233,11 @@ public:
         mp_table->setUniformRowHeights(true);
         mp_table->setFrameShape(QFrame::NoFrame);
         mp_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
-        mp_table->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-        mp_table->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
         layout->addWidget(mp_table, 1);
+        // Once for a burst of entries: going to the end lays the list out.
+        m_to_end.setSingleShot(true);
+        m_to_end.setInterval(0);
+        connect(&m_to_end, &QTimer::timeout, mp_table, &QTreeWidget::scrollToBottom);
         connect(mp_kind, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 [this] { Fill(); });
         connect(mp_search, &QLineEdit::textChanged, this, [this] { Fill(); });
@@ -256,6 +259,7 @@ public:
             mp_copy->setText(tr("Copy"));
             mp_clear->setText(tr("Clear"));
             mp_table->setHeaderLabels({tr("Time"), tr("Kind"), tr("What happened")});
+            SetColumnWidths();
             mp_table->setAccessibleName(windowTitle());
             Fill();
         });
@@ -275,7 +279,7 @@ private:
         if (!IsShown(entry))
             return;
         const QScrollBar* bar = mp_table->verticalScrollBar();
-        const bool at_end = bar->value() == bar->maximum();
+        const bool at_end = m_to_end.isActive() || bar->value() == bar->maximum();
         auto* item = new QTreeWidgetItem(
             mp_table, {entry.time.toString(QStringLiteral("HH:mm:ss")),
                        EventLog::NameOf(entry.kind), entry.text});
@@ -286,7 +290,7 @@ private:
             delete mp_table->topLevelItem(0);
         // Whoever reads further up is left where he reads.
         if (at_end)
-            mp_table->scrollToItem(item);
+            m_to_end.start();
         mp_clear->setEnabled(true);
         mp_copy->setEnabled(true);
     }
@@ -298,7 +302,22 @@ private:
         mp_clear->setEnabled(!m_log.Entries().empty());
         for (const EventLog::Entry& entry : m_log.Entries())
             Append(entry);
-        mp_table->scrollToBottom();
+        m_to_end.start();
+    }
+
+    /// Wide enough for what stands in them; measured once, not with every entry.
+    void SetColumnWidths()
+    {
+        constexpr int k_room = 16;
+        int kind = mp_table->fontMetrics().horizontalAdvance(mp_table->headerItem()->text(1));
+        for (const EventLog::Kind entry :
+             {EventLog::Kind::Step, EventLog::Kind::Message, EventLog::Kind::Warning})
+            kind = std::max(kind,
+                            mp_table->fontMetrics().horizontalAdvance(EventLog::NameOf(entry)));
+        mp_table->setColumnWidth(
+            0, mp_table->fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + k_room);
+        // A warning has a sign before its name.
+        mp_table->setColumnWidth(1, kind + mp_table->fontMetrics().height() + k_room);
     }
 
     /// The chosen lines, or all that are shown.
@@ -321,6 +340,7 @@ private:
     QPushButton* mp_copy;
     QPushButton* mp_clear;
     QTreeWidget* mp_table;
+    QTimer m_to_end;
 };
 
 } // namespace

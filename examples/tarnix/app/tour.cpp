@@ -190,6 +190,16 @@ void Tour::BuildScript()
             Run("Check.Overhang");
             Run("View.Home");
         });
+    Add(
+        "inspect-colours",
+        [this] {
+            SelectPage(QStringLiteral("page.view"));
+            m_host.window->ShowPage(QStringLiteral("Page.Legend"));
+            m_host.workspace.ChangeView([](ViewState& state) { state.color_by = ColorBy::Height; });
+        },
+        [this] {
+            m_host.workspace.ChangeView([](ViewState& state) { state.color_by = ColorBy::Part; });
+        });
     Add("inspect-section", page("page.section"));
     Add("slice-home", [this, window] {
         window->ActivateLayout(QStringLiteral("Slice"));
