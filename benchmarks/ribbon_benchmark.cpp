@@ -1,11 +1,11 @@
-// The ribbon beside its floors: as many plain QToolButtons in grids on the pages of a QTabWidget, once
-// with all pages built at the start and once with each page built when it is first shown. All three
-// show the same actions in a window of the same size.
+// The ribbon beside its floors: as many plain QToolButtons in grids on the pages of a QTabWidget,
+// once with all pages built at the start and once with each page built when it is first shown. All
+// three show the same actions in a window of the same size.
 //
 // The goals, for 10 pages of 8 groups of 12 actions: construct, show and first paint no slower than
-// the floor that builds all pages; a first visit of a page at most twice, and another visit no slower
-// than the floor; a step of a resize that reduces groups at most 1.5 times the floor; at most half as
-// much memory again.
+// the floor that builds all pages; a first visit of a page at most twice, and another visit no
+// slower than the floor; a step of a resize that reduces groups at most 1.5 times the floor; at
+// most half as much memory again.
 //
 // Each round measures the three in turn; the table gives medians. Times are those of the thread's
 // processor where the system tells them, so that other programs disturb little.
@@ -244,9 +244,8 @@ Figures Measure(const Scale& scale, const Maker& make)
 Figures Median(const std::vector<Figures>& all)
 {
     Figures result;
-    for (double Figures::*member :
-         {&Figures::start, &Figures::first_visit, &Figures::revisit, &Figures::resize,
-          &Figures::memory, &Figures::memory_start}) {
+    for (double Figures::*member : {&Figures::start, &Figures::first_visit, &Figures::revisit,
+                                    &Figures::resize, &Figures::memory, &Figures::memory_start}) {
         std::vector<double> values;
         for (const Figures& figures : all)
             values.push_back(figures.*member);
@@ -362,8 +361,8 @@ int main(int argc, char** argv)
     PrintTable(Compare(scale, rounds));
 
     if (sizes) {
-        std::printf("\nGrowth with the number of actions (ms)\n%-34s %9s %9s %9s\n", "", "240", "960",
-                    "3840");
+        std::printf("\nGrowth with the number of actions (ms)\n%-34s %9s %9s %9s\n", "", "240",
+                    "960", "3840");
         std::vector<Comparison> all;
         for (const Scale& s : {Scale{5, 4, 12}, Scale{10, 8, 12}, Scale{20, 16, 12}})
             all.push_back(Compare(s, std::max(3, rounds / 3)));

@@ -20,8 +20,8 @@ void tellCurrentTab(RibbonTabBar* tabs);
 /// Tells them that a bar was minimised or restored, or that the popup of a group closed or opened.
 void tellExpanded(QWidget* widget);
 
-/// Who takes what they are told; null is Qt. For tests: Qt hands nothing on while no assistive program
-/// runs.
+/// Who takes what they are told; null is Qt. For tests: Qt hands nothing on while no assistive
+/// program runs.
 using RibbonAnnouncer = void (*)(QAccessibleEvent*);
 OVK_TEST_EXPORT void setRibbonAnnouncer(RibbonAnnouncer announcer);
 

@@ -104,8 +104,8 @@ void RibbonBarPrivate::insertCorner(QAction* action, QAction* before)
 {
     auto* button = new RibbonButton(RibbonGround::Strip, this, q);
     const bool known = pending.action == action;
-    button->setUp(action, known ? pending.style : Qt::ToolButtonIconOnly,
-                  QToolButton::InstantPopup, known ? pending.menu : nullptr);
+    button->setUp(action, known ? pending.style : Qt::ToolButtonIconOnly, QToolButton::InstantPopup,
+                  known ? pending.menu : nullptr);
     QObject::connect(button, &QToolButton::triggered, q, [this] { commandRan(); });
     const auto it = std::find_if(corner.begin(), corner.end(),
                                  [before](const Corner& c) { return c.action == before; });

@@ -89,8 +89,8 @@ private:
         bool visible = true;
         bool operator==(const Contents& o) const
         {
-            return text == o.text && hasIcon == o.hasIcon && hasMenu == o.hasMenu
-                && visible == o.visible;
+            return text == o.text && hasIcon == o.hasIcon && hasMenu == o.hasMenu &&
+                   visible == o.visible;
         }
     };
     Contents contents() const;

@@ -33,7 +33,8 @@ class RibbonGalleryPrivate
 public:
     explicit RibbonGalleryPrivate(RibbonGallery* gallery) : q(gallery) {}
 
-    /// On a ribbon group there is one strip of cells with buttons; elsewhere a list with a scroll bar.
+    /// On a ribbon group there is one strip of cells with buttons; elsewhere a list with a scroll
+    /// bar.
     bool isInRibbon() const;
     std::vector<GalleryCell> cells() const;
     int widestCell() const;

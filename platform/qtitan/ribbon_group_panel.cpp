@@ -267,9 +267,9 @@ int RibbonGroupPanel::minimumContentWidth() const
     if (!m_titleVisible)
         return metrics.lineHeight;
     // A title that is longer than any should be is elided rather than given the whole page.
-    int width = qMin(fontMetrics().horizontalAdvance(plainText(m_group->title())),
-                     metrics.maxTitleWidth) +
-                metrics.px(6);
+    int width =
+        qMin(fontMetrics().horizontalAdvance(plainText(m_group->title())), metrics.maxTitleWidth) +
+        metrics.px(6);
     if (m_launcher)
         // On both sides, so that the title stays in the middle.
         width += 2 * (metrics.launcher.width() + metrics.px(1));

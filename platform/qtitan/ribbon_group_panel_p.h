@@ -40,7 +40,12 @@ class OVK_TEST_EXPORT RibbonGroupPanel : public QWidget, public RibbonButtonHost
 public:
     struct Item
     {
-        enum class Kind { Button, Widget, Separator };
+        enum class Kind
+        {
+            Button,
+            Widget,
+            Separator
+        };
         Kind kind = Kind::Button;
         QAction* action = nullptr;
         QPointer<QWidget> widget;       ///< null for a separator and for a button not made yet
@@ -49,8 +54,8 @@ public:
         Qt::ToolButtonStyle style = Qt::ToolButtonTextBesideIcon;
         QToolButton::ToolButtonPopupMode mode = QToolButton::MenuButtonPopup;
         QPointer<QMenu> menu;
-        mutable QSize hint;             ///< what a widget of the host's wanted when it was measured
-        QRect rect;                     ///< as laid out; of a separator, where it is drawn
+        mutable QSize hint; ///< what a widget of the host's wanted when it was measured
+        QRect rect;         ///< as laid out; of a separator, where it is drawn
     };
 
     explicit RibbonGroupPanel(RibbonGroup* group);

@@ -42,7 +42,14 @@ class OVK_TEST_EXPORT RibbonKeyTips : public QObject
 {
     Q_OBJECT
 public:
-    enum class Level { Away, Bar, Page, Popup, Backstage };
+    enum class Level
+    {
+        Away,
+        Bar,
+        Page,
+        Popup,
+        Backstage
+    };
 
     explicit RibbonKeyTips(RibbonBar* bar);
     ~RibbonKeyTips() override;

@@ -109,8 +109,8 @@ QRect globalRect(const QWidget* widget)
 
 void focus(QWidget* widget)
 {
-    // Qt notices by itself only that Tab was pressed; without this the style would not show where an
-    // arrow has led.
+    // Qt notices by itself only that Tab was pressed; without this the style would not show where
+    // an arrow has led.
     widget->window()->setAttribute(Qt::WA_KeyboardFocusChange);
     widget->setFocus(Qt::TabFocusReason);
     for (QWidget* w = widget; w; w = w->parentWidget())

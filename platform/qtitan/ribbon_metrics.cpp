@@ -105,8 +105,8 @@ const RibbonMetrics& RibbonMetrics::of(const QWidget* widget)
                         (quint64(dpi) << 1) | quint64(flat);
     auto it = cache.constFind(key);
     if (it == cache.constEnd())
-        it = cache.insert(key, std::make_shared<RibbonMetrics>(
-                                   compute(font.height(), char_width, dpi, flat)));
+        it = cache.insert(
+            key, std::make_shared<RibbonMetrics>(compute(font.height(), char_width, dpi, flat)));
     last_font = widget->font();
     last_dpi = dpi;
     last_flat = flat;

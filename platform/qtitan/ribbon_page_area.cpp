@@ -27,9 +27,8 @@ RibbonScrollButton::RibbonScrollButton(bool forward, QWidget* parent)
 
 void RibbonScrollButton::retranslate()
 {
-    setAccessibleName(m_forward
-                          ? QCoreApplication::translate("Qtitan::RibbonBar", "Scroll forward")
-                          : QCoreApplication::translate("Qtitan::RibbonBar", "Scroll back"));
+    setAccessibleName(m_forward ? QCoreApplication::translate("Qtitan::RibbonBar", "Scroll forward")
+                                : QCoreApplication::translate("Qtitan::RibbonBar", "Scroll back"));
 }
 
 void RibbonScrollButton::changeEvent(QEvent* event)

@@ -62,7 +62,8 @@ QSize RibbonSystemButton::sizeHint() const
                                  : bar->tabRowHeight();
         return QSize(diameter, diameter);
     }
-    const QString text = defaultAction() ? shortened(defaultAction()->iconText()) : plainText(this->text());
+    const QString text =
+        defaultAction() ? shortened(defaultAction()->iconText()) : plainText(this->text());
     int width = fontMetrics().horizontalAdvance(text) + 2 * metrics.px(14);
     if (toolButtonStyle() != Qt::ToolButtonTextOnly && !icon().isNull())
         width = text.isEmpty() || toolButtonStyle() == Qt::ToolButtonIconOnly

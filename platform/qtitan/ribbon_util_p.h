@@ -28,8 +28,8 @@ OVK_TEST_EXPORT QString mnemonicOf(const QString& text);
 inline QRect directed(const QRect& rect, int width, Qt::LayoutDirection direction)
 {
     return direction == Qt::RightToLeft
-        ? QRect(width - rect.x() - rect.width(), rect.y(), rect.width(), rect.height())
-        : rect;
+               ? QRect(width - rect.x() - rect.width(), rect.y(), rect.width(), rect.height())
+               : rect;
 }
 
 /// What every element tells the painter: its rectangle, font, resolution, direction, and the states

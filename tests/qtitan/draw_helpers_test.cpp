@@ -95,9 +95,8 @@ private Q_SLOTS:
                        : QByteArray(what) + ' ' + QByteArray::number(ink.x()) + ' ' +
                              QByteArray::number(ink.right());
         };
-        QByteArray wrong = check("frame", [&](QPainter& p) {
-            DrawHelpers::drawFrame(p, rect, Qt::black, Qt::gray, 3);
-        });
+        QByteArray wrong = check(
+            "frame", [&](QPainter& p) { DrawHelpers::drawFrame(p, rect, Qt::black, Qt::gray, 3); });
         QVERIFY2(wrong.isEmpty(), wrong.constData());
         for (const Qt::ArrowType arrow :
              {Qt::UpArrow, Qt::DownArrow, Qt::LeftArrow, Qt::RightArrow}) {
@@ -136,8 +135,7 @@ private Q_SLOTS:
         // Never scaled up: a small picture keeps its size.
         QVERIFY(DrawHelpers::iconPixmap(PlainIcon(Qt::red, 16), QSize(32, 32), 1).width() <= 16);
         QVERIFY(DrawHelpers::iconPixmap(QIcon(), QSize(16, 16), 1).isNull());
-        const QImage grey =
-            DrawHelpers::disabledImage(PlainIcon(Qt::red).pixmap(16, 16).toImage());
+        const QImage grey = DrawHelpers::disabledImage(PlainIcon(Qt::red).pixmap(16, 16).toImage());
         const QColor center = grey.pixelColor(8, 8);
         QVERIFY(qAbs(center.red() - center.green()) < 40);
     }
@@ -148,10 +146,10 @@ private Q_SLOTS:
         const QImage image = sign.pixmap(16, 16).toImage();
         const QImage seen = DrawHelpers::visibleSign(image, Qt::white);
         QVERIFY(DrawHelpers::luminance(seen.pixelColor(8, 8)) > 0.5);
-        QCOMPARE(DrawHelpers::visibleSign(image, Qt::black).pixelColor(8, 8), image.pixelColor(8, 8));
-        const QImage icon = DrawHelpers::visibleIcon(sign, QSize(16, 16), 1, Qt::white)
-                                .pixmap(16, 16)
-                                .toImage();
+        QCOMPARE(DrawHelpers::visibleSign(image, Qt::black).pixelColor(8, 8),
+                 image.pixelColor(8, 8));
+        const QImage icon =
+            DrawHelpers::visibleIcon(sign, QSize(16, 16), 1, Qt::white).pixmap(16, 16).toImage();
         QVERIFY(DrawHelpers::luminance(icon.pixelColor(icon.width() / 2, icon.height() / 2)) > 0.5);
     }
 

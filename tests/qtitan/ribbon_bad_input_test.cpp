@@ -51,9 +51,10 @@ QRect Difference(const QImage& a, const QImage& b)
             if (a.pixel(x, y) != b.pixel(x, y))
                 changed |= QRect(x, y, 1, 1);
     const qreal ratio = a.devicePixelRatioF();
-    return changed.isEmpty() ? changed
-                             : QRect(QPoint(int(changed.left() / ratio), int(changed.top() / ratio)),
-                                     QPoint(int(changed.right() / ratio), int(changed.bottom() / ratio)));
+    return changed.isEmpty()
+               ? changed
+               : QRect(QPoint(int(changed.left() / ratio), int(changed.top() / ratio)),
+                       QPoint(int(changed.right() / ratio), int(changed.bottom() / ratio)));
 }
 
 QImage Picture(QWidget* widget)
@@ -198,7 +199,8 @@ private Q_SLOTS:
         for (const int mode : {0, 1, 2}) {
             QTest::addRow("wrap mode %d, words", mode) << mode << LongText();
             QTest::addRow("wrap mode %d, one word", mode) << mode << Long();
-            QTest::addRow("wrap mode %d, rich", mode) << mode << QStringLiteral("<b>%1</b>").arg(LongText());
+            QTest::addRow("wrap mode %d, rich", mode)
+                << mode << QStringLiteral("<b>%1</b>").arg(LongText());
         }
     }
 
@@ -266,8 +268,7 @@ private Q_SLOTS:
     void fiveHundredGroupsOnAPage()
     {
         Window w(1, 500, QSize(1000, 400));
-        const RibbonPageHolder* holder =
-            RibbonPagePrivate::get(w.bar->currentPage())->holder;
+        const RibbonPageHolder* holder = RibbonPagePrivate::get(w.bar->currentPage())->holder;
         QVERIFY(holder->maximumOffset() > 0);
         int right = 0;
         for (RibbonGroup* group : w.bar->currentPage()->groups()) {
@@ -396,7 +397,8 @@ private Q_SLOTS:
         Window::Settle();
         QVERIFY(w.Button(0)->isVisible());
         QCOMPARE(w.Button(0)->defaultAction(), action);
-        QAction* corner = w.bar->addAction(MakeIcon(), QStringLiteral("Help"), Qt::ToolButtonIconOnly);
+        QAction* corner =
+            w.bar->addAction(MakeIcon(), QStringLiteral("Help"), Qt::ToolButtonIconOnly);
         delete w.bar->buttonForAction(corner);
         QVERIFY(!w.bar->buttonForAction(corner));
         w.window.resize(500, 400);
@@ -532,8 +534,7 @@ private Q_SLOTS:
         w.bar->showQuickAccess(true);
         w.bar->quickAccessBar()->addAction(MakeIcon(), QStringLiteral("Quick"));
         w.bar->addSystemButton(QIcon(), QStringLiteral("File"));
-        RibbonPage* page =
-            w.bar->addContextualPage(QStringLiteral("Format"), Long(), Qt::red);
+        RibbonPage* page = w.bar->addContextualPage(QStringLiteral("Format"), Long(), Qt::red);
         Window::Settle();
         const RibbonBarPrivate* bar = RibbonBarPrivate::get(w.bar);
 

@@ -272,9 +272,9 @@ private Q_SLOTS:
     void aPeekGoesAway_data()
     {
         QTest::addColumn<QString>("by");
-        for (const char* by :
-             {"a command", "a click outside", "Escape", "restoring", "a command of the quick access bar",
-              "a command of the corner", "a launcher", "a pick from a gallery", "another window"})
+        for (const char* by : {"a command", "a click outside", "Escape", "restoring",
+                               "a command of the quick access bar", "a command of the corner",
+                               "a launcher", "a pick from a gallery", "another window"})
             QTest::newRow(by) << QString::fromLatin1(by);
     }
 

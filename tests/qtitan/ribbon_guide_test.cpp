@@ -13,8 +13,8 @@ QString Read(const QString& path)
                                                             : QString();
 }
 
-/// The operations that the public part of a header declares, each as Class::name, without those that
-/// override what Qt or a base declares.
+/// The operations that the public part of a header declares, each as Class::name, without those
+/// that override what Qt or a base declares.
 QStringList Operations(const QString& header)
 {
     QString text = header;
@@ -96,7 +96,8 @@ QList<Row> Rows()
         else if (line.startsWith(QLatin1String("## ")))
             section.clear();
         const QStringList cells = line.split(QLatin1Char('|'));
-        if (section.isEmpty() || cells.size() != 6 || cells.at(1).startsWith(QLatin1String("---")) ||
+        if (section.isEmpty() || cells.size() != 6 ||
+            cells.at(1).startsWith(QLatin1String("---")) ||
             cells.at(1).trimmed() == QLatin1String("Operation"))
             continue;
         Row row;
@@ -117,7 +118,8 @@ QString SourceOf(const QString& test_class)
     for (const QString& folder : QDir(OVK_TESTS).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
         for (const QString& file :
              QDir(QStringLiteral(OVK_TESTS "/") + folder).entryList({QStringLiteral("*.cpp")})) {
-            const QString text = Read(QStringLiteral(OVK_TESTS "/") + folder + QLatin1Char('/') + file);
+            const QString text =
+                Read(QStringLiteral(OVK_TESTS "/") + folder + QLatin1Char('/') + file);
             if (text.contains(registration))
                 return text;
         }

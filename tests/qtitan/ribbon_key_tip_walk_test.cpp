@@ -171,7 +171,8 @@ private Q_SLOTS:
         QStringList texts;
         for (const RibbonKeyTips::Tip& tip : tips.tips())
             texts.append(tip.text);
-        QCOMPARE(texts, (QStringList{QStringLiteral("C"), QStringLiteral("P"), QStringLiteral("D")}));
+        QCOMPARE(texts,
+                 (QStringList{QStringLiteral("C"), QStringLiteral("P"), QStringLiteral("D")}));
         w.bar->hideKeyTips();
     }
 };

@@ -386,10 +386,10 @@ private Q_SLOTS:
         w.bar->addAction(ribbon_test::MakeIcon(), QStringLiteral("Help"), Qt::ToolButtonIconOnly);
         w.Group(0)->setOptionButtonVisible(true);
         Window::Settle();
-        QList<QWidget*> elements{w.TabBar(), w.bar->getSystemButton(), w.Group(5),
-                                 w.bar->buttonForAction(w.bar->actions().first()),
-                                 w.bar->quickAccessBar()->widgetForAction(
-                                     w.bar->quickAccessBar()->actions().first())};
+        QList<QWidget*> elements{
+            w.TabBar(), w.bar->getSystemButton(), w.Group(5),
+            w.bar->buttonForAction(w.bar->actions().first()),
+            w.bar->quickAccessBar()->widgetForAction(w.bar->quickAccessBar()->actions().first())};
         w.window.resize(1600, 400);
         Window::Settle();
         elements << w.Button(0) << w.Button(5) << w.Button(10);
@@ -412,8 +412,8 @@ private Q_SLOTS:
         const style_test::ApplicationStyle style;
         Keys w;
         w.window.setAttribute(Qt::WA_KeyboardFocusChange, false);
-        QWidget* quick = w.bar->quickAccessBar()->widgetForAction(
-            w.bar->quickAccessBar()->actions().first());
+        QWidget* quick =
+            w.bar->quickAccessBar()->widgetForAction(w.bar->quickAccessBar()->actions().first());
         const QImage before = quick->grab().toImage();
         Keys::Press(Qt::Key_F10);
         Keys::Press(Qt::Key_Up);

@@ -159,7 +159,8 @@ private:
             const bool seen = page == model.current && (!model.minimized || w.bar->isPeeking());
             if (page->page->isVisible() != seen)
                 return QStringLiteral("the page \"%1\" is wrongly %2")
-                    .arg(page->page->title(), seen ? QStringLiteral("hidden") : QStringLiteral("seen"));
+                    .arg(page->page->title(),
+                         seen ? QStringLiteral("hidden") : QStringLiteral("seen"));
         }
         for (const PageModel* page : model.detached) {
             if (page->page->ribbonBar() || page->page->isVisible())
@@ -202,7 +203,10 @@ private:
 
     RibbonBar* Bar() const { return m_windows[m_bar]->bar; }
     BarModel& Model() { return m_models[m_bar]; }
-    int IndexIn(int count) { return m_choose.Below(count + 3) - 1; } // too small and too large as well
+    int IndexIn(int count)
+    {
+        return m_choose.Below(count + 3) - 1;
+    } // too small and too large as well
 
     template <class T> static void Insert(QList<T*>& list, int index, T* what)
     {
@@ -414,10 +418,9 @@ private:
         GroupModel* group = AnyGroup(AnyPage());
         if (!group || group->actions.size() > 15)
             return;
-        QAction* action =
-            group->group->addAction(MakeIcon(), m_choose.Title(),
-                                    m_choose.Chance(50) ? Qt::ToolButtonTextUnderIcon
-                                                        : Qt::ToolButtonTextBesideIcon);
+        QAction* action = group->group->addAction(
+            MakeIcon(), m_choose.Title(),
+            m_choose.Chance(50) ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonTextBesideIcon);
         group->actions.append(action);
     }
 

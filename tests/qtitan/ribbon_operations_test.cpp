@@ -59,8 +59,8 @@ private Q_SLOTS:
         QCOMPARE(action->parent(), w.bar);
         QVERIFY(w.bar->actions().contains(action));
         QCOMPARE(w.bar->buttonForAction(action)->toolButtonStyle(), Qt::ToolButtonIconOnly);
-        QAction* with_menu = w.bar->addAction(QIcon(), QStringLiteral("More"),
-                                              Qt::ToolButtonTextOnly, &menu);
+        QAction* with_menu =
+            w.bar->addAction(QIcon(), QStringLiteral("More"), Qt::ToolButtonTextOnly, &menu);
         QCOMPARE(w.bar->buttonForAction(with_menu)->menu(), &menu);
         QCOMPARE(w.bar->buttonForAction(with_menu)->popupMode(), QToolButton::InstantPopup);
     }
@@ -223,8 +223,8 @@ private Q_SLOTS:
     void aContextualPageStandsBehindTheOthers()
     {
         Window w(1, 1);
-        RibbonPage* page = w.bar->addContextualPage(QStringLiteral("Format"),
-                                                    QStringLiteral("Tools"), Qt::red);
+        RibbonPage* page =
+            w.bar->addContextualPage(QStringLiteral("Format"), QStringLiteral("Tools"), Qt::red);
         QVERIFY(page->isContextual());
         QCOMPARE(page->contextTitle(), QStringLiteral("Tools"));
         QCOMPARE(page->contextColor(), QColor(Qt::red));
@@ -254,9 +254,9 @@ private Q_SLOTS:
                          static_cast<QToolButton::ToolButtonPopupMode>(1));
         QVERIFY(group->addSeparator()->isSeparator());
         QMenu menu;
-        QAction* drop_down =
-            group->addAction(MakeIcon(), QStringLiteral("Menu"), static_cast<Qt::ToolButtonStyle>(4),
-                             &menu, static_cast<QToolButton::ToolButtonPopupMode>(2));
+        QAction* drop_down = group->addAction(MakeIcon(), QStringLiteral("Menu"),
+                                              static_cast<Qt::ToolButtonStyle>(4), &menu,
+                                              static_cast<QToolButton::ToolButtonPopupMode>(2));
         group->setIcon(command.icon());
         QCOMPARE(group->icon().cacheKey(), command.icon().cacheKey());
         QCOMPARE(group->actions().size(), 3);

@@ -41,7 +41,8 @@ QString Overlap(const QList<QPair<QString, QRect>>& places, const QRect& room)
     for (int i = 0; i < places.size(); ++i) {
         const QRect& rect = places.at(i).second;
         if (!room.contains(rect))
-            return QStringLiteral("%1 %2 leaves %3").arg(places.at(i).first, Text(rect), Text(room));
+            return QStringLiteral("%1 %2 leaves %3")
+                .arg(places.at(i).first, Text(rect), Text(room));
         for (int j = 0; j < i; ++j)
             if (rect.intersects(places.at(j).second))
                 return QStringLiteral("%1 %2 lies over %3 %4")
@@ -156,7 +157,8 @@ QString WrongInPage(const Window& w)
 
 QString Wrong(const Window& w)
 {
-    for (const QString& wrong : {WrongInBar(w), WrongInTabs(w), WrongInQuickAccess(w), WrongInPage(w)})
+    for (const QString& wrong :
+         {WrongInBar(w), WrongInTabs(w), WrongInQuickAccess(w), WrongInPage(w)})
         if (!wrong.isEmpty())
             return QStringLiteral("%1 wide: %2").arg(w.window.width()).arg(wrong);
     return QString();
@@ -271,8 +273,7 @@ private Q_SLOTS:
                 places.append({heading.text, heading.rect});
                 // A heading stands above its tabs, never beside them.
                 const QRect tabs = w.TabBar()->geometry();
-                QVERIFY2(heading.rect.left() >= tabs.left() &&
-                             heading.rect.right() <= tabs.right(),
+                QVERIFY2(heading.rect.left() >= tabs.left() && heading.rect.right() <= tabs.right(),
                          qPrintable(Text(heading.rect) + Text(tabs)));
             }
             const QString overlap = Overlap(places, w.bar->rect());
