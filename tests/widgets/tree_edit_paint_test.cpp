@@ -3,6 +3,7 @@
 
 #include <QPainter>
 #include <QProxyStyle>
+#include <QSet>
 #include <QStyledItemDelegate>
 
 using namespace ovk;
@@ -19,6 +20,10 @@ private Q_SLOTS:
     void theBandBeginsAtTheEdge();
     void rowsHaveTheirLines();
     void theCurrentTitleIsLit();
+    void aPaleFillHasABar();
+    void theCurrentTitleReadsOnItsFill_data();
+    void theCurrentTitleReadsOnItsFill();
+    void noSelectionShowsBesideAnEditor();
     void aDisabledTitleIsPale();
     void aRowIsHigherThanItsText();
     void aTitleIsMeasuredAnewWhenItsLookChanges();
@@ -110,6 +115,89 @@ void TreeEditPaintTest::theCurrentTitleIsLit()
     QCOMPARE(color(0, true).rgb(), option.palette.color(QPalette::Highlight).lighter(150).rgb());
     QCOMPARE(color(0, false), QColor(Qt::white));
     QCOMPARE(color(1, true), QColor(Qt::white));
+}
+
+void TreeEditPaintTest::aPaleFillHasABar()
+{
+    Form form;
+    form.AddItem(QString(), CheckBoxDelegate::GetInstance());
+    QPalette palette = form.palette();
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Highlight, QColor(200, 220, 245));
+    form.setPalette(palette);
+    form.setCurrentIndex(form.Cell(0, 1));
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        QStyleOptionViewItem option = form.viewOptions();
+        option.rect = QRect(0, 0, 80, 20);
+        option.state |= QStyle::State_Active;
+        option.direction = direction;
+        QImage image(80, 20, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        form.itemDelegate()->paint(&painter, option, form.Cell(0, 0));
+        const bool mirrored = direction == Qt::RightToLeft;
+        QCOMPARE(image.pixelColor(mirrored ? 79 : 0, 10), QColor(200, 220, 245));
+        QCOMPARE(image.pixelColor(mirrored ? 0 : 79, 10).rgb(),
+                 QColor(200, 220, 245).lighter(150).rgb());
+    }
+}
+
+void TreeEditPaintTest::theCurrentTitleReadsOnItsFill_data()
+{
+    QTest::addColumn<QColor>("highlight");
+    QTest::addColumn<QColor>("text");
+    QTest::addColumn<QColor>("expected");
+    QTest::newRow("dark on light")
+        << QColor(80, 160, 220) << QColor(20, 20, 20) << QColor(20, 20, 20);
+    QTest::newRow("white on light")
+        << QColor(80, 160, 220) << QColor(Qt::white) << QColor(Qt::black);
+    QTest::newRow("black on dark") << QColor(40, 20, 20) << QColor(Qt::black) << QColor(Qt::white);
+}
+
+void TreeEditPaintTest::theCurrentTitleReadsOnItsFill()
+{
+    QFETCH(QColor, highlight);
+    QFETCH(QColor, text);
+    QFETCH(QColor, expected);
+    Form form;
+    form.AddItem(QString(8, QChar(0x2588)), CheckBoxDelegate::GetInstance());
+    QPalette palette = form.palette();
+    palette.setColor(QPalette::Highlight, highlight);
+    palette.setColor(QPalette::Text, text);
+    form.setPalette(palette);
+    form.setCurrentIndex(form.Cell(0, 1));
+    QStyleOptionViewItem option = form.viewOptions();
+    option.rect = QRect(0, 0, 150, 20);
+    option.state |= QStyle::State_Active;
+    QImage image(150, 20, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    form.itemDelegate()->paint(&painter, option, form.Cell(0, 0));
+    QSet<QRgb> colors;
+    for (int x = 0; x < 150; ++x)
+        colors << image.pixel(x, 10);
+    QVERIFY(colors.contains(expected.rgb()));
+}
+
+void TreeEditPaintTest::noSelectionShowsBesideAnEditor()
+{
+    Form form;
+    Value value(true);
+    TreeEditItem* const item = form.AddItem(QString(), CheckBoxDelegate::GetInstance());
+    item->SetDataProvider(&value);
+    QStyleOptionViewItem option = form.viewOptions();
+    option.rect = QRect(0, 0, 80, 20);
+    const auto picture = [&](bool selected) {
+        option.state.setFlag(QStyle::State_Selected, selected);
+        QImage image(80, 20, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        form.itemDelegate()->paint(&painter, option, form.Cell(0, 1));
+        return image;
+    };
+    QVERIFY(picture(true) != picture(false));
+    form.CreateEditors();
+    QCOMPARE(picture(true), picture(false));
 }
 
 void TreeEditPaintTest::aDisabledTitleIsPale()

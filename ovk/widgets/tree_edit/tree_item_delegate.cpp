@@ -5,6 +5,8 @@
 
 #include <QPainter>
 
+#include <cstdlib>
+
 namespace ovk {
 
 namespace {
@@ -14,12 +16,39 @@ constexpr int g_cell_margin = 1;
 /// The margins of a cell above and below its editor, and as much again as air.
 constexpr int g_additional_height = 4;
 constexpr int g_current_lightness = 150;
+constexpr int g_current_bar_width = 3;
+/// Grays that are nearer to each other are not told apart.
+constexpr int g_least_difference = 16;
+/// What text needs to its ground.
+constexpr int g_legible_difference = 100;
 /// A form whose titles change all the time keeps no more of them than this.
 constexpr int g_most_sizes = 10000;
 
 QRect WithoutMargin(const QRect& rect)
 {
     return rect.adjusted(g_cell_margin, g_cell_margin, -g_cell_margin, -g_cell_margin);
+}
+
+int Difference(const QColor& a, const QColor& b)
+{
+    return std::abs(qGray(a.rgb()) - qGray(b.rgb()));
+}
+
+/// Fills the cell of the current title, and sees to it that the title reads on that and that a pale
+/// fill is seen.
+void PaintCurrent(QPainter& painter, QStyleOptionViewItem& option)
+{
+    const QColor highlight = option.palette.color(QPalette::Highlight);
+    const QColor fill = highlight.lighter(g_current_lightness);
+    painter.fillRect(option.rect, fill);
+    if (Difference(fill, option.palette.color(QPalette::Base)) < g_least_difference) {
+        QRect bar = option.rect;
+        bar.setWidth(g_current_bar_width);
+        painter.fillRect(QStyle::visualRect(option.direction, option.rect, bar), highlight);
+    }
+    if (Difference(fill, option.palette.color(QPalette::Text)) < g_legible_difference)
+        option.palette.setColor(QPalette::Text,
+                                qGray(fill.rgb()) < g_legible_difference ? Qt::white : Qt::black);
 }
 
 } // namespace
@@ -133,11 +162,8 @@ void TreeItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
         if (index.column() == g_value_column)
             painter->drawLine(option.rect.topLeft(), option.rect.bottomLeft());
         painter->restore();
-        if (option.state.testFlag(QStyle::State_Active) && _IsCurrentTitle(index)) {
-            painter->fillRect(
-                option.rect,
-                option.palette.color(QPalette::Highlight).lighter(g_current_lightness));
-        }
+        if (option.state.testFlag(QStyle::State_Active) && _IsCurrentTitle(index))
+            PaintCurrent(*painter, opt);
     }
 
     if (!item.IsEnabled()) {
@@ -147,6 +173,10 @@ void TreeItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
 
     if (!item.IsSection() && index.column() == g_value_column) {
         opt.rect = WithoutMargin(opt.rect);
+        // The title says which row is the current one; beside an open editor the ground of a
+        // selected cell would be a patch without a meaning.
+        if (item.GetEditor())
+            opt.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
         if (const TreeItemDelegateBase* const delegate = item._GetDelegate()) {
             delegate->paint(painter, opt, index);
             return;
