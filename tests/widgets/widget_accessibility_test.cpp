@@ -157,6 +157,19 @@ void WidgetAccessibilityTest::everyWidgetHasARoleAndAName_data()
             return label;
         },
         A::Graphic, "Angle");
+    // Views and numbers have no texts of their own: the host, or a label, names them.
+    add(
+        "table", [] { return new MTableView; }, A::Table, "");
+    add(
+        "tree", [] { return new MTreeView; }, A::Tree, "");
+    add(
+        "property tree", [] { return new TreeEdit; }, A::Tree, "");
+    add(
+        "number", [] { return new EditDblSuffix; }, A::SpinBox, "");
+    add(
+        "length", [] { return new EditDblUnits; }, A::SpinBox, "");
+    add(
+        "units", [] { return new UnitsLabel; }, A::StaticText, "mm");
 }
 
 void WidgetAccessibilityTest::everyWidgetHasARoleAndAName()
