@@ -28,6 +28,7 @@ public:
         setMin(UnitsPair(0.0, 0.0));
         setMax(UnitsPair(400.0, 400.0 / g_mm_per_inch));
         setStep(UnitsPair(1.0, 0.05));
+        setSuffixFormat(QStringLiteral(" %"));
         Load();
         // Behind the editor itself, which first takes the limits of the new units.
         UnitsController::GetInstance().Attach(m_units_observer);
