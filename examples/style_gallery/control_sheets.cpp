@@ -339,8 +339,8 @@ QWidget* MakeWindowSheet()
 
     auto* inner = new QMdiArea;
     for (int i = 0; i < 2; ++i) {
-        auto* text = new QTextEdit(
-            Text("<h3>A text</h3><p>With <b>bold</b> words and <i>others</i>.</p>"));
+        auto* text =
+            new QTextEdit(Text("<h3>A text</h3><p>With <b>bold</b> words and <i>others</i>.</p>"));
         QMdiSubWindow* sub = inner->addSubWindow(text);
         sub->setWindowTitle(Text("Document %1").arg(i + 1));
         sub->setWindowIcon(Icon("File.New"));

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPixmap>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace {
@@ -47,7 +48,17 @@ void FillHistory(QWidget* page)
 
 void FillProperties(QWidget* page)
 {
-    auto* layout = new QFormLayout(page);
+    // A low panel scrolls.
+    auto* outer = new QVBoxLayout(page);
+    outer->setContentsMargins(0, 0, 0, 0);
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* form = new QWidget;
+    area->setWidget(form);
+    outer->addWidget(area);
+    auto* layout = new QFormLayout(form);
     layout->setContentsMargins(8, 8, 8, 8);
     layout->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     layout->addRow(PanelPage::tr("Name"), new QLineEdit(PanelPage::tr("Gear wheel")));

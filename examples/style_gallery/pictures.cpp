@@ -335,6 +335,16 @@ QString FileName(const Ground& ground, const Scene& scene)
     return QStringLiteral("%1-%2.png").arg(ground.key, QLatin1String(scene.name));
 }
 
+/// The window in its best colours, as far as the window system lets it.
+void Activate(ViewerWindow& window)
+{
+    for (int i = 0; i < 25 && !window.isActiveWindow(); ++i) {
+        window.activateWindow();
+        QApplication::setActiveWindow(&window);
+        Settle(20);
+    }
+}
+
 } // namespace
 
 QVector<PictureSet> PictureSets(const QVector<int>& themes)
@@ -371,12 +381,8 @@ QStringList PictureNames(const PictureSet& set)
 bool TakePictures(ViewerWindow& window, const PictureSet& set, const QDir& folder)
 {
     const QString home = window.ribbonBar()->getPage(0)->title();
-    // No pointer over the pictures, and the window in its best colours.
+    // No pointer over the pictures.
     QCursor::setPos(QApplication::primaryScreen()->geometry().bottomRight());
-    window.activateWindow();
-    QApplication::setActiveWindow(&window);
-    for (int i = 0; i < 50 && !window.isActiveWindow(); ++i)
-        Settle(20);
     // At a higher resolution the same window holds more dots.
     const qreal grown = set.dpi / 96.0;
     bool good = true;
@@ -389,6 +395,7 @@ bool TakePictures(ViewerWindow& window, const PictureSet& set, const QDir& folde
             window.ShowSheet(ViewerWindow::Controls);
             window.resize(scene.size * grown);
             Settle();
+            Activate(window);
             scene.go(window);
             Settle();
             const QString path = folder.filePath(FileName(ground, scene));
