@@ -53,8 +53,11 @@ EmptyHint::~EmptyHint() = default;
 
 bool EmptyHint::eventFilter(QObject* watched, QEvent* event)
 {
+    // Other events come while the view dies, when it is no view any more.
+    if (event->type() != QEvent::Paint)
+        return false;
     const QAbstractItemModel* model = m_view.model();
-    if (event->type() != QEvent::Paint || !model || model->rowCount() > 0)
+    if (!model || model->rowCount() > 0)
         return false;
     const QString text = m_text();
     if (text.isEmpty())
