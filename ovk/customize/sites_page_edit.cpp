@@ -94,8 +94,15 @@ void UiCustomizeSitesWidget::Impl::OnRowsInserted(const Site& site, const QModel
     if (inserted.flags() & Qt::ItemIsEditable) {
         site.view->selectionModel()->setCurrentIndex(
             inserted, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-        site.view->edit(inserted);
+        Edit(*site.view, inserted);
     }
+}
+
+void UiCustomizeSitesWidget::Impl::Edit(QAbstractItemView& view, const QModelIndex& cell)
+{
+    // What is being edited elsewhere ends with its focus.
+    view.setFocus();
+    view.edit(cell);
 }
 
 SitesSelection UiCustomizeSitesWidget::Impl::SelectionOf(const Site& site) const
@@ -325,7 +332,7 @@ void UiCustomizeSitesWidget::Impl::Run(SitesAction action)
         break;
     case A::AssignShortcut:
         if (m_commands_menu_index.isValid())
-            mp_view_commands->edit(m_commands_menu_index);
+            Edit(*mp_view_commands, m_commands_menu_index);
         break;
     case A::ExpandAll:
     case A::CollapseAll:

@@ -97,6 +97,7 @@ private:
     // Actions
     void Run(SitesAction action);
     void AddToSite();
+    static void Edit(QAbstractItemView& view, const QModelIndex& cell);
     void DeleteItems(const Site& site);
     void DeleteComposite();
     void ShowContextMenu(const Site& site, const QPoint& position);

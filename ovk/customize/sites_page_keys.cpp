@@ -102,7 +102,7 @@ void UiCustomizeSitesWidget::Impl::EditCell(QAbstractItemView& view, int which)
         const QModelIndex cell = current.siblingAtColumn(column);
         if ((cell.flags() & Qt::ItemIsEditable) && which-- == 0) {
             view.scrollTo(cell);
-            view.edit(cell);
+            Edit(view, cell);
             return;
         }
     }

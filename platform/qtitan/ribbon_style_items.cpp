@@ -149,7 +149,9 @@ bool DrawItemPrimitive(QStyle::PrimitiveElement element, const Canvas& canvas)
         DrawItemRow(canvas);
         return true;
     case QStyle::PE_IndicatorItemViewItemDrop:
-        DrawDropMark(canvas);
+        // Views ask for it without a place too, while nothing may be dropped where the pointer is.
+        if (!canvas.option->rect.isNull())
+            DrawDropMark(canvas);
         return true;
     default:
         return false;

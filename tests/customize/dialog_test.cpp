@@ -11,7 +11,9 @@
 #include <ovk/ui_state/ui_profile.h>
 #include <ovk/ui_state/ui_profile_controller.h>
 #include <ovk/ui_state/ui_state_ribbon.h>
+#include <ovk/ui_state/ui_state_ribbon_group.h>
 #include <ovk/ui_state/ui_state_ribbon_page.h>
+#include <qtitan/ribbon.h>
 #include <ovk/ui_state/ui_state_shortcuts.h>
 
 #include <QCheckBox>
@@ -62,6 +64,8 @@ private Q_SLOTS:
     void theLayoutComboShowsAnotherLayout();
     void closingTheWindowDeletesTheDialog();
     void reopeningTakesAFreshBackup();
+    void anEditRebuildsOnlyItsGroup_data();
+    void anEditRebuildsOnlyItsGroup();
 };
 
 void CustomizeDialogTest::openingShowsTheDialogAndBlocksCommands()
@@ -412,6 +416,56 @@ void CustomizeDialogTest::reopeningTakesAFreshBackup()
     dialog.Model()->AddPage(-1);
     dialog.Get().reject();
     QCOMPARE(dialog.Ribbon()->GetChildCount(), pages);
+}
+
+void CustomizeDialogTest::anEditRebuildsOnlyItsGroup_data()
+{
+    QTest::addColumn<QString>("edit");
+    for (const char* edit : {"style", "check", "insert", "delete", "separator", "title"})
+        QTest::newRow(edit) << edit;
+}
+
+void CustomizeDialogTest::anEditRebuildsOnlyItsGroup()
+{
+    QFETCH(QString, edit);
+    Dialog dialog;
+    RibbonModel& model = *dialog.Model();
+    const QModelIndex page = model.index(0, 0);
+    auto* touched = dynamic_cast<UiStateRibbonGroup*>(model.GetItem(model.index(0, 0, page)));
+    auto* other = dynamic_cast<UiStateRibbonGroup*>(model.GetItem(model.index(1, 0, page)));
+    /// Counts the actions that come to a widget: a group that is filled anew gets its own again.
+    struct Counter : QObject
+    {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            added += event->type() == QEvent::ActionAdded ? 1 : 0;
+            return false;
+        }
+        int added = 0;
+    };
+    Counter at_touched;
+    Counter at_other;
+    touched->GetWidget()->installEventFilter(&at_touched);
+    other->GetWidget()->installEventFilter(&at_other);
+    const QModelIndex group = model.index(0, 0, page);
+    if (edit == QStringLiteral("style"))
+        model.setData(model.index(0, 1, group), int(Qt::ToolButtonIconOnly));
+    else if (edit == QStringLiteral("check"))
+        model.setData(model.index(0, 0, group), int(Qt::Unchecked), Qt::CheckStateRole);
+    else if (edit == QStringLiteral("insert"))
+        model.InsertCommands(group, {dialog.host.Command(QStringLiteral("View.Zoom"))}, -1);
+    else if (edit == QStringLiteral("delete"))
+        model.DeleteRow(group, 0);
+    else if (edit == QStringLiteral("separator"))
+        model.AddSeparator(group, -1);
+    else
+        model.setData(group, QStringLiteral("Other"));
+    QCoreApplication::processEvents();
+    // One filling is the group's actions, once.
+    QVERIFY2(at_touched.added <= touched->GetWidget()->actions().size(),
+             qPrintable(QString::number(at_touched.added)));
+    QCOMPARE(at_touched.added > 0, edit != QStringLiteral("title"));
+    QCOMPARE(at_other.added, 0);
 }
 
 OVK_TEST_CLASS(CustomizeDialogTest)

@@ -1,6 +1,7 @@
 #include "app/ui_dump.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -11,6 +12,7 @@
 #include <QMenu>
 #include <QSaveFile>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QToolButton>
 #include <QWidget>
 
@@ -54,6 +56,52 @@ void DescribeItems(const QMenu& menu, QJsonArray& children)
     }
 }
 
+/// A part of a widget, as if it were one.
+QJsonObject PartOf(const QWidget& widget, const char* kind, const QRect& rect, const QString& text)
+{
+    const QPoint origin = widget.mapToGlobal(rect.topLeft());
+    return {{"class", kind},       {"text", text},
+            {"x", origin.x()},     {"y", origin.y()},
+            {"width", rect.width()}, {"height", rect.height()}};
+}
+
+/// The cells of a list that are in sight, and how deep they lie.
+void DescribeCells(const QAbstractItemView& view, QJsonArray& children)
+{
+    if (!view.model() || !view.selectionModel())
+        return;
+    const QRect seen = view.viewport()->rect();
+    for (int y = 1; y < seen.height();) {
+        const QModelIndex row = view.indexAt({seen.center().x(), y});
+        const QRect rect = view.visualRect(row);
+        if (!row.isValid() || rect.height() <= 0)
+            break;
+        int level = 0;
+        for (QModelIndex parent = row.parent(); parent.isValid(); parent = parent.parent())
+            ++level;
+        for (int column = 0; column < view.model()->columnCount(row.parent()); ++column) {
+            const QModelIndex index = row.siblingAtColumn(column);
+            QJsonObject cell = PartOf(*view.viewport(), "Cell", view.visualRect(index) & seen,
+                                      index.data().toString());
+            cell.insert("column", column);
+            cell.insert("level", level);
+            cell.insert("selected", view.selectionModel()->isSelected(index));
+            cell.insert("checked", index.data(Qt::CheckStateRole).toInt() == Qt::Checked);
+            children.append(cell);
+        }
+        y = rect.bottom() + 2;
+    }
+}
+
+void DescribeTabs(const QTabBar& bar, QJsonArray& children)
+{
+    for (int i = 0; i < bar.count(); ++i) {
+        QJsonObject tab = PartOf(bar, "Tab", bar.tabRect(i), bar.tabText(i));
+        tab.insert("checked", bar.currentIndex() == i);
+        children.append(tab);
+    }
+}
+
 QJsonObject Describe(QWidget* widget)
 {
     const QPoint origin = widget->mapToGlobal(QPoint(0, 0));
@@ -81,6 +129,10 @@ QJsonObject Describe(QWidget* widget)
     QJsonArray children;
     if (const auto* menu = qobject_cast<const QMenu*>(widget))
         DescribeItems(*menu, children);
+    if (const auto* view = qobject_cast<const QAbstractItemView*>(widget))
+        DescribeCells(*view, children);
+    if (const auto* tabs = qobject_cast<const QTabBar*>(widget))
+        DescribeTabs(*tabs, children);
     for (QObject* child : widget->children()) {
         auto* child_widget = qobject_cast<QWidget*>(child);
         if (child_widget && child_widget->isVisible() && !child_widget->isWindow())
