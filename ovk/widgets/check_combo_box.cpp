@@ -93,6 +93,9 @@ CheckComboBox::CheckComboBox(QWidget* parent)
     connect(model, &CheckComboModel::checkStateChanged, impl, &Impl::Update);
     connect(model, &QAbstractItemModel::rowsInserted, impl, &Impl::Update);
     connect(model, &QAbstractItemModel::rowsRemoved, impl, &Impl::Update);
+    connect(model, &QAbstractItemModel::modelReset, impl, &Impl::Update);
+    // Another text of a checked row.
+    connect(model, &QAbstractItemModel::dataChanged, impl, &Impl::ShowText);
 
     // The usual one of a combo box leaves the check boxes no air, and draws them past the style.
     setItemDelegate(new QStyledItemDelegate(this));

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void theFieldIsOnlyShown();
     void theCurrentRowIsNotTheText();
     void theWheelChecksNothing();
+    void anotherTextOfARowIsShown();
+    void aResetModelChecksNothing();
     void theArrowsOpenThePopup_data();
     void theArrowsOpenThePopup();
     void aClickOnARowKeepsThePopupOpen();
@@ -179,6 +181,27 @@ void CheckComboBoxTest::theWheelChecksNothing()
         QVERIFY(!wheel.isAccepted());
     }
     QCOMPARE(mp_box->checkedItems(), QStringList());
+}
+
+void CheckComboBoxTest::anotherTextOfARowIsShown()
+{
+    mp_box->setCheckedItems({"Shells", "Supports"});
+    QSignalSpy spy(mp_box.get(), &CheckComboBox::checkedItemsChanged);
+    mp_box->setItemText(0, "Walls");
+    QCOMPARE(mp_box->lineEdit()->text(), QString("Walls,Supports"));
+    QCOMPARE(spy.size(), 0);
+}
+
+void CheckComboBoxTest::aResetModelChecksNothing()
+{
+    mp_box->setDefaultText("(none)");
+    mp_box->setCheckedItems({"Shells"});
+    mp_box->show();
+    mp_box->showPopup();
+    qobject_cast<QStandardItemModel*>(mp_box->model())->clear();
+    QCOMPARE(mp_box->lineEdit()->text(), QString("(none)"));
+    QCOMPARE(mp_box->checkedItems(), QStringList());
+    mp_box->QComboBox::hidePopup();
 }
 
 void CheckComboBoxTest::theArrowsOpenThePopup_data()

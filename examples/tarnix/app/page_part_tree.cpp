@@ -135,13 +135,12 @@ private:
             mp_sections->setChecked(i, true);
         }
         Say([this] {
-            mp_sections->setAccessibleName(Translated(QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Sections")));
+            mp_sections->setAccessibleName(
+                Translated(QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Sections")));
             mp_sections->setDefaultText(
                 Translated(QT_TRANSLATE_NOOP("tarnix::PartTreePage", "No section is shown")));
             for (int i = 0; i < SectionCount; ++i)
                 mp_sections->setItemText(i, Translated(k_sections[i]));
-            // The texts of the rows stand in the field.
-            mp_sections->setChecked(0, mp_sections->checked(0));
         });
         connect(mp_sections, &ovk::CheckComboBox::checkedItemsChanged, this,
                 [this] { ShowSections(); });
@@ -159,9 +158,10 @@ private:
         layout.addWidget(mp_proportions, 1, 1, Qt::AlignRight | Qt::AlignVCenter);
         layout.setColumnMinimumWidth(1, 36);
         Say([label] {
-            label->setText(Translated(QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Keep the proportions")));
-            label->setToolTip(Translated(
-                QT_TRANSLATE_NOOP("tarnix::PartTreePage", "A new size in one direction changes the others too")));
+            label->setText(
+                Translated(QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Keep the proportions")));
+            label->setToolTip(Translated(QT_TRANSLATE_NOOP(
+                "tarnix::PartTreePage", "A new size in one direction changes the others too")));
         });
     }
 
@@ -203,7 +203,8 @@ private:
         }
         m_values.clear();
         for (int i = 0; i < SectionCount; ++i)
-            m_sections[static_cast<size_t>(i)] = mp_tree->AddSection(Translated(k_sections[i]), QString());
+            m_sections[static_cast<size_t>(i)] =
+                mp_tree->AddSection(Translated(k_sections[i]), QString());
         AddGeneral(*m_sections[General]);
         AddLengths(*m_sections[Place], false);
         AddLengths(*m_sections[Size], true);
@@ -219,7 +220,8 @@ private:
     {
         using ovk::CheckBoxDelegate;
         m_name = AddRow(
-            section, Translated(QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Name")), ovk::TreeItemDelegateWrapper(),
+            section, Translated(QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Name")),
+            ovk::TreeItemDelegateWrapper(),
             [this] {
                 const Part* const part = First();
                 return QVariant(part ? part->name : QString());
@@ -236,7 +238,8 @@ private:
                OfFirst([](const Part& part) { return QColor::fromRgb(part.color); }),
                [this](const QVariant& value) { return Recolor(value.value<QColor>()); });
         AddRow(section, Translated(QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Locked")),
-               CheckBoxDelegate::GetInstance(), OfFirst([](const Part& part) { return part.locked; }),
+               CheckBoxDelegate::GetInstance(),
+               OfFirst([](const Part& part) { return part.locked; }),
                [this](const QVariant& value) {
                    const bool locked = value.toBool();
                    GetScene().SetLocked(
@@ -249,8 +252,9 @@ private:
     {
         if (!color.isValid())
             return false;
-        return GetScene().EditSelected(Phrase(k_context, QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Recolour")),
-                                       [&color](Part& part) { part.color = color.rgb(); });
+        return GetScene().EditSelected(
+            Phrase(k_context, QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Recolour")),
+            [&color](Part& part) { part.color = color.rgb(); });
     }
 
     void AddLengths(ovk::TreeEditItemBase& section, bool size)
@@ -289,8 +293,8 @@ private:
         fixed.z = box.low.z;
         const Transform map = Transform::About(fixed, Transform::Scaling(factors));
         return GetScene().EditSelectedMerged(
-            Phrase(k_context, QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Resize")), MergeKey(axis, true),
-            [&map](Part& part) { part.Apply(map); });
+            Phrase(k_context, QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Resize")),
+            MergeKey(axis, true), [&map](Part& part) { part.Apply(map); });
     }
 
     bool MoveTo(int axis, double mm)
@@ -299,8 +303,8 @@ private:
         shift[axis] = mm - GetScene().Bounds(true).Center()[axis];
         const Transform map = Transform::Translation(shift);
         return GetScene().EditSelectedMerged(
-            Phrase(k_context, QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Move")), MergeKey(axis, false),
-            [&map](Part& part) { part.Apply(map); });
+            Phrase(k_context, QT_TRANSLATE_NOOP("tarnix::PartTreePage", "Move")),
+            MergeKey(axis, false), [&map](Part& part) { part.Apply(map); });
     }
 
     /// What is typed into one field is one step to undo.
@@ -356,7 +360,8 @@ private:
             const auto index = static_cast<size_t>(m_figure_count);
             m_figure_values.push_back(std::make_unique<RowValue>(
                 [this, index] {
-                    return index < m_figures.size() ? QVariant(m_figures[index].second) : QVariant();
+                    return index < m_figures.size() ? QVariant(m_figures[index].second)
+                                                    : QVariant();
                 },
                 RowValue::Write()));
             section.AddItem(QString(), &m_figure_delegate)
