@@ -88,10 +88,10 @@ QByteArray BuildFile::Write(const PartList& parts, const Plate& plate,
         const Vec3 shift = part.GetPlacement().Shift();
         stream << shift.x << shift.y << shift.z;
     }
-    QStringList notes;
+    const auto note = [&note_of](int id) { return note_of ? note_of(id) : QString(); };
+    stream << note(0) << static_cast<quint32>(parts.size());
     for (const Part& part : parts)
-        notes.append(note_of ? note_of(part.id) : QString());
-    stream << (note_of ? note_of(0) : QString()) << notes;
+        stream << note(part.id);
     return bytes;
 }
 
@@ -157,9 +157,15 @@ BuildFile::Result BuildFile::Read(const QByteArray& bytes)
         result.parts.push_back(std::move(part));
     }
     if (version != k_without_notes) {
-        stream >> result.note >> result.notes;
-        if (stream.status() != QDataStream::Ok ||
-            result.notes.size() != static_cast<int>(result.parts.size()))
+        quint32 notes = 0;
+        stream >> result.note >> notes;
+        // Not a whole list at once: a damaged length would ask for all the memory there is.
+        for (quint32 i = 0; i < notes && i < result.parts.size(); ++i) {
+            QString note;
+            stream >> note;
+            result.notes.append(note);
+        }
+        if (stream.status() != QDataStream::Ok || notes != result.parts.size())
             return fail(tr("The build is damaged: its notes cannot be read."));
     }
     return result;
