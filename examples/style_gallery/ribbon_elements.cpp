@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
+#include <QPointer>
 #include <QSpinBox>
 #include <QStyleOption>
 #include <QToolButton>
@@ -106,7 +107,10 @@ OfficePopupMenu* MakeColorMenu(QWidget* parent)
     gallery->setMinimumItemCount(10);
     gallery->setCheckedItem(colors->item(16));
     menu->addAction(Text("No color"));
+    // A menu only borrows its galleries.
     menu->addGallery(gallery);
+    QObject::connect(menu, &QObject::destroyed,
+                     [owned = QPointer<RibbonGallery>(gallery)] { delete owned.data(); });
     menu->addSeparator();
     menu->addAction(Icon("Edit.Recolor"), Text("More Colors..."));
     return menu;
