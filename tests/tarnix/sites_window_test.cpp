@@ -2,6 +2,7 @@
 
 #include "../support/test_main.h"
 
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -230,6 +231,8 @@ private Q_SLOTS:
         QVERIFY(m_screen->Key("ctrl+comma"));
         QVERIFY(ClickEnabled([&] { return m_program->Named("optionsSearch"); }));
         QVERIFY(m_screen->Tool({"type", "--delay", "40", "language"}));
+        QTRY_COMPARE_WITH_TIMEOUT(m_program->Text("optionsSearch"), QString("language"),
+                                  k_patience_ms);
         const auto chooser = [&](const char* language) {
             return m_program->FindIn("options", [language](const QJsonObject& node) {
                 return node["class"].toString().endsWith("ComboBox") &&
@@ -345,11 +348,24 @@ private:
         return false;
     }
 
-    /// Clicks a widget as soon as it is there and enabled.
+    /// Clicks a widget as soon as it is there, enabled, and at rest: what comes on the screen may
+    /// still be on its way to its place.
     template <class Find> bool ClickEnabled(const Find& find) const
     {
-        return QTest::qWaitFor([&] { return find()["enabled"].toBool(); }, k_patience_ms) &&
-               m_program->Click(find());
+        constexpr int k_rest_ms = 250;
+        QRect place;
+        QElapsedTimer since;
+        const auto at_rest = [&] {
+            const QJsonObject widget = find();
+            if (!widget["enabled"].toBool() || Program::RectOf(widget) != place) {
+                place = Program::RectOf(widget);
+                since.restart();
+                return false;
+            }
+            return since.elapsed() > k_rest_ms;
+        };
+        since.start();
+        return QTest::qWaitFor(at_rest, k_patience_ms) && m_program->Click(find());
     }
 
     std::unique_ptr<Screen> m_screen;
