@@ -51,9 +51,7 @@ void Preference<QByteArray>::_DoLoad(QXmlStreamReader& reader)
     SetData(QByteArray::fromBase64(ElementText(reader).Get().toUtf8()));
 }
 
-void Preference<QByteArray>::_DoRestoreDefault()
-{
-}
+void Preference<QByteArray>::_DoRestoreDefault() {}
 
 Preference<QStringList>::Preference(PreferenceChapter& parent, const QString& name)
     : TPreferenceBasics<QStringList>(parent, name, QStringList())
@@ -82,7 +80,8 @@ void Preference<QStringList>::_DoLoad(QXmlStreamReader& reader)
         case QXmlStreamReader::StartElement:
             if (reader.name() == QLatin1String("item")) {
                 const ElementText text(reader);
-                if (!differs && same < present.size() && impl::IsSameValue(present.at(same), text.Get())) {
+                if (!differs && same < present.size() &&
+                    impl::IsSameValue(present.at(same), text.Get())) {
                     ++same;
                     break;
                 }
@@ -105,8 +104,6 @@ void Preference<QStringList>::_DoLoad(QXmlStreamReader& reader)
     }
 }
 
-void Preference<QStringList>::_DoRestoreDefault()
-{
-}
+void Preference<QStringList>::_DoRestoreDefault() {}
 
 } // namespace ovk

@@ -36,8 +36,8 @@ namespace {
 /// True for the same text, which is not empty; without the ceremony of a comparison by Qt.
 bool IsSame(QStringView left, QStringView right)
 {
-    return left.size() == right.size() && !left.isEmpty()
-           && std::memcmp(left.utf16(), right.utf16(), size_t(left.size()) * sizeof(char16_t)) == 0;
+    return left.size() == right.size() && !left.isEmpty() &&
+           std::memcmp(left.utf16(), right.utf16(), size_t(left.size()) * sizeof(char16_t)) == 0;
 }
 
 } // namespace

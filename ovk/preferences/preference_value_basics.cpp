@@ -139,9 +139,7 @@ void PreferenceValueBasics::_DoLoad(QXmlStreamReader& reader)
         _FromString(text.Get());
 }
 
-void PreferenceValueBasics::_FromString(const QString& /*text*/)
-{
-}
+void PreferenceValueBasics::_FromString(const QString& /*text*/) {}
 
 QString PreferenceValueBasics::_ToString() const
 {

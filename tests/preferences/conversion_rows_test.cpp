@@ -27,20 +27,28 @@ PreferenceConverter Converter(const QString& name)
 {
     using namespace preference_converters;
     static const QMap<QString, PreferenceConverter> s_converters{
-        {"KeepText", KeepText},           {"InvertBool", InvertBool},
-        {"FloatToInt", FloatToInt},       {"PairToStlUnits", PairToStlUnits},
-        {"MmToStlUnits", MmToStlUnits},   {"RgbaFloatsToColor", RgbaFloatsToColor},
-        {"ColorRefToColor", ColorRefToColor}, {"BoolToDigit", BoolToDigit},
-        {"DigitToBool", DigitToBool},     {"FloatToText", FloatToText}};
+        {"KeepText", KeepText},
+        {"InvertBool", InvertBool},
+        {"FloatToInt", FloatToInt},
+        {"PairToStlUnits", PairToStlUnits},
+        {"MmToStlUnits", MmToStlUnits},
+        {"RgbaFloatsToColor", RgbaFloatsToColor},
+        {"ColorRefToColor", ColorRefToColor},
+        {"BoolToDigit", BoolToDigit},
+        {"DigitToBool", DigitToBool},
+        {"FloatToText", FloatToText}};
     return s_converters.value(name);
 }
 
 /// Texts that tell the converters apart.
 const QStringList& Probes()
 {
-    static const QStringList s_probes{"true",        "false",           "1",        "1.5",
-                                      "-2.75",       "1.5 0.06",        "0 0 0 0",  "0.1 0.2 0.3 0.5",
-                                      "0 255 0 0 0", "a 305419896 b c d", "1234567", "text"};
+    static const QStringList s_probes{"true",        "false",
+                                      "1",           "1.5",
+                                      "-2.75",       "1.5 0.06",
+                                      "0 0 0 0",     "0.1 0.2 0.3 0.5",
+                                      "0 255 0 0 0", "a 305419896 b c d",
+                                      "1234567",     "text"};
     return s_probes;
 }
 
@@ -67,7 +75,8 @@ void ConversionRowsTest::everyRow_data()
     QCOMPARE(rows.size(), 280);
     QCOMPARE(results.size(), 280);
     for (int i = 0; i < rows.size(); ++i)
-        QTest::newRow(qPrintable(QString("%1: %2").arg(i).arg(rows.at(i).at(2)))) << i << rows.at(i) << results.at(i);
+        QTest::newRow(qPrintable(QString("%1: %2").arg(i).arg(rows.at(i).at(2))))
+            << i << rows.at(i) << results.at(i);
 }
 
 void ConversionRowsTest::everyRow()

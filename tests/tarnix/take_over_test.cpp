@@ -55,16 +55,19 @@ private:
     QTimer m_timer;
 };
 
-const QByteArray k_former = "<?xml version=\"1.0\" encoding=\"UTF-8\"?><PreferencesRoot>"
-                            "<General><Other><application_units>Inches</application_units></Other></General>"
-                            "<TarnixBuild><Width>300</Width><OfNoVersion>1</OfNoVersion></TarnixBuild>"
-                            "<TarnixView><Grid>false</Grid><GridStep>250000</GridStep></TarnixView>"
-                            "<TarnixCamera><StartView><azimuth>70</azimuth><elevation>15</elevation></StartView></TarnixCamera>"
-                            "<Colors><color_scenes>#ff102030</color_scenes></Colors>"
-                            "<TarnixFiles><Recent><item>/a.stl</item><item>/b.stl</item></Recent></TarnixFiles>"
-                            "<TarnixMaterials><Current>Nylon</Current><Profiles>"
-                            "<Material><Name>Nylon</Name><Density>1.15</Density><LayerThickness>1000</LayerThickness></Material>"
-                            "<Material><Name>Wax</Name></Material></Profiles></TarnixMaterials></PreferencesRoot>";
+const QByteArray k_former =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\"?><PreferencesRoot>"
+    "<General><Other><application_units>Inches</application_units></Other></General>"
+    "<TarnixBuild><Width>300</Width><OfNoVersion>1</OfNoVersion></TarnixBuild>"
+    "<TarnixView><Grid>false</Grid><GridStep>250000</GridStep></TarnixView>"
+    "<TarnixCamera><StartView><azimuth>70</azimuth><elevation>15</elevation></StartView></"
+    "TarnixCamera>"
+    "<Colors><color_scenes>#ff102030</color_scenes></Colors>"
+    "<TarnixFiles><Recent><item>/a.stl</item><item>/b.stl</item></Recent></TarnixFiles>"
+    "<TarnixMaterials><Current>Nylon</Current><Profiles>"
+    "<Material><Name>Nylon</Name><Density>1.15</Density><LayerThickness>1000</LayerThickness></"
+    "Material>"
+    "<Material><Name>Wax</Name></Material></Profiles></TarnixMaterials></PreferencesRoot>";
 
 } // namespace
 
@@ -76,7 +79,8 @@ class TakeOverTest : public QObject
 private Q_SLOTS:
     void theOptionsOfTheVersionBeforeAreTakenOver()
     {
-        WriteOld("0.8.0.0", "preferences.xml", "<PreferencesRoot><TarnixBuild><Width>77</Width></TarnixBuild></PreferencesRoot>");
+        WriteOld("0.8.0.0", "preferences.xml",
+                 "<PreferencesRoot><TarnixBuild><Width>77</Width></TarnixBuild></PreferencesRoot>");
         WriteOld("0.9.0.0", "preferences.xml", k_former);
         WriteOld("99.0.0.0", "preferences.xml", "<PreferencesRoot/>");
         Answer answer(QMessageBox::Yes);
@@ -149,34 +153,40 @@ class LegacyFileTest : public QObject
 private Q_SLOTS:
     void theValuesComeThroughTheHistoryOfNames()
     {
-        WriteOld("0.5.0.0", "xpf_defaults.xml",
-                 "<Preferences>\n"
-                 "  <General><Other><application_units>Inches</application_units></Other></General>\n"
-                 "  <Snapping><points_immediate_snapping>false</points_immediate_snapping>"
-                 "<lines_immediate_snapping>true</lines_immediate_snapping>"
-                 "<color_snap>0 1 0 1</color_snap></Snapping>\n"
-                 "  <translate_part><translate_step_size>10 0.5</translate_step_size>"
-                 "<enable_translate_snaping>true</enable_translate_snaping></translate_part>\n"
-                 "  <rotate_part><rotate_step_size>30</rotate_step_size>"
-                 "<enable_rotate_snapping>true</enable_rotate_snapping></rotate_part>\n"
-                 "  <MiniTarnix><wall_angle>37.5</wall_angle></MiniTarnix>\n"
-                 "  <background_scenes/>\n"
-                 "  <Colors><background_scenes>0 0 1 0.5</background_scenes><Other>"
-                 "<grid_secondary>1 0 0 1</grid_secondary><build_envelope>0 1 1 1</build_envelope></Other>"
-                 "<STL><marked_triangles>1 1 0 1</marked_triangles></STL></Colors>\n"
-                 "  <materials><material1>x 4278190335 0 0 0</material1>"
-                 "<allow_autocolor_reset>false</allow_autocolor_reset></materials>\n"
-                 "  <measurements><color_measurement>0 0 0 1</color_measurement></measurements>\n"
-                 "  <create_part><createpart_box><x>50.8 2</x><y>10</y></createpart_box>"
-                 "<createpart_prism><n>5</n></createpart_prism></create_part>\n"
-                 "  <import_options><is_auto_repair>true</is_auto_repair></import_options>\n"
-                 "  <Import_Import><inch_to_mm_if_size_less_than>2.7</inch_to_mm_if_size_less_than></Import_Import>\n"
-                 "  <Dialog_Settings><Save_Files><m_show_on_disk_warning_on_exit_tarnix>false"
-                 "</m_show_on_disk_warning_on_exit_tarnix></Save_Files></Dialog_Settings>\n"
-                 "  <Visualisation><General><enable_smooth_shading>false</enable_smooth_shading></General></Visualisation>\n"
-                 "  <TarnixCamera><StartView>60 12</StartView></TarnixCamera>\n"
-                 "  <mouse_shortcuts><Mouse_Shortcut><key>1</key></Mouse_Shortcut></mouse_shortcuts>\n"
-                 "</Preferences>\n");
+        WriteOld(
+            "0.5.0.0", "xpf_defaults.xml",
+            "<Preferences>\n"
+            "  <General><Other><application_units>Inches</application_units></Other></General>\n"
+            "  <Snapping><points_immediate_snapping>false</points_immediate_snapping>"
+            "<lines_immediate_snapping>true</lines_immediate_snapping>"
+            "<color_snap>0 1 0 1</color_snap></Snapping>\n"
+            "  <translate_part><translate_step_size>10 0.5</translate_step_size>"
+            "<enable_translate_snaping>true</enable_translate_snaping></translate_part>\n"
+            "  <rotate_part><rotate_step_size>30</rotate_step_size>"
+            "<enable_rotate_snapping>true</enable_rotate_snapping></rotate_part>\n"
+            "  <MiniTarnix><wall_angle>37.5</wall_angle></MiniTarnix>\n"
+            "  <background_scenes/>\n"
+            "  <Colors><background_scenes>0 0 1 0.5</background_scenes><Other>"
+            "<grid_secondary>1 0 0 1</grid_secondary><build_envelope>0 1 1 "
+            "1</build_envelope></Other>"
+            "<STL><marked_triangles>1 1 0 1</marked_triangles></STL></Colors>\n"
+            "  <materials><material1>x 4278190335 0 0 0</material1>"
+            "<allow_autocolor_reset>false</allow_autocolor_reset></materials>\n"
+            "  <measurements><color_measurement>0 0 0 1</color_measurement></measurements>\n"
+            "  <create_part><createpart_box><x>50.8 2</x><y>10</y></createpart_box>"
+            "<createpart_prism><n>5</n></createpart_prism></create_part>\n"
+            "  <import_options><is_auto_repair>true</is_auto_repair></import_options>\n"
+            "  "
+            "<Import_Import><inch_to_mm_if_size_less_than>2.7</inch_to_mm_if_size_less_than></"
+            "Import_Import>\n"
+            "  <Dialog_Settings><Save_Files><m_show_on_disk_warning_on_exit_tarnix>false"
+            "</m_show_on_disk_warning_on_exit_tarnix></Save_Files></Dialog_Settings>\n"
+            "  "
+            "<Visualisation><General><enable_smooth_shading>false</enable_smooth_shading></"
+            "General></Visualisation>\n"
+            "  <TarnixCamera><StartView>60 12</StartView></TarnixCamera>\n"
+            "  <mouse_shortcuts><Mouse_Shortcut><key>1</key></Mouse_Shortcut></mouse_shortcuts>\n"
+            "</Preferences>\n");
         Answer answer(QMessageBox::Yes);
         SetUpPreferences();
         HostFixture host("Tarnix");

@@ -81,10 +81,10 @@ public:
 
     // Units and steps.
     UnitPreference inches;
-    LengthPreference move_step; ///< millimetres
-    DoublePreference turn_step; ///< degrees
+    LengthPreference move_step;  ///< millimetres
+    DoublePreference turn_step;  ///< degrees
     SwitchPreference snap_turns; ///< angles that are typed come to a multiple of the step
-    DoublePreference gap;       ///< millimetres
+    DoublePreference gap;        ///< millimetres
     SwitchPreference snap_to_grid;
     IntPreference drag_pixels; ///< as far the pointer moves before a press becomes a drag
     SwitchPreference snap_points;
@@ -161,7 +161,8 @@ public:
     // Import and export.
     SwitchPreference repair_at_import;
     SwitchPreference place_at_import;
-    IntPreference inches_below; ///< a smaller part is taken to be in inches; 0 for none, millimetres
+    IntPreference
+        inches_below; ///< a smaller part is taken to be in inches; 0 for none, millimetres
     SwitchPreference dont_ask_unsaved;
     IntPreference picture_width;
     IntPreference picture_height;

@@ -9,17 +9,19 @@
 
 namespace tarnix {
 
-NumberBinding::NumberBinding(ovk::EditDblSuffix& editor, double& source) : m_editor(editor), m_source(source)
+NumberBinding::NumberBinding(ovk::EditDblSuffix& editor, double& source)
+    : m_editor(editor), m_source(source)
 {
-    QObject::connect(&editor, QOverload<double>::of(&QDoubleSpinBox::valueChanged), &m_context, [this](double value) {
-        if (m_showing)
-            return;
-        m_value = value * _Factor();
-        m_modifier = mdUser;
-        m_modified = std::abs(m_value - m_source) > 1e-9;
-        SetValid(m_editor.hasAcceptableInput());
-        _NotifyOnValueChanged();
-    });
+    QObject::connect(&editor, QOverload<double>::of(&QDoubleSpinBox::valueChanged), &m_context,
+                     [this](double value) {
+                         if (m_showing)
+                             return;
+                         m_value = value * _Factor();
+                         m_modifier = mdUser;
+                         m_modified = std::abs(m_value - m_source) > 1e-9;
+                         SetValid(m_editor.hasAcceptableInput());
+                         _NotifyOnValueChanged();
+                     });
     // A field that is emptied or half typed keeps its value; its text is not valid all the same.
     if (auto* const line = editor.findChild<QLineEdit*>()) {
         QObject::connect(line, &QLineEdit::textChanged, &m_context, [this] {
@@ -75,7 +77,8 @@ void NumberBinding::SetValid(bool valid)
 
 double LengthBinding::_Factor() const
 {
-    return ovk::UnitsController::GetCurrentUnits() == ovk::UnitsInch::GetInstance() ? k_mm_per_inch : 1.0;
+    return ovk::UnitsController::GetCurrentUnits() == ovk::UnitsInch::GetInstance() ? k_mm_per_inch
+                                                                                    : 1.0;
 }
 
 void CheckBinding::SetValid(bool valid)

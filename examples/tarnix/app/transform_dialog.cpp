@@ -32,7 +32,8 @@ QWidget* WithLabel(QWidget* parent, QWidget* editor, ovk::SuffixLabel* label)
     layout->addStretch(1);
     editor->setMinimumWidth(k_editor_width);
     // The width does not jump when the unit moves into the editors.
-    row->setMinimumWidth(k_editor_width + row->fontMetrics().horizontalAdvance(QStringLiteral("inch__")) + 12);
+    row->setMinimumWidth(k_editor_width +
+                         row->fontMetrics().horizontalAdvance(QStringLiteral("inch__")) + 12);
     row->setFocusProxy(editor);
     return row;
 }
@@ -76,8 +77,8 @@ private:
 };
 
 TransformDialog::TransformDialog(QWidget* parent, const QString& title, const Job& job)
-    : QDialog(parent), m_job(job), mp_top(std::make_unique<Top>(*this)), mp_lengths(std::make_unique<Fields>()),
-      mp_angles(std::make_unique<Fields>())
+    : QDialog(parent), m_job(job), mp_top(std::make_unique<Top>(*this)),
+      mp_lengths(std::make_unique<Fields>()), mp_angles(std::make_unique<Fields>())
 {
     setObjectName(QStringLiteral("transformDialog"));
     setWindowTitle(title);
@@ -129,14 +130,16 @@ TransformDialog::TransformDialog(QWidget* parent, const QString& title, const Jo
     mp_state->setMinimumHeight(mp_state->fontMetrics().height() + 4);
     layout->addWidget(mp_state);
 
-    mp_buttons = new QDialogButtonBox(
-        QDialogButtonBox::Ok | QDialogButtonBox::Apply | QDialogButtonBox::Reset | QDialogButtonBox::Cancel, this);
+    mp_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Apply |
+                                          QDialogButtonBox::Reset | QDialogButtonBox::Cancel,
+                                      this);
     connect(mp_buttons, &QDialogButtonBox::accepted, this, [this] {
         if (Commit())
             accept();
     });
     connect(mp_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(mp_buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, [this] { Commit(); });
+    connect(mp_buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this,
+            [this] { Commit(); });
     connect(mp_buttons->button(QDialogButtonBox::Reset), &QPushButton::clicked, this,
             [this] { mp_top->LoadFromSources(); });
     layout->addWidget(mp_buttons);

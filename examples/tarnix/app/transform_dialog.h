@@ -19,9 +19,9 @@ class StatusLabel;
 
 namespace tarnix {
 
-/// Asks for a move and a turn. The fields are bound to a value that outlives the dialog, so that the
-/// last move is there again; they follow the unit while the dialog is open. Only what is valid can
-/// be committed. The dialog does not block.
+/// Asks for a move and a turn. The fields are bound to a value that outlives the dialog, so that
+/// the last move is there again; they follow the unit while the dialog is open. Only what is valid
+/// can be committed. The dialog does not block.
 class TransformDialog : public QDialog
 {
     Q_OBJECT

@@ -26,8 +26,9 @@ template <class Preference, class Value> void Keep(Preference& preference, const
 void ApplyUnits(const Settings& settings)
 {
     const bool inches = settings.inches;
-    ovk::UnitsController::SetCurrentUnits(inches ? static_cast<const ovk::IUnits&>(ovk::UnitsInch::GetInstance())
-                                                 : ovk::UnitsMM::GetInstance());
+    ovk::UnitsController::SetCurrentUnits(
+        inches ? static_cast<const ovk::IUnits&>(ovk::UnitsInch::GetInstance())
+               : ovk::UnitsMM::GetInstance());
     MUserUnit::GetInstance().SetUnit(inches ? MUserUnit::utInch : MUserUnit::utMillimetre);
     const bool inside = g_pref_suffix_in_editor.GetData();
     if (ovk::SuffixController::GetInstance().IsInsideEditor() != inside) {
@@ -86,8 +87,9 @@ void ApplyPreferences(Host& host)
         workspace.SetSnap(snap);
     if (!host.view)
         return;
-    host.view->SetHandling({settings.orbit_speed, settings.zoom_speed, settings.invert_wheel, settings.drag_pixels,
-                            settings.flight_ms, static_cast<size_t>(settings.former_views.GetData())});
+    host.view->SetHandling({settings.orbit_speed, settings.zoom_speed, settings.invert_wheel,
+                            settings.drag_pixels, settings.flight_ms,
+                            static_cast<size_t>(settings.former_views.GetData())});
     host.view->SetStartView(settings.start_view.Azimuth(), settings.start_view.Elevation());
     if (host.view->GetCamera().perspective != settings.perspective)
         host.view->SetPerspective(settings.perspective);
@@ -153,7 +155,8 @@ Mesh PreparedForBuild(const Mesh& mesh, const Settings& settings)
     Mesh prepared = mesh;
     const Vec3 size = prepared.Bounds().Size();
     if (std::max({size.x, size.y, size.z}) < settings.inches_below)
-        prepared = prepared.Mapped(Transform::Scaling({k_mm_per_inch, k_mm_per_inch, k_mm_per_inch}));
+        prepared =
+            prepared.Mapped(Transform::Scaling({k_mm_per_inch, k_mm_per_inch, k_mm_per_inch}));
     if (settings.repair_at_import) {
         RepairReport report;
         prepared = RepairAll(prepared, report);

@@ -20,7 +20,8 @@ void UseOwnColors(ViewColors& colors, const Settings& settings);
 QRgb NewPartColor(const Settings& settings, int number);
 /// What is done to a mesh that comes from a file.
 Mesh PreparedForBuild(const Mesh& mesh, const Settings& settings);
-/// The figures of the material of that name become those of the program; unknown ones change nothing.
+/// The figures of the material of that name become those of the program; unknown ones change
+/// nothing.
 void UseMaterial(Settings& settings, const QString& name);
 
 } // namespace tarnix

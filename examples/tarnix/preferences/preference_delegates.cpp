@@ -22,7 +22,8 @@ constexpr int k_wide_width = 210;
 
 double MillimetresOfUnit()
 {
-    return ovk::UnitsController::GetCurrentUnits() == ovk::UnitsInch::GetInstance() ? k_mm_per_inch : 1.0;
+    return ovk::UnitsController::GetCurrentUnits() == ovk::UnitsInch::GetInstance() ? k_mm_per_inch
+                                                                                    : 1.0;
 }
 
 /// A row is as wide as its editor wishes to be.
@@ -50,11 +51,10 @@ QString NameOf(const QFont& font)
 
 } // namespace
 
-LengthDelegate::LengthDelegate(double low, double high) : m_low(low), m_high(high)
-{
-}
+LengthDelegate::LengthDelegate(double low, double high) : m_low(low), m_high(high) {}
 
-QWidget* LengthDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
+QWidget* LengthDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                      const QModelIndex& index) const
 {
     auto* const editor = new ovk::EditDblUnits(parent);
     editor->setMin(ovk::UnitsPair(m_low, m_low / k_mm_per_inch));
@@ -82,7 +82,8 @@ void LengthDelegate::setEditorData(QWidget* editor, const QModelIndex& index) co
         line->deselect();
 }
 
-NumberDelegate::NumberDelegate(const QString& suffix, double low, double high, int decimals, double step)
+NumberDelegate::NumberDelegate(const QString& suffix, double low, double high, int decimals,
+                               double step)
     : DoubleSpinBoxDelegate(suffix, low, high), m_step(step)
 {
     setDecimals(decimals);
@@ -141,16 +142,19 @@ QWidget* ThemeColorDelegate::createEditor(QWidget* parent, const QStyleOptionVie
     return WithWidth(editor, k_number_width);
 }
 
-QWidget* FontDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
+QWidget* FontDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                    const QModelIndex& index) const
 {
     auto* const button = new QPushButton(parent);
-    connect(button, &QPushButton::clicked, this, [this, button, row = QPersistentModelIndex(index)] {
-        auto* const dialog = new QFontDialog(_ReadItem(row).value<QFont>(), button->window());
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        dialog->setOption(QFontDialog::DontUseNativeDialog);
-        connect(dialog, &QFontDialog::fontSelected, this, [row](const QFont& font) { _WriteModel(row, font); });
-        dialog->open();
-    });
+    connect(
+        button, &QPushButton::clicked, this, [this, button, row = QPersistentModelIndex(index)] {
+            auto* const dialog = new QFontDialog(_ReadItem(row).value<QFont>(), button->window());
+            dialog->setAttribute(Qt::WA_DeleteOnClose);
+            dialog->setOption(QFontDialog::DontUseNativeDialog);
+            connect(dialog, &QFontDialog::fontSelected, this,
+                    [row](const QFont& font) { _WriteModel(row, font); });
+            dialog->open();
+        });
     return WithWidth(button, k_wide_width);
 }
 
@@ -160,7 +164,8 @@ void FontDelegate::setEditorData(QWidget* editor, const QModelIndex& index) cons
         button->setText(NameOf(_ReadItem(index).value<QFont>()));
 }
 
-QWidget* TextDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
+QWidget* TextDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                    const QModelIndex& index) const
 {
     auto* const edit = new QLineEdit(parent);
     edit->setFrame(false);
@@ -180,7 +185,8 @@ void TextDelegate::setEditorData(QWidget* editor, const QModelIndex& index) cons
         edit->setText(_ReadItem(index).toString());
 }
 
-QWidget* ActionDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const
+QWidget* ActionDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                      const QModelIndex&) const
 {
     auto* const button = new QPushButton(parent);
     // Later: what it does may take the row away, and the button with it.

@@ -18,7 +18,8 @@ public:
     /// Millimetres.
     LengthDelegate(double low, double high);
 
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const override {}
 
@@ -36,7 +37,8 @@ class NumberDelegate : public ovk::DoubleSpinBoxDelegate
 public:
     NumberDelegate(const QString& suffix, double low, double high, int decimals, double step);
 
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
 
 private:
     double m_step;
@@ -50,7 +52,8 @@ class WholeDelegate : public ovk::SpinBoxDelegate
 public:
     using SpinBoxDelegate::SpinBoxDelegate;
 
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
 };
 
 /// One of several texts, whose value may be anything.
@@ -63,7 +66,8 @@ public:
     explicit ChoiceDelegate(const QStringList& texts);
     ChoiceDelegate(const QStringList& texts, const QVariantList& values);
 
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
 
 protected:
     QVariant _ItemIndexToData(int itemIndex) const override;
@@ -81,7 +85,8 @@ class ThemeColorDelegate : public ovk::ColorEditDelegate
 public:
     explicit ThemeColorDelegate(const QString& text) : m_text(text) {}
 
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
 
 private:
     QString m_text;
@@ -93,7 +98,8 @@ class FontDelegate : public ovk::TreeItemDelegateBase
     Q_OBJECT
 
 public:
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const override {}
 };
@@ -104,7 +110,8 @@ class TextDelegate : public ovk::TreeItemDelegateBase
     Q_OBJECT
 
 public:
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const override {}
 };
@@ -117,7 +124,8 @@ class ActionDelegate : public ovk::TreeItemDelegateBase
 public:
     explicit ActionDelegate(const std::function<void()>& run) : m_run(run) {}
 
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const override {}
 

@@ -77,12 +77,14 @@ void PreferenceForm::AddSection(const QString& title)
 }
 
 void PreferenceForm::AddRow(const Title& title, ovk::TreeItemDelegateWrapper delegate,
-                            const std::function<QVariant()>& get, const std::function<void(const QVariant&)>& set,
+                            const std::function<QVariant()>& get,
+                            const std::function<void(const QVariant&)>& set,
                             ovk::Observable* observed, ovk::PreferenceBasics* preference)
 {
     Section& section = *m_sections.back();
     auto row = std::make_unique<Row>();
-    row->words = QStringList{m_pages.last(), section.title, title.text, title.hint}.join(QLatin1Char(' '));
+    row->words =
+        QStringList{m_pages.last(), section.title, title.text, title.hint}.join(QLatin1Char(' '));
     row->provider.get = get;
     row->provider.set = set;
     row->provider.changed = m_changed;
@@ -92,18 +94,22 @@ void PreferenceForm::AddRow(const Title& title, ovk::TreeItemDelegateWrapper del
     row->item->SetHint(title.hint);
     row->item->SetDataProvider(&row->provider);
     if (observed) {
-        row->observer = std::make_unique<ovk::ObserverFunctor>([row = row.get()] { row->Update(); }, false);
+        row->observer =
+            std::make_unique<ovk::ObserverFunctor>([row = row.get()] { row->Update(); }, false);
         observed->Attach(*row->observer);
     }
     section.rows.push_back(std::move(row));
 }
 
 template <class Preference, class Value>
-void PreferenceForm::_Add(const Title& title, Preference& preference, ovk::TreeItemDelegateWrapper delegate)
+void PreferenceForm::_Add(const Title& title, Preference& preference,
+                          ovk::TreeItemDelegateWrapper delegate)
 {
     AddRow(
-        title, std::move(delegate), [&preference] { return QVariant::fromValue<Value>(preference.GetData()); },
-        [&preference](const QVariant& value) { preference.SetData(value.value<Value>()); }, &preference, &preference);
+        title, std::move(delegate),
+        [&preference] { return QVariant::fromValue<Value>(preference.GetData()); },
+        [&preference](const QVariant& value) { preference.SetData(value.value<Value>()); },
+        &preference, &preference);
 }
 
 void PreferenceForm::AddSwitch(const Title& title, ovk::Preference<bool>& preference)
@@ -113,32 +119,38 @@ void PreferenceForm::AddSwitch(const Title& title, ovk::Preference<bool>& prefer
 
 void PreferenceForm::AddInvertedSwitch(const Title& title, ovk::Preference<bool>& preference)
 {
-    _Add<ovk::Preference<bool>, bool>(title, preference, ovk::CheckBoxInvertedDelegate::GetInstance());
+    _Add<ovk::Preference<bool>, bool>(title, preference,
+                                      ovk::CheckBoxInvertedDelegate::GetInstance());
 }
 
-void PreferenceForm::AddNumber(const Title& title, DoublePreference& preference, const QString& suffix, int decimals,
-                               double step)
+void PreferenceForm::AddNumber(const Title& title, DoublePreference& preference,
+                               const QString& suffix, int decimals, double step)
 {
     _Add<DoublePreference, double>(
-        title, preference, new NumberDelegate(suffix, preference.Low(), preference.High(), decimals, step));
+        title, preference,
+        new NumberDelegate(suffix, preference.Low(), preference.High(), decimals, step));
 }
 
 void PreferenceForm::AddLength(const Title& title, DoublePreference& preference)
 {
-    _Add<DoublePreference, double>(title, preference, new LengthDelegate(preference.Low(), preference.High()));
+    _Add<DoublePreference, double>(title, preference,
+                                   new LengthDelegate(preference.Low(), preference.High()));
 }
 
 void PreferenceForm::AddWhole(const Title& title, IntPreference& preference, const QString& suffix)
 {
-    _Add<IntPreference, int>(title, preference, new WholeDelegate(suffix, preference.Low(), preference.High()));
+    _Add<IntPreference, int>(title, preference,
+                             new WholeDelegate(suffix, preference.Low(), preference.High()));
 }
 
-void PreferenceForm::AddChoice(const Title& title, IntPreference& preference, const QStringList& texts)
+void PreferenceForm::AddChoice(const Title& title, IntPreference& preference,
+                               const QStringList& texts)
 {
     _Add<IntPreference, int>(title, preference, new ChoiceDelegate(texts));
 }
 
-void PreferenceForm::AddColor(const Title& title, ColorPreference& preference, const QString& without)
+void PreferenceForm::AddColor(const Title& title, ColorPreference& preference,
+                              const QString& without)
 {
     _Add<ColorPreference, QColor>(title, preference, new ThemeColorDelegate(without));
 }
@@ -148,9 +160,11 @@ void PreferenceForm::AddFont(const Title& title, FontPreference& preference)
     _Add<FontPreference, QFont>(title, preference, new FontDelegate);
 }
 
-void PreferenceForm::AddAction(const Title& title, const QString& button, const std::function<void()>& run)
+void PreferenceForm::AddAction(const Title& title, const QString& button,
+                               const std::function<void()>& run)
 {
-    AddRow(title, new ActionDelegate(run), [button] { return button; }, [](const QVariant&) {});
+    AddRow(
+        title, new ActionDelegate(run), [button] { return button; }, [](const QVariant&) {});
 }
 
 void PreferenceForm::Finish(int page)
@@ -211,7 +225,8 @@ void PreferenceForm::_NameSections(bool with_page)
 {
     const QString pattern = QStringLiteral("%1  \u203a  %2");
     for (const auto& section : m_sections) {
-        const QString title = with_page ? pattern.arg(m_pages.at(section->page), section->title) : section->title;
+        const QString title =
+            with_page ? pattern.arg(m_pages.at(section->page), section->title) : section->title;
         if (title != section->item->GetTitle())
             section->item->SetTitle(title);
     }

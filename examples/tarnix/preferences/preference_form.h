@@ -44,7 +44,8 @@ public:
     void AddSwitch(const Title& title, ovk::Preference<bool>& preference);
     /// Checked while the preference is false.
     void AddInvertedSwitch(const Title& title, ovk::Preference<bool>& preference);
-    void AddNumber(const Title& title, DoublePreference& preference, const QString& suffix, int decimals, double step);
+    void AddNumber(const Title& title, DoublePreference& preference, const QString& suffix,
+                   int decimals, double step);
     void AddLength(const Title& title, DoublePreference& preference);
     void AddWhole(const Title& title, IntPreference& preference, const QString& suffix = QString());
     void AddChoice(const Title& title, IntPreference& preference, const QStringList& texts);
@@ -52,13 +53,14 @@ public:
     void AddColor(const Title& title, ColorPreference& preference, const QString& without);
     void AddFont(const Title& title, FontPreference& preference);
     /// A row with a value of its own.
-    void AddRow(const Title& title, ovk::TreeItemDelegateWrapper delegate, const std::function<QVariant()>& get,
-                const std::function<void(const QVariant&)>& set, ovk::Observable* observed = nullptr,
-                ovk::PreferenceBasics* preference = nullptr);
+    void AddRow(const Title& title, ovk::TreeItemDelegateWrapper delegate,
+                const std::function<QVariant()>& get,
+                const std::function<void(const QVariant&)>& set,
+                ovk::Observable* observed = nullptr, ovk::PreferenceBasics* preference = nullptr);
     void AddAction(const Title& title, const QString& button, const std::function<void()>& run);
 
-    /// Shows a page and opens the editors of its rows; called once after the last row. Those of other
-    /// rows follow when they come into view.
+    /// Shows a page and opens the editors of its rows; called once after the last row. Those of
+    /// other rows follow when they come into view.
     void Finish(int page);
 
     QStringList Pages() const;
@@ -79,8 +81,8 @@ private:
     /// Among sections of several pages each says to which it belongs.
     void _NameSections(bool with_page);
     void _Show(const std::function<bool(const Section&, const Row&)>& wanted);
-    template <class Preference, class Value> void _Add(const Title& title, Preference& preference,
-                                                       ovk::TreeItemDelegateWrapper delegate);
+    template <class Preference, class Value>
+    void _Add(const Title& title, Preference& preference, ovk::TreeItemDelegateWrapper delegate);
 
     ovk::TreeEdit& m_tree;
     std::function<void()> m_changed;

@@ -16,7 +16,8 @@ constexpr double k_units_per_mm = 10000.0;
 
 } // namespace
 
-IntPreference::IntPreference(ovk::PreferenceChapter& chapter, const QString& name, int value, int low, int high)
+IntPreference::IntPreference(ovk::PreferenceChapter& chapter, const QString& name, int value,
+                             int low, int high)
     : TPreferenceBasics(chapter, name, value), m_low(low), m_high(high)
 {
 }
@@ -35,8 +36,8 @@ QString IntPreference::_ToString() const
     return QString::number(GetData());
 }
 
-DoublePreference::DoublePreference(ovk::PreferenceChapter& chapter, const QString& name, double value, double low,
-                                   double high)
+DoublePreference::DoublePreference(ovk::PreferenceChapter& chapter, const QString& name,
+                                   double value, double low, double high)
     : TPreferenceBasics(chapter, name, value), m_low(low), m_high(high)
 {
 }
@@ -67,7 +68,8 @@ QString LengthPreference::_ToString() const
     return ovk::convert<long, QString>(MUnit::ConvertFromMmToStlUnits(GetData()));
 }
 
-TextPreference::TextPreference(ovk::PreferenceChapter& chapter, const QString& name, const QString& value)
+TextPreference::TextPreference(ovk::PreferenceChapter& chapter, const QString& name,
+                               const QString& value)
     : TPreferenceBasics(chapter, name, value)
 {
 }
@@ -99,7 +101,8 @@ QString UnitPreference::_ToString() const
     return GetData() ? QStringLiteral("Inches") : QStringLiteral("Millimeters");
 }
 
-ColorPreference::ColorPreference(ovk::PreferenceChapter& chapter, const QString& name, const QColor& value)
+ColorPreference::ColorPreference(ovk::PreferenceChapter& chapter, const QString& name,
+                                 const QColor& value)
     : TPreferenceBasics(chapter, name, value)
 {
 }
@@ -129,10 +132,10 @@ QString FontPreference::_ToString() const
     return ovk::convert<QFont, QString>(GetData());
 }
 
-DirectionPreference::DirectionPreference(ovk::PreferenceChapter& chapter, const QString& name, double azimuth,
-                                         double elevation)
-    : PreferenceCustomize(chapter, name), m_default_azimuth(azimuth), m_default_elevation(elevation),
-      m_azimuth(azimuth), m_elevation(elevation)
+DirectionPreference::DirectionPreference(ovk::PreferenceChapter& chapter, const QString& name,
+                                         double azimuth, double elevation)
+    : PreferenceCustomize(chapter, name), m_default_azimuth(azimuth),
+      m_default_elevation(elevation), m_azimuth(azimuth), m_elevation(elevation)
 {
 }
 
@@ -156,7 +159,8 @@ void DirectionPreference::_DoSave(QXmlStreamWriter& writer)
 {
     writer.writeStartElement(GetName());
     writer.writeTextElement(QStringLiteral("azimuth"), ovk::convert<double, QString>(m_azimuth));
-    writer.writeTextElement(QStringLiteral("elevation"), ovk::convert<double, QString>(m_elevation));
+    writer.writeTextElement(QStringLiteral("elevation"),
+                            ovk::convert<double, QString>(m_elevation));
     writer.writeEndElement();
 }
 
@@ -169,7 +173,8 @@ void DirectionPreference::_DoLoad(QXmlStreamReader& reader)
                               : reader.name() == QLatin1String("elevation") ? &elevation
                                                                             : nullptr;
         bool good = false;
-        const double value = reader.readElementText(QXmlStreamReader::SkipChildElements).toDouble(&good);
+        const double value =
+            reader.readElementText(QXmlStreamReader::SkipChildElements).toDouble(&good);
         if (angle && good)
             *angle = value;
     }
@@ -195,7 +200,8 @@ void DirectionPreference::_LoadFromLegacyMap(const QString& path, QMap<QString, 
 }
 
 MaterialProfile::MaterialProfile(ovk::PreferenceChapter& collection)
-    : PreferenceChapter(collection, QStringLiteral("Material")), name(*this, QStringLiteral("Name")),
+    : PreferenceChapter(collection, QStringLiteral("Material")),
+      name(*this, QStringLiteral("Name")),
       density(*this, QStringLiteral("Density"), 1.24, 0.1, 25.0),
       overhang(*this, QStringLiteral("Overhang"), 45.0, 5.0, 85.0),
       layer_thickness(*this, QStringLiteral("LayerThickness"), 0.2, 0.01, 5.0),
@@ -210,7 +216,8 @@ MaterialProfiles::MaterialProfiles(ovk::PreferenceChapter& parent, const QString
 
 MaterialProfile* MaterialProfiles::At(int index) const
 {
-    return index >= 0 && index < Count() ? static_cast<MaterialProfile*>(Items().at(index)) : nullptr;
+    return index >= 0 && index < Count() ? static_cast<MaterialProfile*>(Items().at(index))
+                                         : nullptr;
 }
 
 MaterialProfile* MaterialProfiles::Find(const QString& name) const
@@ -222,7 +229,8 @@ MaterialProfile* MaterialProfiles::Find(const QString& name) const
     return nullptr;
 }
 
-MaterialProfile& MaterialProfiles::Add(const QString& name, double density, double overhang, double thickness)
+MaterialProfile& MaterialProfiles::Add(const QString& name, double density, double overhang,
+                                       double thickness)
 {
     auto* const profile = static_cast<MaterialProfile*>(_CreateItem());
     profile->name.SetData(name);
@@ -245,11 +253,13 @@ void MaterialProfiles::Remove(int index)
     for (int i = 0; i < Count(); ++i) {
         const MaterialProfile& profile = *At(i);
         if (i != index)
-            kept.append({profile.name, profile.density, profile.overhang, profile.layer_thickness, profile.color});
+            kept.append({profile.name, profile.density, profile.overhang, profile.layer_thickness,
+                         profile.color});
     }
     Clear();
     for (const Values& values : kept)
-        Add(values.name, values.density, values.overhang, values.thickness).color.SetData(values.color);
+        Add(values.name, values.density, values.overhang, values.thickness)
+            .color.SetData(values.color);
 }
 
 void MaterialProfiles::AddUsual()

@@ -14,7 +14,9 @@ namespace tarnix {
 class Chapter : public ovk::PreferenceChapter
 {
 public:
-    Chapter(ovk::PreferenceChapter& parent, const QString& name) : PreferenceChapter(parent, name) {}
+    Chapter(ovk::PreferenceChapter& parent, const QString& name) : PreferenceChapter(parent, name)
+    {
+    }
 };
 
 /// A whole number between two bounds, stored as decimal text.
@@ -22,7 +24,8 @@ class IntPreference : public ovk::TPreferenceBasics<int>
 {
 public:
     using ovk::TPreferenceBasics<int>::operator=;
-    IntPreference(ovk::PreferenceChapter& chapter, const QString& name, int value, int low, int high);
+    IntPreference(ovk::PreferenceChapter& chapter, const QString& name, int value, int low,
+                  int high);
 
     int Low() const { return m_low; }
     int High() const { return m_high; }
@@ -41,7 +44,8 @@ class DoublePreference : public ovk::TPreferenceBasics<double>
 {
 public:
     using ovk::TPreferenceBasics<double>::operator=;
-    DoublePreference(ovk::PreferenceChapter& chapter, const QString& name, double value, double low, double high);
+    DoublePreference(ovk::PreferenceChapter& chapter, const QString& name, double value, double low,
+                     double high);
 
     double Low() const { return m_low; }
     double High() const { return m_high; }
@@ -72,7 +76,8 @@ class TextPreference : public ovk::TPreferenceBasics<QString>
 {
 public:
     using ovk::TPreferenceBasics<QString>::operator=;
-    TextPreference(ovk::PreferenceChapter& chapter, const QString& name, const QString& value = QString());
+    TextPreference(ovk::PreferenceChapter& chapter, const QString& name,
+                   const QString& value = QString());
 
 protected:
     void _FromString(const QString& text) override;
@@ -92,7 +97,10 @@ class UnitPreference : public SwitchPreference
 {
 public:
     using SwitchPreference::operator=;
-    UnitPreference(ovk::PreferenceChapter& chapter, const QString& name) : SwitchPreference(chapter, name, false) {}
+    UnitPreference(ovk::PreferenceChapter& chapter, const QString& name)
+        : SwitchPreference(chapter, name, false)
+    {
+    }
 
 protected:
     void _FromString(const QString& text) override;
@@ -104,7 +112,8 @@ class ColorPreference : public ovk::TPreferenceBasics<QColor>
 {
 public:
     using ovk::TPreferenceBasics<QColor>::operator=;
-    ColorPreference(ovk::PreferenceChapter& chapter, const QString& name, const QColor& value = QColor());
+    ColorPreference(ovk::PreferenceChapter& chapter, const QString& name,
+                    const QColor& value = QColor());
 
     /// The colour, or the one of the theme.
     QColor Or(const QColor& of_theme) const { return GetData().isValid() ? GetData() : of_theme; }
@@ -131,7 +140,8 @@ protected:
 class DirectionPreference : public ovk::PreferenceCustomize, public ovk::Observable
 {
 public:
-    DirectionPreference(ovk::PreferenceChapter& chapter, const QString& name, double azimuth, double elevation);
+    DirectionPreference(ovk::PreferenceChapter& chapter, const QString& name, double azimuth,
+                        double elevation);
 
     double Azimuth() const { return m_azimuth; }
     double Elevation() const { return m_elevation; }
@@ -160,10 +170,10 @@ public:
     explicit MaterialProfile(ovk::PreferenceChapter& collection);
 
     TextPreference name;
-    DoublePreference density;          ///< grams a cubic centimetre
-    DoublePreference overhang;         ///< degrees
-    LengthPreference layer_thickness;  ///< millimetres
-    ColorPreference color;             ///< of new parts; invalid for the colours in turn
+    DoublePreference density;         ///< grams a cubic centimetre
+    DoublePreference overhang;        ///< degrees
+    LengthPreference layer_thickness; ///< millimetres
+    ColorPreference color;            ///< of new parts; invalid for the colours in turn
 };
 
 /// The materials that the user may print with.

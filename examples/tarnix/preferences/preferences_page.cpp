@@ -118,7 +118,8 @@ PreferencesPage::PreferencesPage(Host& host, QWidget* parent)
         m_host.settings.inches.SetData(index == 1);
         Changed();
     });
-    mp_materials_observer = std::make_unique<ovk::ObserverFunctor>([this] { m_rebuild.start(); }, false);
+    mp_materials_observer =
+        std::make_unique<ovk::ObserverFunctor>([this] { m_rebuild.start(); }, false);
     host.settings.materials.Attach(*mp_materials_observer);
     connect(&host.workspace, &Workspace::FormatChanged, this, &PreferencesPage::UpdateUnit);
     connect(mp_restore_page, &QPushButton::clicked, this, [this] { mp_form->RestoreShown(); });
@@ -259,8 +260,8 @@ void PreferencesPage::UpdateUnit()
 
 void PreferencesPage::AskImport()
 {
-    auto* const dialog = new QFileDialog(this, Texts::tr("Take Over Options"), m_host.settings.folder,
-                                         Texts::tr("Options (*.xml)"));
+    auto* const dialog = new QFileDialog(this, Texts::tr("Take Over Options"),
+                                         m_host.settings.folder, Texts::tr("Options (*.xml)"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setOption(QFileDialog::DontUseNativeDialog);
     dialog->setFileMode(QFileDialog::ExistingFile);

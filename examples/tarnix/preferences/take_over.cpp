@@ -22,7 +22,8 @@ void SetUpPreferences()
     preferences->SetLogger([](const QString& line) { qInfo("%s", qPrintable(line)); });
     preferences->SetUserQuery([] {
         constexpr int k_take_over = 4;
-        return AskToTakeOver(QApplication::translate("tarnix::Start", "Take over the options of the version before?"))
+        return AskToTakeOver(QApplication::translate(
+                   "tarnix::Start", "Take over the options of the version before?"))
                    ? k_take_over
                    : 0;
     });
