@@ -61,7 +61,7 @@ public:
     {
         if (!isValid())
             return QRect();
-        const QRect tab = m_bar->tabRect(m_page.data());
+        const QRect tab = m_bar->visibleTabRect(m_page.data());
         return tab.isEmpty() ? QRect() : tab.translated(m_bar->mapToGlobal(QPoint(0, 0)));
     }
 

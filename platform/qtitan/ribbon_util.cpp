@@ -19,7 +19,11 @@ constexpr int MostShown = 400;
 
 QString shortened(const QString& text)
 {
-    return text.size() <= MostShown ? text : text.left(MostShown) + QChar(0x2026);
+    if (text.size() <= MostShown)
+        return text;
+    // Never through the middle of a character of two units.
+    const int most = text.at(MostShown - 1).isHighSurrogate() ? MostShown - 1 : MostShown;
+    return text.left(most) + QChar(0x2026);
 }
 
 QString plainText(const QString& title)

@@ -6,6 +6,7 @@
 #include "platform/qtitan/ribbon_page_area_p.h"
 #include "platform/qtitan/ribbon_page_p.h"
 #include "platform/qtitan/ribbon_tab_bar_p.h"
+#include "platform/qtitan/ribbon_util_p.h"
 #include "tests/qtitan/ribbon_samples.h"
 
 #include <QScreen>
@@ -142,6 +143,20 @@ private Q_SLOTS:
         w.window.resize(300, 400);
         Window::Settle();
         QVERIFY(!Picture(w.bar).isNull());
+    }
+
+    void aTextIsShortenedBetweenItsCharacters()
+    {
+        const QString text(100, QLatin1Char('x'));
+        QCOMPARE(shortened(text), text);
+        QCOMPARE(shortened(Long()).size(), 401);
+        QCOMPARE(shortened(Long()).right(1), QString(QChar(0x2026)));
+        const QString pairs = QString::fromUtf8("\xF0\x9F\x96\xA8").repeated(300);
+        for (const QString& wide : {pairs, QLatin1Char('x') + pairs}) {
+            const QString cut = shortened(wide);
+            QVERIFY(cut.size() < wide.size());
+            QVERIFY(!cut.at(cut.size() - 2).isHighSurrogate());
+        }
     }
 
     void aTitleOfTenThousandCharactersIsElided_data()
