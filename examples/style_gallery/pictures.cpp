@@ -13,6 +13,7 @@
 #include <QSaveFile>
 #include <QScreen>
 #include <QTextStream>
+#include <QToolButton>
 #include <cstdio>
 #include <functional>
 #include <qtitan/ribbon.h>
@@ -146,6 +147,19 @@ void HideCollapsedGroups(ViewerWindow& window)
         group->hidePopup();
 }
 
+/// The menu of colours under its button.
+void ShowColors(ViewerWindow& window)
+{
+    Settle();
+    for (RibbonGroup* group : window.ribbonBar()->currentPage()->groups()) {
+        for (QAction* action : group->actions()) {
+            const QToolButton* button = group->buttonForAction(action);
+            if (button && action->text() == QLatin1String("Colour"))
+                window.ColorMenu()->popup(button->mapToGlobal(QPoint(0, button->height())));
+        }
+    }
+}
+
 void CloseDialogs(ViewerWindow&)
 {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -253,7 +267,7 @@ const std::vector<Scene>& Scenes()
          true,
          [](W& w) {
              w.ShowPage(W::tr("Elements"));
-             w.ColorMenu()->popup(w.mapToGlobal(QPoint(560, 150)));
+             ShowColors(w);
          },
          [](W& w) { w.ColorMenu()->hide(); }},
         {"menu",
