@@ -17,14 +17,17 @@ namespace tarnix {
 class PreferenceForm::Provider : public ovk::IItemDataProvider
 {
 public:
-    QVariant GetData() override { return get(); }
+    QVariant GetData() override { return *valid ? get() : QVariant(); }
     bool SetData(const QVariant& value) override
     {
+        if (!*valid)
+            return false;
         set(value);
         changed();
         return true;
     }
 
+    const bool* valid = nullptr;
     std::function<QVariant()> get;
     std::function<void(const QVariant&)> set;
     std::function<void()> changed;
@@ -35,7 +38,7 @@ struct PreferenceForm::Row
     void Update()
     {
         // To the view a hidden row is not there.
-        if (item->IsVisible() && section->IsVisible())
+        if (*provider.valid && item->IsVisible() && section->IsVisible())
             item->Updated();
     }
 
@@ -85,6 +88,7 @@ void PreferenceForm::AddRow(const Title& title, ovk::TreeItemDelegateWrapper del
     auto row = std::make_unique<Row>();
     row->words =
         QStringList{m_pages.last(), section.title, title.text, title.hint}.join(QLatin1Char(' '));
+    row->provider.valid = &m_valid;
     row->provider.get = get;
     row->provider.set = set;
     row->provider.changed = m_changed;
@@ -236,7 +240,7 @@ void PreferenceForm::RestoreShown()
 {
     for (const auto& section : m_sections) {
         for (const auto& row : section->rows) {
-            if (row->preference && section->item->IsVisible() && row->item->IsVisible())
+            if (m_valid && row->preference && section->item->IsVisible() && row->item->IsVisible())
                 row->preference->RestoreDefault();
         }
     }
@@ -249,6 +253,11 @@ void PreferenceForm::Update()
         for (const auto& row : section->rows)
             row->Update();
     }
+}
+
+void PreferenceForm::Invalidate()
+{
+    m_valid = false;
 }
 
 int PreferenceForm::RowCount() const

@@ -71,6 +71,9 @@ public:
     void RestoreShown();
     /// Reads all rows again; for what they follow without being told.
     void Update();
+    /// Lets no row read or write any more: what some of them stand for is gone, and the form is to be
+    /// made anew.
+    void Invalidate();
     int RowCount() const;
 
 private:
@@ -87,6 +90,7 @@ private:
     ovk::TreeEdit& m_tree;
     std::function<void()> m_changed;
     QStringList m_pages;
+    bool m_valid = true;
     std::vector<std::unique_ptr<Section>> m_sections;
 };
 

@@ -118,8 +118,14 @@ PreferencesPage::PreferencesPage(Host& host, QWidget* parent)
         m_host.settings.inches.SetData(index == 1);
         Changed();
     });
-    mp_materials_observer =
-        std::make_unique<ovk::ObserverFunctor>([this] { m_rebuild.start(); }, false);
+    mp_materials_observer = std::make_unique<ovk::ObserverFunctor>(
+        [this] {
+            // The rows of the former ones must not look at them once more.
+            if (mp_form)
+                mp_form->Invalidate();
+            m_rebuild.start();
+        },
+        false);
     host.settings.materials.Attach(*mp_materials_observer);
     connect(&host.workspace, &Workspace::FormatChanged, this, &PreferencesPage::UpdateUnit);
     connect(mp_restore_page, &QPushButton::clicked, this, [this] { mp_form->RestoreShown(); });
