@@ -40,8 +40,8 @@ using docking_benchmark::Settle;
 constexpr int c_contents = 60;
 const QSize c_large(1600, 1000);
 const QSize c_small(900, 600);
-const QSize c_growth_large(3400, 3200);
-const QSize c_growth_small(3000, 2800);
+const QSize c_growth_large(3800, 3700);
+const QSize c_growth_small(3500, 3450);
 constexpr int c_step = 20;
 
 struct Subject
