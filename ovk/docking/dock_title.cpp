@@ -2,6 +2,7 @@
 
 #include "ovk/core/icons_controller.h"
 
+#include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
@@ -46,6 +47,12 @@ bool IsHidden(const QWidget& button)
 }
 
 } // namespace
+
+bool IsStrayFocus(const QWidget& button, const QFocusEvent& event)
+{
+    return event.reason() == Qt::ActiveWindowFocusReason &&
+           !button.window()->testAttribute(Qt::WA_KeyboardFocusChange);
+}
 
 DockTitle::DockTitle(QWidget* parent) : QWidget(parent) {}
 
@@ -220,6 +227,13 @@ void DockButton::keyPressEvent(QKeyEvent* event)
         click();
     else
         QToolButton::keyPressEvent(event);
+}
+
+void DockButton::focusInEvent(QFocusEvent* event)
+{
+    QToolButton::focusInEvent(event);
+    if (IsStrayFocus(*this, *event))
+        QTimer::singleShot(0, this, [this] { clearFocus(); });
 }
 
 MinimizeButton::MinimizeButton(QWidget* parent) : DockButton(parent)

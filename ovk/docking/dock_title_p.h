@@ -10,6 +10,10 @@
 
 namespace ovk {
 
+/// Did a button get the focus only because its window was activated, nobody having walked there by
+/// key? Work does not begin at a button that folds or closes panels.
+bool IsStrayFocus(const QWidget& button, const QFocusEvent& event);
+
 /// A title bar: a text with buttons before and behind it.
 class OVK_TEST_EXPORT DockTitle : public QWidget
 {
@@ -66,6 +70,7 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
     /// Loads the icon anew, for a style or a direction that has changed.
     virtual void RefreshIcon() = 0;

@@ -1,9 +1,13 @@
 #include "ovk/docking/dock_toolbox_site_handle_p.h"
 
 #include "ovk/core/icons_controller.h"
+#include "ovk/docking/dock_layout.h"
+#include "ovk/docking/dock_site.h"
+#include "ovk/docking/dock_title_p.h"
 #include "ovk/docking/dock_toolbox_site_p.h"
 #include "ovk/docking/dock_widget.h"
 
+#include <QtCore/QTimer>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
@@ -163,7 +167,26 @@ bool DockToolboxSiteHandle::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
         update();
+    if (event->type() == QEvent::FocusIn && watched == mp_button &&
+        IsStrayFocus(*mp_button, static_cast<const QFocusEvent&>(*event)))
+        QTimer::singleShot(0, this, &DockToolboxSiteHandle::PassFocusOn);
     return QWidget::eventFilter(watched, event);
+}
+
+void DockToolboxSiteHandle::PassFocusOn()
+{
+    if (!mp_button->hasFocus())
+        return;
+    QWidget* const central = mp_site->GetDockSite()->GetRootLayout()->GetCentralWidget();
+    for (QWidget* next = nextInFocusChain(); central && next != this;
+         next = next->nextInFocusChain()) {
+        if ((next == central || central->isAncestorOf(next)) && next->isVisible() &&
+            next->isEnabled() && (next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus) {
+            next->setFocus(Qt::ActiveWindowFocusReason);
+            return;
+        }
+    }
+    mp_button->clearFocus();
 }
 
 QSize DockToolboxSiteHandleHorizontal::sizeHint() const

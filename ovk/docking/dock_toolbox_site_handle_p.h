@@ -50,6 +50,7 @@ protected:
     bool IsSiteMinimized() const;
 
 private:
+    void PassFocusOn();
     int Along(const QMouseEvent& event) const;
     /// Icon and texts.
     void Dress();

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void aHandleDragsTheWidthOfItsSide();
     void aDoubleClickOnATitleFoldsAndUnfolds();
     void aClickOnATabGivesTheFocusToItsPage();
+    void workDoesNotBeginAtAButtonThatFolds();
     void theMenuKeyOpensThePanelsMenu();
     void floatingPanelsStayAboveTheirWindowOnly();
     void aPanelThatFloatsBeforeItsWindowShowsLiesAboveIt();
@@ -230,6 +231,32 @@ void DockX11WindowTest::aClickOnATabGivesTheFocusToItsPage()
     QTRY_VERIFY(second->findChild<QLineEdit*>()->hasFocus());
     m_hand->Key("x");
     QTRY_COMPARE(second->findChild<QLineEdit*>()->text(), QString("x"));
+}
+
+void DockX11WindowTest::workDoesNotBeginAtAButtonThatFolds()
+{
+    DockFixture fixture(QSize(800, 600), false);
+    fixture.central->setFocusPolicy(Qt::StrongFocus);
+    DockWidget* const panel = fixture.Panel("panel", QSize(200, 150));
+    fixture.Left()->AddWidget(panel);
+    fixture.window.show();
+    fixture.manager->show();
+    Shown(fixture.window);
+    fixture.window.activateWindow();
+    QTRY_VERIFY(fixture.window.isActiveWindow());
+    QTRY_VERIFY(fixture.central->hasFocus());
+    m_hand->Key("space");
+    QVERIFY(!fixture.Left()->IsMinimized());
+    // Who walks there by key finds it all the same.
+    QToolButton* const button = fixture.Left()->GetDockSite()->_pp()->handle->GetButton();
+    for (int i = 0; i < 10 && !button->hasFocus(); ++i) {
+        const QWidget* const before = QApplication::focusWidget();
+        m_hand->Key("Tab");
+        QTRY_VERIFY(QApplication::focusWidget() != before);
+    }
+    QVERIFY(button->hasFocus());
+    m_hand->Key("space");
+    QTRY_VERIFY(fixture.Left()->IsMinimized());
 }
 
 void DockX11WindowTest::theMenuKeyOpensThePanelsMenu()
