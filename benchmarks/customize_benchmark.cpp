@@ -160,8 +160,7 @@ class BenchApplication : public ovk::Application
 class Host
 {
 public:
-    Host(int commands, int spots_a_group)
-        : m_controller(new ovk::UiController), m_factory(commands)
+    Host(int commands, int spots_a_group) : m_controller(new ovk::UiController), m_factory(commands)
     {
         new ovk::UiProfileController; // the root controller's
         m_features = std::make_unique<ovk::UiFeaturesController>();
@@ -200,8 +199,7 @@ public:
     {
         return m_window->findChild<QDialog*>(QStringLiteral("UiCustomizeDialog"));
     }
-    template <class Widget>
-    Widget* Find(const char* name) const
+    template <class Widget> Widget* Find(const char* name) const
     {
         return Dialog()->findChild<Widget*>(QLatin1String(name));
     }

@@ -25,10 +25,7 @@ QComboBox* CreateStyleCombo(QWidget* parent, int rows, const ComboDelegate& dele
 
 } // namespace
 
-ComboDelegate::ComboDelegate(QObject* parent)
-    : QStyledItemDelegate(parent)
-{
-}
+ComboDelegate::ComboDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
 
 ComboDelegate::~ComboDelegate() = default;
 
@@ -53,7 +50,8 @@ void ComboDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
     if (!combo || combo->currentIndex() < 0)
         return;
     const QWidget* viewport = editor->parentWidget();
-    const auto* view = viewport ? qobject_cast<QAbstractItemView*>(viewport->parentWidget()) : nullptr;
+    const auto* view =
+        viewport ? qobject_cast<QAbstractItemView*>(viewport->parentWidget()) : nullptr;
     if (!view || !view->selectionModel())
         return;
     for (const QModelIndex& selected : view->selectionModel()->selectedIndexes()) {
@@ -70,10 +68,7 @@ void ComboDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionView
         combo->showPopup();
 }
 
-ComboDelegateQab::ComboDelegateQab(QObject* parent)
-    : ComboDelegate(parent)
-{
-}
+ComboDelegateQab::ComboDelegateQab(QObject* parent) : ComboDelegate(parent) {}
 
 ComboDelegateQab::~ComboDelegateQab() = default;
 

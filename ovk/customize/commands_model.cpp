@@ -15,10 +15,7 @@
 
 namespace ovk {
 
-CommandsModel::CommandsModel(QObject* parent)
-    : QAbstractTableModel(parent)
-{
-}
+CommandsModel::CommandsModel(QObject* parent) : QAbstractTableModel(parent) {}
 
 CommandsModel::~CommandsModel() = default;
 
@@ -32,7 +29,8 @@ void CommandsModel::SetLayout(UiLayout* layout)
     if (layout) {
         m_layout_gone =
             connect(&impl::LifetimeOf(*layout), &QObject::destroyed, this, &CommandsModel::Clear);
-        mp_shortcuts = dynamic_cast<UiStateShortcuts*>(layout->GetState(UiStateShortcuts::GetSuiteName()));
+        mp_shortcuts =
+            dynamic_cast<UiStateShortcuts*>(layout->GetState(UiStateShortcuts::GetSuiteName()));
     }
     static_cast<QList<UiCommand*>&>(*this) = Offered();
     Watch();

@@ -46,10 +46,7 @@ bool FitCommands(const SiteTreeModel& model, const DropRequest& drop)
 
 } // namespace
 
-CompositeModel::CompositeModel(QObject* parent)
-    : TSiteModel(2, parent, DragReading::FirstOnly)
-{
-}
+CompositeModel::CompositeModel(QObject* parent) : TSiteModel(2, parent, DragReading::FirstOnly) {}
 
 CompositeModel::~CompositeModel() = default;
 
@@ -124,12 +121,13 @@ const SiteTreeModel::DropRules& CompositeModel::_Rules() const
         {NodeKind::CompositeItem, NodeKind::CompositeItem, false, FitsOneMore,
          [](SiteTreeModel& model, const DropRequest& drop) {
              const QModelIndex& source = drop.indexes.first();
-             static_cast<CompositeModel&>(model).MoveItem(source.parent(), source.row(),
-                                                          drop.index.parent(), drop.index.row() + 1);
+             static_cast<CompositeModel&>(model).MoveItem(
+                 source.parent(), source.row(), drop.index.parent(), drop.index.row() + 1);
          }},
         {NodeKind::CompositeItem, NodeKind::Commands, true, FitCommands,
          [](SiteTreeModel& model, const DropRequest& drop) {
-             static_cast<CompositeModel&>(model).InsertCompositeItems(drop.index, drop.commands, -1);
+             static_cast<CompositeModel&>(model).InsertCompositeItems(drop.index, drop.commands,
+                                                                      -1);
          }},
     };
     return rules;
@@ -150,7 +148,8 @@ void CompositeModel::AddComposite(std::unique_ptr<UiStateComposite> composite, c
 
 void CompositeModel::AddMenu(int row)
 {
-    AddComposite(std::unique_ptr<UiStateComposite>(UiStateComposites::CreateMenu()), tr("New Menu"), row);
+    AddComposite(std::unique_ptr<UiStateComposite>(UiStateComposites::CreateMenu()), tr("New Menu"),
+                 row);
 }
 
 void CompositeModel::AddCommand(int row)
@@ -221,7 +220,8 @@ void CompositeModel::MoveItem(const QModelIndex& sourceParent, int sourceRow,
         return;
     // The row counts after the item was taken out, and the announcement before.
     const int announced = same && row > sourceRow ? row + 1 : row;
-    if (!beginMoveRows(RowIndex(sourceParent), sourceRow, sourceRow, RowIndex(targetParent), announced))
+    if (!beginMoveRows(RowIndex(sourceParent), sourceRow, sourceRow, RowIndex(targetParent),
+                       announced))
         return;
     target->InsertItem(source->RemoveItem(sourceRow), row);
     _EndMove();

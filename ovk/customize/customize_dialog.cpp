@@ -156,7 +156,8 @@ UiCustomizeDialog::Impl::~Impl()
 void UiCustomizeDialog::Impl::CreatePages()
 {
     const auto observe = [this](Observable& page) {
-        m_observers.push_back(std::make_unique<ObserverFunctor>([this] { UpdateDiscard(); }, false));
+        m_observers.push_back(
+            std::make_unique<ObserverFunctor>([this] { UpdateDiscard(); }, false));
         page.Attach(*m_observers.back());
     };
     mp_sites = UiCustomizeSitesWidget::GetInstance();
@@ -188,7 +189,8 @@ QToolButton* UiCustomizeDialog::Impl::CreatePageButton(const char* name)
 
 void UiCustomizeDialog::Impl::CreateButtons()
 {
-    mp_box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Discard, Qt::Horizontal, this);
+    mp_box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Discard, Qt::Horizontal,
+                                  this);
     mp_stack = new QStackedWidget(this);
     mp_tool_bar = new QToolBar(this);
     mp_tool_bar->setOrientation(Qt::Vertical);
@@ -241,9 +243,9 @@ void UiCustomizeDialog::Impl::OrderTabs()
     while (last->nextInFocusChain() != mp_box && last->nextInFocusChain() != this)
         last = last->nextInFocusChain();
     for (QWidget* next : std::initializer_list<QWidget*>{
-             mp_box->button(QDialogButtonBox::RestoreDefaults), mp_box->button(QDialogButtonBox::Ok),
-             mp_box->button(QDialogButtonBox::Discard), mp_btn_sites, mp_btn_toolpages,
-             mp_btn_style}) {
+             mp_box->button(QDialogButtonBox::RestoreDefaults),
+             mp_box->button(QDialogButtonBox::Ok), mp_box->button(QDialogButtonBox::Discard),
+             mp_btn_sites, mp_btn_toolpages, mp_btn_style}) {
         setTabOrder(last, next);
         last = next;
     }
@@ -256,7 +258,8 @@ void UiCustomizeDialog::Impl::Retranslate()
     };
     setWindowTitle(say(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Customize UI commands")));
     mp_btn_style->setText(say(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Visual\nstyle")));
-    mp_btn_sites->setText(say(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Toolbars\n&&\nShortcuts")));
+    mp_btn_sites->setText(
+        say(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Toolbars\n&&\nShortcuts")));
     mp_btn_toolpages->setText(say(QT_TRANSLATE_NOOP("ovk::UiCustomizeDialog::Impl", "Toolpages")));
 }
 
@@ -284,7 +287,8 @@ void UiCustomizeDialog::Impl::Connect()
     connect(mp_btn_toolpages, &QToolButton::clicked, this, [this] { ShowPage(spToolpages); });
     connect(mp_btn_style, &QToolButton::clicked, this, [this] { ShowPage(spStyle); });
     connect(mp_stack, &QStackedWidget::currentChanged, this, [this] { UpdateDiscard(); });
-    connect(mp_box->button(QDialogButtonBox::Ok), &QAbstractButton::clicked, this, &QDialog::accept);
+    connect(mp_box->button(QDialogButtonBox::Ok), &QAbstractButton::clicked, this,
+            &QDialog::accept);
     connect(mp_box->button(QDialogButtonBox::Discard), &QAbstractButton::clicked, this,
             [this] { OnDiscard(); });
     connect(mp_box->button(QDialogButtonBox::RestoreDefaults), &QAbstractButton::clicked, this,
@@ -396,10 +400,7 @@ void UiCustomizeDialog::Impl::OnRestoreDefaults()
     Open();
 }
 
-UiCustomizeDialog::UiCustomizeDialog()
-    : mp_impl(std::make_unique<Impl>(*this))
-{
-}
+UiCustomizeDialog::UiCustomizeDialog() : mp_impl(std::make_unique<Impl>(*this)) {}
 
 UiCustomizeDialog::~UiCustomizeDialog() = default;
 

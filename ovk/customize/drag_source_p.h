@@ -19,8 +19,7 @@ public:
 };
 
 /// A drag source with a payload on the heap.
-template <class T>
-class DragSource : public IDragSource
+template <class T> class DragSource : public IDragSource
 {
 public:
     /// With `ownsPayload` the payload is deleted with the source.

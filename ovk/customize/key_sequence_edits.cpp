@@ -26,18 +26,17 @@ KeyUse UseOf(quint32 key)
         KeyUse use;
     };
     static constexpr Row c_rows[] = {
-        {27, KeyUse::PassOn},  // Escape
-        {13, KeyUse::PassOn},  // Return
-        {91, KeyUse::PassOn},  // the Windows keys
-        {92, KeyUse::PassOn},
-        {93, KeyUse::PassOn},  // the menu key
-        {9, KeyUse::Ignore},   // Tab
-        {19, KeyUse::Ignore},  // Pause
-        {20, KeyUse::Ignore},  // Caps Lock
-        {44, KeyUse::Ignore},  // Print Screen
-        {144, KeyUse::Ignore}, // Num Lock
-        {145, KeyUse::Ignore}, // Scroll Lock
-        {112, KeyUse::Ignore}, // F1
+        {27, KeyUse::PassOn},                        // Escape
+        {13, KeyUse::PassOn},                        // Return
+        {91, KeyUse::PassOn},                        // the Windows keys
+        {92, KeyUse::PassOn},  {93, KeyUse::PassOn}, // the menu key
+        {9, KeyUse::Ignore},                         // Tab
+        {19, KeyUse::Ignore},                        // Pause
+        {20, KeyUse::Ignore},                        // Caps Lock
+        {44, KeyUse::Ignore},                        // Print Screen
+        {144, KeyUse::Ignore},                       // Num Lock
+        {145, KeyUse::Ignore},                       // Scroll Lock
+        {112, KeyUse::Ignore},                       // F1
     };
     for (const Row& row : c_rows) {
         if (row.key == key)
@@ -48,10 +47,7 @@ KeyUse UseOf(quint32 key)
 
 } // namespace
 
-KeySequenceEdit::KeySequenceEdit(QWidget* parent)
-    : QKeySequenceEdit(parent)
-{
-}
+KeySequenceEdit::KeySequenceEdit(QWidget* parent) : QKeySequenceEdit(parent) {}
 
 KeySequenceEdit::~KeySequenceEdit() = default;
 
@@ -65,8 +61,7 @@ void KeySequenceEdit::keyPressEvent(QKeyEvent* event)
     Q_EMIT keySequenceChanged(keySequence());
 }
 
-SingleKeySequenceEdit::SingleKeySequenceEdit(QWidget* parent)
-    : QLineEdit(parent)
+SingleKeySequenceEdit::SingleKeySequenceEdit(QWidget* parent) : QLineEdit(parent)
 {
     setPlaceholderText(QKeySequenceEdit::tr("Press key"));
 }

@@ -21,8 +21,7 @@ void RegisterMenuPointer()
 
 } // namespace
 
-MenusModel::MenusModel(QObject* parent)
-    : TSiteModel(2, parent)
+MenusModel::MenusModel(QObject* parent) : TSiteModel(2, parent)
 {
     RegisterMenuPointer();
 }

@@ -5,10 +5,7 @@
 
 namespace ovk {
 
-QABModel::QABModel(QObject* parent)
-    : TSiteModel(3, parent)
-{
-}
+QABModel::QABModel(QObject* parent) : TSiteModel(3, parent) {}
 
 QABModel::~QABModel() = default;
 

@@ -20,10 +20,7 @@ RibbonModel& Model(SiteTreeModel& model)
 
 } // namespace
 
-RibbonModel::RibbonModel(QObject* parent)
-    : TSiteModel(3, parent)
-{
-}
+RibbonModel::RibbonModel(QObject* parent) : TSiteModel(3, parent) {}
 
 RibbonModel::~RibbonModel() = default;
 
@@ -180,7 +177,8 @@ void RibbonModel::DeleteRow(const QModelIndex& parent, int row)
 void RibbonModel::MovePages(const QModelIndexList& indexes, int row)
 {
     _MoveNodes(
-        indexes, {}, row, [this](ITreeItem&, int at) -> ITreeItem* { return mp_root->RemovePage(at); },
+        indexes, {}, row,
+        [this](ITreeItem&, int at) -> ITreeItem* { return mp_root->RemovePage(at); },
         [this](ITreeItem& page, int at) {
             mp_root->InsertPage(static_cast<UiStateRibbonPage*>(&page), at);
         });

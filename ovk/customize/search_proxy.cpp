@@ -16,8 +16,7 @@ bool IsWildcard(QChar character)
 
 } // namespace
 
-SearchProxy::SearchProxy(QObject* parent)
-    : QSortFilterProxyModel(parent)
+SearchProxy::SearchProxy(QObject* parent) : QSortFilterProxyModel(parent)
 {
     setFilterCaseSensitivity(Qt::CaseInsensitive);
 }
@@ -41,9 +40,13 @@ void SearchProxy::SetSearch(const QString& text)
         none.reserve(persistent.size());
         std::fill_n(std::back_inserter(none), persistent.size(), QModelIndex());
         changePersistentIndexList(persistent, none);
-        invalidate();
-        m_plain = std::none_of(wanted.begin(), wanted.end(), IsWildcard) ? wanted : QString();
+        // While the filter changes nothing is looked at: all rows are, once, when it has.
+        m_mode = Mode::Nothing;
         SetFilter(wanted);
+        const bool plain = std::none_of(wanted.begin(), wanted.end(), IsWildcard);
+        m_mode = wanted.isEmpty() ? Mode::Everything : plain ? Mode::Plain : Mode::Wildcard;
+        m_plain = wanted;
+        invalidate();
     }
     endResetModel();
 }
@@ -58,9 +61,11 @@ void SearchProxy::SetFilter(const QString& wanted)
 
 bool SearchProxy::filterAcceptsRow(int row, const QModelIndex& parent) const
 {
-    // As the wildcard answers, at a tenth of its price.
-    if (m_plain.isEmpty() || isRecursiveFilteringEnabled())
+    if (m_mode == Mode::Nothing || m_mode == Mode::Everything)
+        return m_mode == Mode::Everything;
+    if (m_mode == Mode::Wildcard)
         return QSortFilterProxyModel::filterAcceptsRow(row, parent);
+    // As the wildcard answers, at a tenth of its price.
     return sourceModel()
         ->index(row, filterKeyColumn(), parent)
         .data(filterRole())

@@ -26,7 +26,16 @@ protected:
 private:
     void SetFilter(const QString& wanted);
 
-    QString m_plain; // the text when no character of it is a wildcard
+    enum class Mode
+    {
+        Wildcard, ///< what the base class makes of the text
+        Plain,    ///< no character of the text is a wildcard
+        Everything,
+        Nothing
+    };
+
+    QString m_plain;
+    Mode m_mode = Mode::Wildcard;
 };
 
 } // namespace ovk

@@ -20,15 +20,13 @@ namespace ovk {
 
 namespace {
 
-template <class State>
-State* StateOf(UiLayout* layout)
+template <class State> State* StateOf(UiLayout* layout)
 {
     return layout ? dynamic_cast<State*>(layout->GetState(State::GetSuiteName())) : nullptr;
 }
 
 /// The first node for which the test holds, null if there is none.
-template <class Node, class Suite, class Test>
-Node* FindNode(Suite* suite, Test test)
+template <class Node, class Suite, class Test> Node* FindNode(Suite* suite, Test test)
 {
     if (!suite)
         return nullptr;
@@ -58,10 +56,7 @@ UiStateMenu* MenuOf(const QModelIndex& index)
 
 } // namespace
 
-CommandShortcutDelegate::CommandShortcutDelegate(QObject* parent)
-    : QStyledItemDelegate(parent)
-{
-}
+CommandShortcutDelegate::CommandShortcutDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
 
 CommandShortcutDelegate::~CommandShortcutDelegate() = default;
 
@@ -182,7 +177,8 @@ void CommandShortcutDelegate::OnSequenceChanged(const QKeySequence& sequence)
         }
         UiStateMenu* menu = nullptr;
         if (!CheckMenus(sequence, menu)) {
-            ShowHint(tr("Key sequence '%1' is already used for menu '%2'").arg(keys, menu->GetTitle()));
+            ShowHint(
+                tr("Key sequence '%1' is already used for menu '%2'").arg(keys, menu->GetTitle()));
             m_last_warned = sequence;
             return;
         }
@@ -191,10 +187,7 @@ void CommandShortcutDelegate::OnSequenceChanged(const QKeySequence& sequence)
     PersistentHint::HideText();
 }
 
-MenuShortcutDelegate::MenuShortcutDelegate(QObject* parent)
-    : QStyledItemDelegate(parent)
-{
-}
+MenuShortcutDelegate::MenuShortcutDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
 
 MenuShortcutDelegate::~MenuShortcutDelegate() = default;
 
@@ -265,9 +258,10 @@ bool MenuShortcutDelegate::CheckCommands(int key, UiCommand*& out) const
     if (key == 0)
         return true;
     const QKeySequence sequence(KeyName(key));
-    const auto* binding = FindNode<UiShortcutBinding>(
-        mp_shortcuts,
-        [&](const UiShortcutBinding& candidate) { return candidate.GetShortcut() == sequence; });
+    const auto* binding =
+        FindNode<UiShortcutBinding>(mp_shortcuts, [&](const UiShortcutBinding& candidate) {
+            return candidate.GetShortcut() == sequence;
+        });
     if (!binding)
         return true;
     out = binding->GetCommand();

@@ -46,7 +46,8 @@ bool SiteTreeModel::CanMove(const QModelIndex& index, const QModelIndexList& ind
     return CanInsert(index, count);
 }
 
-void SiteTreeModel::InsertCommands(const QModelIndex& index, const QList<IUiItem*>& commands, int row)
+void SiteTreeModel::InsertCommands(const QModelIndex& index, const QList<IUiItem*>& commands,
+                                   int row)
 {
     QModelIndex target = RowIndex(index);
     ITreeItem* item = GetItem(index);
@@ -202,16 +203,16 @@ SiteTreeModel::DropRules SiteTreeModel::_SpotRules(NodeKind container, bool take
              return model.CanInsert(drop.index, 1);
          },
          [](SiteTreeModel& model, const DropRequest& drop) {
-             model.InsertCompositeCommand(*dynamic_cast<UiStateComposite*>(drop.First()), drop.index,
-                                          drop.row);
+             model.InsertCompositeCommand(*dynamic_cast<UiStateComposite*>(drop.First()),
+                                          drop.index, drop.row);
          }},
         {NodeKind::Spot, NodeKind::Composite, true,
          [](const SiteTreeModel& model, const DropRequest& drop) {
              return model.CanInsert(drop.index.parent(), 1);
          },
          [](SiteTreeModel& model, const DropRequest& drop) {
-             model.InsertCompositeCommand(*dynamic_cast<UiStateComposite*>(drop.First()), drop.index,
-                                          -1);
+             model.InsertCompositeCommand(*dynamic_cast<UiStateComposite*>(drop.First()),
+                                          drop.index, -1);
          }},
     };
     return rules;

@@ -53,12 +53,12 @@ struct DropRequest
     ITreeItem* target = nullptr;
     NodeKind target_kind = NodeKind::None;
     NodeKind first = NodeKind::None;
-    QModelIndex index;            ///< the index of the target, invalid for the root
-    int row = -1;                 ///< where in the target, -1 on it
-    QList<ITreeItem*> items;      ///< the dragged nodes
-    QModelIndexList indexes;      ///< and their indexes, later rows first
-    QList<IUiItem*> commands;     ///< or the dragged commands
-    bool first_only = false;      ///< the first of the nodes decides alone
+    QModelIndex index;        ///< the index of the target, invalid for the root
+    int row = -1;             ///< where in the target, -1 on it
+    QList<ITreeItem*> items;  ///< the dragged nodes
+    QModelIndexList indexes;  ///< and their indexes, later rows first
+    QList<IUiItem*> commands; ///< or the dragged commands
+    bool first_only = false;  ///< the first of the nodes decides alone
     ITreeItem* First() const { return items.isEmpty() ? nullptr : items.first(); }
     bool IsOnItself() const { return first_only ? First() == target : items.contains(target); }
 };
@@ -134,8 +134,8 @@ protected:
     {
         NodeKind target;
         NodeKind first;
-        bool on_itself;  ///< whether the target may be among the dragged nodes
-        Test allowed;    ///< null: always
+        bool on_itself; ///< whether the target may be among the dragged nodes
+        Test allowed;   ///< null: always
         Effect effect;
     };
     using DropRules = QVector<DropRule>;
@@ -160,7 +160,8 @@ protected:
     static DropRules _SpotRules(NodeKind container, bool takes_composites);
 
     /// Takes nodes out of their parents, later rows first, and puts them into `target` as one
-    /// block that keeps its order. `row` counts before anything was taken out; out of range appends.
+    /// block that keeps its order. `row` counts before anything was taken out; out of range
+    /// appends.
     void _MoveNodes(const QModelIndexList& indexes, const QModelIndex& target, int row,
                     const std::function<ITreeItem*(ITreeItem& parent, int row)>& take,
                     const std::function<void(ITreeItem& node, int row)>& put);
@@ -194,7 +195,7 @@ private:
     /// The children of a node that are shown; asking for each anew would cost a walk over all.
     struct Rows
     {
-        int children = -1; ///< how many there were, shown or not
+        int children = -1;      ///< how many there were, shown or not
         quint64 generation = 0; ///< of the commands that they were looked up in
         QVector<ITreeItem*> shown;
     };

@@ -52,8 +52,7 @@ bool IsEditing(const QAbstractItemView& view)
 
 } // namespace
 
-UiCustomizeSitesWidget::UiCustomizeSitesWidget()
-    : mp_impl(new Impl(*this))
+UiCustomizeSitesWidget::UiCustomizeSitesWidget() : mp_impl(new Impl(*this))
 {
     g_sites_page = this;
 }
@@ -217,8 +216,7 @@ void UiCustomizeSitesWidget::Impl::FillLayouts()
                 return true;
             });
         }
-        mp_combo_layout->setCurrentIndex(
-            active ? mp_combo_layout->findData(active->GetName()) : 0);
+        mp_combo_layout->setCurrentIndex(active ? mp_combo_layout->findData(active->GetName()) : 0);
     }
     OnLayoutChosen();
 }

@@ -40,7 +40,8 @@ void UiCustomizeSitesWidget::Impl::OnTabChanged()
 {
     SetDragSource(nullptr);
     const int tab = mp_tabs_sites->currentIndex();
-    mp_active_view = tab >= 0 && tab < static_cast<int>(m_sites.size()) ? m_sites[tab].view : nullptr;
+    mp_active_view =
+        tab >= 0 && tab < static_cast<int>(m_sites.size()) ? m_sites[tab].view : nullptr;
     UpdateAddButton();
 }
 
@@ -92,8 +93,8 @@ void UiCustomizeSitesWidget::Impl::OnRowsInserted(const Site& site, const QModel
     // The user types the name of what was added at once. What was being edited is finished
     // first, and what the buttons act on is what was added.
     if (inserted.flags() & Qt::ItemIsEditable) {
-        site.view->selectionModel()->setCurrentIndex(
-            inserted, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        site.view->selectionModel()->setCurrentIndex(inserted, QItemSelectionModel::ClearAndSelect |
+                                                                   QItemSelectionModel::Rows);
         Edit(*site.view, inserted);
     }
 }
@@ -282,27 +283,69 @@ void UiCustomizeSitesWidget::Impl::Run(SitesAction action)
     const int row = current.row();
     const int composite_row = m_composites_proxy.mapToSource(m_composite_menu_index).row();
     switch (action) {
-    case A::RibbonAddPage: m_ribbon.AddPage(-1); break;
-    case A::RibbonInsertPageAfter: m_ribbon.AddPage(row + 1); break;
-    case A::RibbonInsertPageBefore: m_ribbon.AddPage(row); break;
-    case A::RibbonAddGroup: m_ribbon.AddGroup(current, -1); break;
-    case A::RibbonInsertGroupAfter: m_ribbon.AddGroup(parent, row + 1); break;
-    case A::RibbonInsertGroupBefore: m_ribbon.AddGroup(parent, row); break;
-    case A::RibbonAddSeparator: m_ribbon.AddSeparator(current, -1); break;
-    case A::RibbonInsertSeparatorAfter: m_ribbon.AddSeparator(parent, row + 1); break;
-    case A::RibbonInsertSeparatorBefore: m_ribbon.AddSeparator(parent, row); break;
-    case A::QabAddSeparator: m_qab.AddSeparator({}, 0); break;
-    case A::QabInsertSeparatorAfter: m_qab.AddSeparator({}, row + 1); break;
-    case A::QabInsertSeparatorBefore: m_qab.AddSeparator({}, row); break;
-    case A::ToolbarsAddSeparator: m_toolbars.AddSeparator(current, -1); break;
-    case A::ToolbarsInsertSeparatorAfter: m_toolbars.AddSeparator(parent, row + 1); break;
-    case A::ToolbarsInsertSeparatorBefore: m_toolbars.AddSeparator(parent, row); break;
-    case A::ToolbarsAddToolbar: m_toolbars.AddToolbar(-1); break;
-    case A::ToolbarsInsertToolbarAfter: m_toolbars.AddToolbar(row + 1); break;
-    case A::ToolbarsInsertToolbarBefore: m_toolbars.AddToolbar(row); break;
-    case A::MenusAddMenu: m_menus.AddMenu(-1); break;
-    case A::MenusInsertMenuAfter: m_menus.AddMenu(row + 1); break;
-    case A::MenusInsertMenuBefore: m_menus.AddMenu(row); break;
+    case A::RibbonAddPage:
+        m_ribbon.AddPage(-1);
+        break;
+    case A::RibbonInsertPageAfter:
+        m_ribbon.AddPage(row + 1);
+        break;
+    case A::RibbonInsertPageBefore:
+        m_ribbon.AddPage(row);
+        break;
+    case A::RibbonAddGroup:
+        m_ribbon.AddGroup(current, -1);
+        break;
+    case A::RibbonInsertGroupAfter:
+        m_ribbon.AddGroup(parent, row + 1);
+        break;
+    case A::RibbonInsertGroupBefore:
+        m_ribbon.AddGroup(parent, row);
+        break;
+    case A::RibbonAddSeparator:
+        m_ribbon.AddSeparator(current, -1);
+        break;
+    case A::RibbonInsertSeparatorAfter:
+        m_ribbon.AddSeparator(parent, row + 1);
+        break;
+    case A::RibbonInsertSeparatorBefore:
+        m_ribbon.AddSeparator(parent, row);
+        break;
+    case A::QabAddSeparator:
+        m_qab.AddSeparator({}, 0);
+        break;
+    case A::QabInsertSeparatorAfter:
+        m_qab.AddSeparator({}, row + 1);
+        break;
+    case A::QabInsertSeparatorBefore:
+        m_qab.AddSeparator({}, row);
+        break;
+    case A::ToolbarsAddSeparator:
+        m_toolbars.AddSeparator(current, -1);
+        break;
+    case A::ToolbarsInsertSeparatorAfter:
+        m_toolbars.AddSeparator(parent, row + 1);
+        break;
+    case A::ToolbarsInsertSeparatorBefore:
+        m_toolbars.AddSeparator(parent, row);
+        break;
+    case A::ToolbarsAddToolbar:
+        m_toolbars.AddToolbar(-1);
+        break;
+    case A::ToolbarsInsertToolbarAfter:
+        m_toolbars.AddToolbar(row + 1);
+        break;
+    case A::ToolbarsInsertToolbarBefore:
+        m_toolbars.AddToolbar(row);
+        break;
+    case A::MenusAddMenu:
+        m_menus.AddMenu(-1);
+        break;
+    case A::MenusInsertMenuAfter:
+        m_menus.AddMenu(row + 1);
+        break;
+    case A::MenusInsertMenuBefore:
+        m_menus.AddMenu(row);
+        break;
     case A::RibbonDeleteSeparator:
     case A::RibbonDeletePage:
     case A::RibbonDeleteGroup:
@@ -324,9 +367,15 @@ void UiCustomizeSitesWidget::Impl::Run(SitesAction action)
         if (site)
             DeleteItems(*site);
         break;
-    case A::CompositeCreateCommand: m_composites.AddCommand(composite_row); break;
-    case A::CompositeCreateMenu: m_composites.AddMenu(composite_row); break;
-    case A::CompositeDelete: DeleteComposite(); break;
+    case A::CompositeCreateCommand:
+        m_composites.AddCommand(composite_row);
+        break;
+    case A::CompositeCreateMenu:
+        m_composites.AddMenu(composite_row);
+        break;
+    case A::CompositeDelete:
+        DeleteComposite();
+        break;
     case A::DeleteShortcut:
         mp_view_commands->model()->setData(m_commands_menu_index, QVariant(), Qt::EditRole);
         break;
@@ -343,7 +392,8 @@ void UiCustomizeSitesWidget::Impl::Run(SitesAction action)
                 tree->collapseAll();
         }
         break;
-    case A::Count: break;
+    case A::Count:
+        break;
     }
 }
 
@@ -377,8 +427,8 @@ void UiCustomizeSitesWidget::Impl::ShowCompositeMenu(const QPoint& position)
 {
     const QModelIndex index = mp_view_composite->indexAt(position);
     m_composite_menu_index = index;
-    ITreeItem* item = index.isValid() ? m_composites.GetItem(m_composites_proxy.mapToSource(index))
-                                      : nullptr;
+    ITreeItem* item =
+        index.isValid() ? m_composites.GetItem(m_composites_proxy.mapToSource(index)) : nullptr;
     const bool on_item = dynamic_cast<UiStateCompositeItem*>(item) != nullptr;
     QMenu menu;
     if (!on_item) {

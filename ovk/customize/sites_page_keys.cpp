@@ -38,8 +38,7 @@ void UiCustomizeSitesWidget::Impl::AddKey(QAbstractItemView& view, const QKeySeq
     auto* action = new QAction(&view);
     action->setShortcut(keys);
     action->setShortcutContext(Qt::WidgetShortcut);
-    connect(action, &QAction::triggered, this,
-            [this, &view, handler] { (this->*handler)(view); });
+    connect(action, &QAction::triggered, this, [this, &view, handler] { (this->*handler)(view); });
     view.addAction(action);
 }
 
@@ -173,9 +172,9 @@ void UiCustomizeSitesWidget::Impl::MoveByKey(QAbstractItemView& view, bool up)
         Drop(model, neighbour, parent);
     else
         Drop(model, -1, model.index(neighbour, 0));
-    view.selectionModel()->setCurrentIndex(
-        model.index(neighbour, 0, parent),
-        QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    view.selectionModel()->setCurrentIndex(model.index(neighbour, 0, parent),
+                                           QItemSelectionModel::ClearAndSelect |
+                                               QItemSelectionModel::Rows);
 }
 
 } // namespace ovk

@@ -37,7 +37,8 @@ int WidthOf(const QWidget& view, const QStringList& texts)
     int width = 0;
     for (const QString& text : texts)
         width = qMax(width, view.fontMetrics().horizontalAdvance(text));
-    return width + 2 * (view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1);
+    return width +
+           2 * (view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1);
 }
 
 } // namespace
@@ -57,7 +58,8 @@ void UiCustomizeSitesWidget::Impl::SizeColumns()
     // No selection makes the dialog wider by the buttons that it offers.
     int widest = 0;
     for (const Site& site : m_sites) {
-        for (int selection = 0; selection <= static_cast<int>(SitesSelection::Several); ++selection) {
+        for (int selection = 0; selection <= static_cast<int>(SitesSelection::Several);
+             ++selection) {
             const SitesOffer* offer =
                 FindSitesOffer(site.tree, static_cast<SitesSelection>(selection));
             int width = 0;
@@ -74,7 +76,8 @@ void UiCustomizeSitesWidget::Impl::SizeColumns()
     mp_tabs_sites->setMinimumWidth(widest + 2 * c_button_gap * 3);
     // A key of a menu, or of a command, or the button that is there before there is one.
     const int key_width =
-        WidthOf(*this, {QStringLiteral("Ctrl+Alt+Shift+F12"), QObject::tr("Assign shortcut")}) + icon;
+        WidthOf(*this, {QStringLiteral("Ctrl+Alt+Shift+F12"), QObject::tr("Assign shortcut")}) +
+        icon;
     mp_view_menus->header()->resizeSection(1, key_width);
     mp_view_commands->horizontalHeader()->resizeSection(1, key_width);
     mp_view_composite->header()->resizeSection(
@@ -133,7 +136,8 @@ void UiCustomizeSitesWidget::Impl::ConnectViews()
     mp_view_commands->verticalHeader()->hide();
     mp_view_commands->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     mp_view_commands->verticalHeader()->setMinimumSectionSize(1);
-    mp_view_commands->verticalHeader()->setDefaultSectionSize(RowDelegate::RowHeight(fontMetrics()));
+    mp_view_commands->verticalHeader()->setDefaultSectionSize(
+        RowDelegate::RowHeight(fontMetrics()));
     mp_view_commands->setContextMenuPolicy(Qt::CustomContextMenu);
     ConnectModel(m_commands);
 
@@ -156,7 +160,8 @@ void UiCustomizeSitesWidget::Impl::ConnectViews()
         ConnectModel(*site.model);
         connect(site.view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                 [this, &site] { OnSelectionChanged(site); });
-        connect(site.model, &QAbstractItemModel::rowsRemoved, this, [this, &site] { OnSelectionChanged(site); });
+        connect(site.model, &QAbstractItemModel::rowsRemoved, this,
+                [this, &site] { OnSelectionChanged(site); });
         connect(site.model, &QAbstractItemModel::modelAboutToBeReset, this,
                 [this, &site] { MemoryOf(site).Keep(*site.view, *site.model); });
         connect(site.model, &QAbstractItemModel::modelReset, this, [this, &site] {
@@ -200,26 +205,29 @@ void UiCustomizeSitesWidget::Impl::ConnectControls()
             [this] { OnLayoutChosen(); });
     connect(mp_tabs_sites, &QTabWidget::currentChanged, this, [this] { OnTabChanged(); });
     connect(mp_btn_add_command, &QToolButton::clicked, this, [this] { AddToSite(); });
-    connect(mp_view_commands, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {
-        if (index.column() == 0 && mp_btn_add_command->isEnabled())
-            mp_btn_add_command->click();
-    });
+    connect(mp_view_commands, &QAbstractItemView::doubleClicked, this,
+            [this](const QModelIndex& index) {
+                if (index.column() == 0 && mp_btn_add_command->isEnabled())
+                    mp_btn_add_command->click();
+            });
     connect(mp_view_commands, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& position) { ShowCommandsMenu(position); });
     connect(mp_view_composite, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& position) { ShowCompositeMenu(position); });
 
     // Only one of the two lists is the source of what is added.
-    connect(mp_view_commands->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        if (mp_view_commands->selectionModel()->hasSelection())
-            mp_view_composite->clearSelection();
-        UpdateAddButton();
-    });
-    connect(mp_view_composite->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        if (mp_view_composite->selectionModel()->hasSelection())
-            mp_view_commands->clearSelection();
-        UpdateAddButton();
-    });
+    connect(mp_view_commands->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] {
+                if (mp_view_commands->selectionModel()->hasSelection())
+                    mp_view_composite->clearSelection();
+                UpdateAddButton();
+            });
+    connect(mp_view_composite->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] {
+                if (mp_view_composite->selectionModel()->hasSelection())
+                    mp_view_commands->clearSelection();
+                UpdateAddButton();
+            });
 
     connect(mp_ed_search_basic, &QLineEdit::textChanged, this,
             [this](const QString& text) { SearchCommands(text); });
@@ -251,20 +259,21 @@ void UiCustomizeSitesWidget::Impl::CreateEmptyHints()
         QLineEdit* search; ///< that may be why nothing is listed
     };
     const Row rows[] = {
-        {mp_view_commands, QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "There are no commands"),
+        {mp_view_commands,
+         QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "There are no commands"),
          mp_ed_search_basic},
         {mp_view_composite,
          QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl",
                            "Create composite commands with the context menu"),
          mp_ed_search_composite},
-        {mp_view_ribbon, QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "Add a page to begin"),
-         nullptr},
+        {mp_view_ribbon,
+         QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "Add a page to begin"), nullptr},
         {mp_view_qab, QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "Drag commands here"),
          nullptr},
         {mp_view_toolbars,
          QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "Add a toolbar to begin"), nullptr},
-        {mp_view_menus, QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "Add a menu to begin"),
-         nullptr},
+        {mp_view_menus,
+         QT_TRANSLATE_NOOP("ovk::UiCustomizeSitesWidget::Impl", "Add a menu to begin"), nullptr},
     };
     for (const Row& row : rows) {
         // The view's, through the parent.

@@ -52,8 +52,7 @@ class UiCustomizeStyleWidget::Impl : public PimplBasics<UiCustomizeStyleWidget>,
                                      public Ui_UiCustomizeStyleLayout
 {
 public:
-    explicit Impl(UiCustomizeStyleWidget& owner)
-        : PimplBasics<UiCustomizeStyleWidget>(owner)
+    explicit Impl(UiCustomizeStyleWidget& owner) : PimplBasics<UiCustomizeStyleWidget>(owner)
     {
         setupUi(this);
         FillCombos();
@@ -119,7 +118,8 @@ private:
     {
         // A theme that has no row, such as one a later version stored, is not chosen here.
         if (index >= 0)
-            RibbonWindowSettings::OfficeTheme().SetData(static_cast<Qtitan::OfficeStyle::Theme>(index));
+            RibbonWindowSettings::OfficeTheme().SetData(
+                static_cast<Qtitan::OfficeStyle::Theme>(index));
         EnableAccent();
         _pr()._Notify();
     }
@@ -133,8 +133,7 @@ private:
     }
 };
 
-UiCustomizeStyleWidget::UiCustomizeStyleWidget()
-    : mp_impl(new Impl(*this))
+UiCustomizeStyleWidget::UiCustomizeStyleWidget() : mp_impl(new Impl(*this))
 {
     g_style_page = this;
 }

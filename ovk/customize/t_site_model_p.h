@@ -6,8 +6,7 @@
 namespace ovk {
 
 /// The model of one suite: what all of them do alike with their root and their table of rules.
-template <class Suite>
-class TSiteModel : public SiteTreeModel
+template <class Suite> class TSiteModel : public SiteTreeModel
 {
 public:
     /// Shows a layout's suite until the layout goes; null shows nothing.

@@ -7,10 +7,7 @@
 
 namespace ovk {
 
-ToolbarsModel::ToolbarsModel(QObject* parent)
-    : TSiteModel(3, parent)
-{
-}
+ToolbarsModel::ToolbarsModel(QObject* parent) : TSiteModel(3, parent) {}
 
 ToolbarsModel::~ToolbarsModel() = default;
 
@@ -92,7 +89,8 @@ const SiteTreeModel::DropRules& ToolbarsModel::_Rules() const
              }},
             {NodeKind::Toolbar, NodeKind::Toolbar, false, nullptr,
              [](SiteTreeModel& model, const DropRequest& drop) {
-                 static_cast<ToolbarsModel&>(model).MoveToolbars(drop.indexes, drop.index.row() + 1);
+                 static_cast<ToolbarsModel&>(model).MoveToolbars(drop.indexes,
+                                                                 drop.index.row() + 1);
              }},
         } +
         _SpotRules(NodeKind::Toolbar, true);
@@ -133,8 +131,7 @@ void ToolbarsModel::MoveToolbars(const QModelIndexList& indexes, int row)
     if (!mp_root)
         return;
     _MoveNodes(
-        indexes, {}, row,
-        [this](ITreeItem&, int at) { return mp_root->RemoveChild(at); },
+        indexes, {}, row, [this](ITreeItem&, int at) { return mp_root->RemoveChild(at); },
         [this](ITreeItem& toolbar, int at) { mp_root->InsertChild(at, &toolbar); });
 }
 

@@ -10,10 +10,7 @@
 
 namespace ovk {
 
-ToolpagesModel::ToolpagesModel(QObject* parent)
-    : QAbstractItemModel(parent)
-{
-}
+ToolpagesModel::ToolpagesModel(QObject* parent) : QAbstractItemModel(parent) {}
 
 ToolpagesModel::~ToolpagesModel()
 {
@@ -61,7 +58,8 @@ QModelIndex ToolpagesModel::parent(const QModelIndex& index) const
 {
     // Panels have parents in the state tree too, which are not shown.
     const ITreeItem* node = Node(index);
-    return dynamic_cast<const UiStateDockPage*>(node) ? PanelIndex(node->GetParent()) : QModelIndex();
+    return dynamic_cast<const UiStateDockPage*>(node) ? PanelIndex(node->GetParent())
+                                                      : QModelIndex();
 }
 
 int ToolpagesModel::rowCount(const QModelIndex& parent) const

@@ -82,8 +82,7 @@ protected:
     }
 };
 
-UiCustomizeToolpagesWidget::UiCustomizeToolpagesWidget()
-    : mp_impl(new Impl(*this))
+UiCustomizeToolpagesWidget::UiCustomizeToolpagesWidget() : mp_impl(new Impl(*this))
 {
     g_toolpages_page = this;
 }

@@ -19,7 +19,8 @@ QPixmap DragLabel(const QWidget& view, const QModelIndex& first, int rows)
     const QFontMetrics metrics = view.fontMetrics();
     const int icon_size = view.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &view);
     const auto icon = first.data(Qt::DecorationRole).value<QIcon>();
-    QString text = metrics.elidedText(first.data().toString().simplified(), Qt::ElideRight, c_label_width);
+    QString text =
+        metrics.elidedText(first.data().toString().simplified(), Qt::ElideRight, c_label_width);
     if (rows > 1)
         text += QStringLiteral(" +%1").arg(rows - 1);
     const int icon_room = icon.isNull() ? 0 : icon_size + c_label_padding;
@@ -35,13 +36,12 @@ QPixmap DragLabel(const QWidget& view, const QModelIndex& first, int rows)
     painter.fillRect(rect, view.palette().color(QPalette::Active, QPalette::Highlight));
     painter.setPen(view.palette().color(QPalette::Active, QPalette::HighlightedText));
     const QRect inner = rect.adjusted(c_label_padding, 0, -c_label_padding, 0);
-    const QRect icon_rect = QStyle::alignedRect(view.layoutDirection(),
-                                                Qt::AlignLeading | Qt::AlignVCenter,
-                                                {icon_size, icon_size}, inner);
+    const QRect icon_rect = QStyle::alignedRect(
+        view.layoutDirection(), Qt::AlignLeading | Qt::AlignVCenter, {icon_size, icon_size}, inner);
     if (icon_room)
         icon.paint(&painter, icon_rect);
-    const QRect text_rect = QStyle::visualRect(
-        view.layoutDirection(), inner, QRect(inner).adjusted(icon_room, 0, 0, 0));
+    const QRect text_rect = QStyle::visualRect(view.layoutDirection(), inner,
+                                               QRect(inner).adjusted(icon_room, 0, 0, 0));
     painter.drawText(text_rect, Qt::AlignVCenter, text);
     return pixmap;
 }
@@ -68,10 +68,7 @@ void StartLabelledDrag(QAbstractItemView& view, Qt::DropActions actions)
 
 } // namespace
 
-QTreeViewFixed::QTreeViewFixed(QWidget* parent)
-    : QTreeView(parent)
-{
-}
+QTreeViewFixed::QTreeViewFixed(QWidget* parent) : QTreeView(parent) {}
 
 QTreeViewFixed::~QTreeViewFixed() = default;
 
@@ -94,13 +91,14 @@ void QTreeViewFixed::dragMoveEvent(QDragMoveEvent* event)
     QTreeView::dragMoveEvent(event);
     QRect line;
     const QModelIndex index = indexAt(event->pos());
-    const bool between = dropIndicatorPosition() == AboveItem || dropIndicatorPosition() == BelowItem;
+    const bool between =
+        dropIndicatorPosition() == AboveItem || dropIndicatorPosition() == BelowItem;
     const bool among_top = index.isValid() && !index.parent().isValid() && between;
     if (!event->isAccepted() && model() && (among_top || !index.isValid())) {
         const bool above = dropIndicatorPosition() == AboveItem;
         const int row = index.isValid() ? index.row() + (above ? 0 : 1) : -1;
-        if (model()->canDropMimeData(event->mimeData(), event->dropAction(), row,
-                                     row < 0 ? -1 : 0, {})) {
+        if (model()->canDropMimeData(event->mimeData(), event->dropAction(), row, row < 0 ? -1 : 0,
+                                     {})) {
             event->acceptProposedAction();
             if (index.isValid()) {
                 const QRect rect = visualRect(index);
@@ -140,10 +138,7 @@ void QTreeViewFixed::startDrag(Qt::DropActions actions)
     StartLabelledDrag(*this, actions);
 }
 
-QTableViewFixed::QTableViewFixed(QWidget* parent)
-    : QTableView(parent)
-{
-}
+QTableViewFixed::QTableViewFixed(QWidget* parent) : QTableView(parent) {}
 
 QTableViewFixed::~QTableViewFixed() = default;
 

@@ -25,10 +25,7 @@ bool HoldsSpots(const SiteTreeModel& model, const QModelIndex& index)
 
 } // namespace
 
-RowDelegate::RowDelegate(QObject* parent)
-    : QStyledItemDelegate(parent)
-{
-}
+RowDelegate::RowDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
 
 RowDelegate::~RowDelegate() = default;
 
@@ -41,6 +38,16 @@ QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInde
 {
     const QSize hint = QStyledItemDelegate::sizeHint(option, index);
     return {hint.width(), qMax(hint.height(), RowHeight(option.fontMetrics))};
+}
+
+bool RowDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
+                              const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const bool changed = QStyledItemDelegate::editorEvent(event, model, option, index);
+    const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
+    if (changed && view)
+        view->viewport()->update();
+    return changed;
 }
 
 EmptyHint::EmptyHint(QAbstractItemView& view, std::function<QString()> text)
@@ -69,9 +76,9 @@ bool EmptyHint::eventFilter(QObject* watched, QEvent* event)
     watched->installEventFilter(this);
     QPainter painter(viewport);
     painter.setPen(m_view.palette().color(QPalette::Disabled, QPalette::Text));
-    painter.drawText(viewport->rect().adjusted(c_hint_margin, c_hint_margin, -c_hint_margin,
-                                               -c_hint_margin),
-                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text);
+    painter.drawText(
+        viewport->rect().adjusted(c_hint_margin, c_hint_margin, -c_hint_margin, -c_hint_margin),
+        Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text);
     return true;
 }
 
@@ -109,8 +116,8 @@ void TreeMemory::RestoreBelow(QTreeView& view, const SiteTreeModel& model,
     const bool open = m_open.contains(index.internalPointer());
     if (open && !view.isExpanded(index))
         view.expand(index);
-    for (int row = 0; (open || index.internalPointer() == mp_current) && row < model.rowCount(index);
-         ++row)
+    for (int row = 0;
+         (open || index.internalPointer() == mp_current) && row < model.rowCount(index); ++row)
         RestoreBelow(view, model, model.index(row, 0, index));
     if (mp_current && index.internalPointer() == mp_current)
         view.setCurrentIndex(index);

@@ -28,6 +28,11 @@ public:
     static int RowHeight(const QFontMetrics& metrics);
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+protected:
+    /// Repaints the view after a click on a check box: not every model tells of it.
+    bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) override;
 };
 
 /// What an empty list says in its middle, for as long as it is empty.

@@ -188,8 +188,9 @@ void DelegatesTest::aMenusKeyIsNotStoredAndTheHintSaysWhose()
     auto* menu = dynamic_cast<UiStateMenu*>(editing.sites.menus.GetMenus()->GetItem(0));
     menu->SetKey('M');
     QTest::keyClick(editing.editor, Qt::Key_M);
-    QCOMPARE(CommandEditing::Hint(),
-             QStringLiteral("Key sequence 'M' is already used for menu '%1'").arg(menu->GetTitle()));
+    QCOMPARE(
+        CommandEditing::Hint(),
+        QStringLiteral("Key sequence 'M' is already used for menu '%1'").arg(menu->GetTitle()));
     QTest::keyClick(editing.editor, Qt::Key_F9);
     QVERIFY(CommandEditing::Hint().isEmpty());
     editing.Commit();

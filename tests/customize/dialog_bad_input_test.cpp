@@ -29,12 +29,14 @@ namespace {
 /// What a drag looks like to a view that it is over.
 void DragOver(QAbstractItemView& view, const QMimeData& data, const QPoint& at, bool drop)
 {
-    QDragEnterEvent enter(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                          Qt::NoModifier);
     QCoreApplication::sendEvent(view.viewport(), &enter);
     QDragMoveEvent move(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(view.viewport(), &move);
     if (drop) {
-        QDropEvent event(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent event(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                         Qt::NoModifier);
         QCoreApplication::sendEvent(view.viewport(), &event);
     } else {
         QDragLeaveEvent leave;
@@ -46,8 +48,11 @@ QStringList Names()
 {
     return {QString(10000, QLatin1Char('W')),
             QString::fromUtf8("\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D \xD8\xB3\xD9\x84\xD8\xA7\xD9\x85"),
-            QString::fromUtf8("\xF0\x9F\x8E\x89\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x9A\x80 \xE2\x9C\x82"),
-            QStringLiteral("a\nb\tc"), QStringLiteral("&&&"), QStringLiteral("<b>bold</b>"),
+            QString::fromUtf8(
+                "\xF0\x9F\x8E\x89\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x9A\x80 \xE2\x9C\x82"),
+            QStringLiteral("a\nb\tc"),
+            QStringLiteral("&&&"),
+            QStringLiteral("<b>bold</b>"),
             QString()};
 }
 
@@ -181,7 +186,7 @@ void DialogBadInputTest::anUpdateLeavesAnOpenEditAlone()
     QTest::keyClicks(editor, QStringLiteral("Kept"));
     QTest::keyClick(editor, Qt::Key_Return);
     QTRY_COMPARE(dialog.Ribbon()->GetPage(dialog.Ribbon()->GetChildCount() - 1)->GetTitle(),
-             QStringLiteral("Kept"));
+                 QStringLiteral("Kept"));
     view->setFocus();
     QTRY_VERIFY(!editor);
     dialog.host.Controller().UpdateUi();
@@ -352,7 +357,8 @@ void DialogBadInputTest::oddNamesOfCommandsAreShown()
     Dialog dialog;
     auto* view = dialog.Find<QTableView>("mp_view_commands");
     for (const QString& name : Names()) {
-        dialog.host.Command(QStringLiteral("File.Open"))->SetStrings(name, name, name, false, false, false);
+        dialog.host.Command(QStringLiteral("File.Open"))
+            ->SetStrings(name, name, name, false, false, false);
         dialog.host.Controller().UpdateUi();
         QVERIFY(!view->grab().isNull());
         QVERIFY(!dialog.Find<QTreeView>("mp_view_ribbon")->grab().isNull());
@@ -363,17 +369,26 @@ void DialogBadInputTest::oddSearchesFindOrFindNothing_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("found"); ///< titles with a blank between
-    QTest::newRow("a wildcard") << "z*m" << "Zoom";
-    QTest::newRow("one character") << "z??m" << "Zoom";
-    QTest::newRow("a set") << "[z]oom" << "Zoom";
-    QTest::newRow("an open bracket") << "[" << "";
-    QTest::newRow("a star finds all") << "*" << "*";
-    QTest::newRow("a tab") << "\t" << "*";
+    QTest::newRow("a wildcard") << "z*m"
+                                << "Zoom";
+    QTest::newRow("one character") << "z??m"
+                                   << "Zoom";
+    QTest::newRow("a set") << "[z]oom"
+                           << "Zoom";
+    QTest::newRow("an open bracket") << "["
+                                     << "";
+    QTest::newRow("a star finds all") << "*"
+                                      << "*";
+    QTest::newRow("a tab") << "\t"
+                           << "*";
     QTest::newRow("ten thousand characters") << QString(10000, QLatin1Char('x')) << "";
     QTest::newRow("an emoji") << QString::fromUtf8("\xF0\x9F\x8E\x89") << "";
-    QTest::newRow("a backslash") << "\\" << "";
-    QTest::newRow("a plus is itself") << "+" << "";
-    QTest::newRow("capitals") << "ZOOM" << "Zoom";
+    QTest::newRow("a backslash") << "\\"
+                                 << "";
+    QTest::newRow("a plus is itself") << "+"
+                                      << "";
+    QTest::newRow("capitals") << "ZOOM"
+                              << "Zoom";
 }
 
 void DialogBadInputTest::oddSearchesFindOrFindNothing()
@@ -510,7 +525,8 @@ void DialogBadInputTest::aDragBetweenPagesIsTaken()
     const ITreeItem* moved = dialog.Model()->GetItem(last);
     const std::unique_ptr<QMimeData> data(dialog.Model()->mimeData({last}));
     const QRect rect = view->visualRect(dialog.Model()->index(1, 0));
-    QDragEnterEvent enter(rect.center(), Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter(rect.center(), Qt::CopyAction, data.get(), Qt::LeftButton,
+                          Qt::NoModifier);
     QCoreApplication::sendEvent(view->viewport(), &enter);
     QDragMoveEvent move({rect.center().x(), rect.top() + 1}, Qt::CopyAction, data.get(),
                         Qt::LeftButton, Qt::NoModifier);

@@ -49,8 +49,7 @@ inline QJsonObject CatalogueOffering(const QStringList& ids)
 /// The customise dialog, open over the layout "Model" of the fake host in a window.
 struct Dialog
 {
-    explicit Dialog(const QStringList& commands = {})
-        : host(CatalogueOffering(commands))
+    explicit Dialog(const QStringList& commands = {}) : host(CatalogueOffering(commands))
     {
         ovk::RibbonWindowSettings::GroupTitleVisible().SetData(false);
         host.Start();
@@ -69,8 +68,7 @@ struct Dialog
     }
 
     QDialog& Get() const { return *ovk::UiCustomizeDialog::GetInstance()->GetDialog(); }
-    template <class Widget>
-    Widget* Find(const char* name) const
+    template <class Widget> Widget* Find(const char* name) const
     {
         return Get().findChild<Widget*>(QLatin1String(name));
     }
@@ -81,7 +79,8 @@ struct Dialog
     ovk::UiLayout* Layout() const { return host.Layout(QStringLiteral("Model")); }
     ovk::UiStateRibbon* Ribbon() const
     {
-        return dynamic_cast<ovk::UiStateRibbon*>(Layout()->GetState(ovk::UiStateRibbon::GetSuiteName()));
+        return dynamic_cast<ovk::UiStateRibbon*>(
+            Layout()->GetState(ovk::UiStateRibbon::GetSuiteName()));
     }
     ovk::RibbonModel* Model() const
     {

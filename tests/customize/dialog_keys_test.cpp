@@ -42,8 +42,7 @@ struct KeyDialog : Dialog
         }
     }
 
-    template <class Widget>
-    Widget& Focus(const char* name)
+    template <class Widget> Widget& Focus(const char* name)
     {
         auto* widget = Find<Widget>(name);
         widget->setFocus();
@@ -54,10 +53,7 @@ struct KeyDialog : Dialog
     {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
     }
-    static void Type(const QString& text)
-    {
-        QTest::keyClicks(QApplication::focusWidget(), text);
-    }
+    static void Type(const QString& text) { QTest::keyClicks(QApplication::focusWidget(), text); }
     /// The spots of a group, by name.
     QStringList Spots(int page, int group) const
     {
@@ -77,8 +73,8 @@ struct KeyDialog : Dialog
     /// Whatever keys are held.
     static void Select(QAbstractItemView& view, const QModelIndex& index)
     {
-        view.selectionModel()->setCurrentIndex(
-            index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        view.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
+                                                          QItemSelectionModel::Rows);
     }
     void SelectInRibbon(const QList<int>& path)
     {
@@ -123,6 +119,7 @@ private Q_SLOTS:
     void deleteTakesWhatIsSelected();
     void deleteLeavesWhatIsFixed();
     void spaceHidesAndShows();
+    void aCheckOnTheQuickAccessBarIsSeenAtOnce();
     void altArrowsMoveAPage();
     void altArrowsMoveSpotsAsABlock();
     void altArrowsMoveCompositesAndTheirItems();
@@ -218,8 +215,9 @@ void DialogKeysTest::f2RenamesAGroup()
     KeyDialog::Press(Qt::Key_F2);
     KeyDialog::Type(QStringLiteral("Renamed"));
     KeyDialog::Press(Qt::Key_Return);
-    QTRY_COMPARE(dynamic_cast<UiStateRibbonGroup*>(dialog.Ribbon()->GetPage(0)->GetItem(1))->GetTitle(),
-             QStringLiteral("Renamed"));
+    QTRY_COMPARE(
+        dynamic_cast<UiStateRibbonGroup*>(dialog.Ribbon()->GetPage(0)->GetItem(1))->GetTitle(),
+        QStringLiteral("Renamed"));
 }
 
 void DialogKeysTest::f2OpensTheStyleOfASpot()
@@ -269,6 +267,29 @@ void DialogKeysTest::spaceHidesAndShows()
     QVERIFY(!dialog.Ribbon()->GetPage(0)->GetItem(1)->IsVisible());
     KeyDialog::Press(Qt::Key_Space);
     QVERIFY(dialog.Ribbon()->GetPage(0)->GetItem(1)->IsVisible());
+}
+
+void DialogKeysTest::aCheckOnTheQuickAccessBarIsSeenAtOnce()
+{
+    KeyDialog dialog;
+    dialog.Find<QTabWidget>("mp_tabs_sites")->setCurrentIndex(1);
+    auto& view = dialog.Focus<QTreeView>("mp_view_qab");
+    KeyDialog::Select(view, view.model()->index(0, 0));
+    QCoreApplication::processEvents();
+    struct Counter : QObject
+    {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            painted += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+        int painted = 0;
+    };
+    Counter counter;
+    view.viewport()->installEventFilter(&counter);
+    KeyDialog::Press(Qt::Key_Space);
+    QCOMPARE(view.model()->index(0, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
+    QTRY_VERIFY(counter.painted > 0);
 }
 
 void DialogKeysTest::altArrowsMoveAPage()
@@ -392,7 +413,8 @@ void DialogKeysTest::aShortcutIsAssignedAndDeleted()
     KeyDialog dialog;
     dialog.SelectCommand(QStringLiteral("View.Zoom"));
     KeyDialog::Press(Qt::Key_F2);
-    auto* edit = dialog.Find<QTableView>("mp_view_commands")->viewport()->findChild<KeySequenceEdit*>();
+    auto* edit =
+        dialog.Find<QTableView>("mp_view_commands")->viewport()->findChild<KeySequenceEdit*>();
     QVERIFY(edit);
     QTest::keyClick(edit, Qt::Key_F9);
     QTest::keyClick(edit, Qt::Key_Return);

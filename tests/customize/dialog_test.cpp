@@ -77,7 +77,8 @@ void CustomizeDialogTest::openingShowsTheDialogAndBlocksCommands()
     QCOMPARE(dialog.blocked, QList<bool>{true});
     QVERIFY(dialog.ShortcutsRest());
     QVERIFY(!dialog.Button(QDialogButtonBox::Discard)->isEnabled());
-    QCOMPARE(dialog.Find<QComboBox>("mp_combo_layout")->currentData().toString(), QStringLiteral("Model"));
+    QCOMPARE(dialog.Find<QComboBox>("mp_combo_layout")->currentData().toString(),
+             QStringLiteral("Model"));
     QCOMPARE(dialog.Find<QTabWidget>("mp_tabs_sites")->currentIndex(), 0);
 }
 
@@ -85,7 +86,8 @@ void CustomizeDialogTest::returnNeverThrowsWorkAway()
 {
     Dialog dialog;
     QVERIFY(dialog.Button(QDialogButtonBox::Ok)->isDefault());
-    QCOMPARE(dialog.Get().focusWidget(), static_cast<QWidget*>(dialog.Find<QLineEdit>("mp_ed_search_basic")));
+    QCOMPARE(dialog.Get().focusWidget(),
+             static_cast<QWidget*>(dialog.Find<QLineEdit>("mp_ed_search_basic")));
     for (QDialogButtonBox::StandardButton which :
          {QDialogButtonBox::Discard, QDialogButtonBox::RestoreDefaults}) {
         QVERIFY(!dialog.Button(which)->isDefault());
@@ -101,30 +103,36 @@ void CustomizeDialogTest::thereAreTwoPagesWithoutTheStyleCommand()
     Dialog dialog;
     QCOMPARE(dialog.Get().findChild<QStackedWidget*>()->count(), 2);
     QVERIFY(!UiCustomizeStyleWidget::Existing());
-    QCOMPARE(dialog.Find<QToolButton>("mp_btn_sites")->text(), QStringLiteral("Toolbars\n&&\nShortcuts"));
+    QCOMPARE(dialog.Find<QToolButton>("mp_btn_sites")->text(),
+             QStringLiteral("Toolbars\n&&\nShortcuts"));
 }
 
 void CustomizeDialogTest::theFormHasItsWidgets()
 {
     Dialog dialog;
-    for (const char* name :
-         {"mp_label_mode", "mp_combo_layout", "mp_splitter_commands", "mp_lbl_basic",
-          "mp_ed_search_basic", "mp_view_commands", "mp_lbl_composite", "mp_ed_search_composite",
-          "mp_view_composite", "mp_btn_add_command", "mp_tabs_sites", "mp_tab_ribbon", "mp_tab_QAB",
-          "mp_tab_toolbars", "mp_tab_menus", "mp_view_ribbon", "mp_cb_group_title", "mp_view_qab",
-          "mp_view_toolbars", "mp_view_menus", "p_check_shrink_menu", "mp_pages_view",
-          "mp_btn_restore", "groupBox", "mp_animated_docking"})
+    for (const char* name : {"mp_label_mode",      "mp_combo_layout",        "mp_splitter_commands",
+                             "mp_lbl_basic",       "mp_ed_search_basic",     "mp_view_commands",
+                             "mp_lbl_composite",   "mp_ed_search_composite", "mp_view_composite",
+                             "mp_btn_add_command", "mp_tabs_sites",          "mp_tab_ribbon",
+                             "mp_tab_QAB",         "mp_tab_toolbars",        "mp_tab_menus",
+                             "mp_view_ribbon",     "mp_cb_group_title",      "mp_view_qab",
+                             "mp_view_toolbars",   "mp_view_menus",          "p_check_shrink_menu",
+                             "mp_pages_view",      "mp_btn_restore",         "groupBox",
+                             "mp_animated_docking"})
         QVERIFY2(dialog.Find<QWidget>(name), name);
-    for (const char* name : {"mp_view_composite", "mp_view_ribbon", "mp_view_qab", "mp_view_toolbars", "mp_view_menus"})
+    for (const char* name : {"mp_view_composite", "mp_view_ribbon", "mp_view_qab",
+                             "mp_view_toolbars", "mp_view_menus"})
         QCOMPARE(dialog.Find<QTreeView>(name)->metaObject()->className(), "QTreeViewFixed");
-    QCOMPARE(dialog.Find<QLineEdit>("mp_ed_search_basic")->placeholderText(), QStringLiteral("<enter text to search>"));
+    QCOMPARE(dialog.Find<QLineEdit>("mp_ed_search_basic")->placeholderText(),
+             QStringLiteral("<enter text to search>"));
 }
 
 void CustomizeDialogTest::everyActionHasItsText()
 {
     Dialog dialog;
-    const QList<QAction*> actions = UiCustomizeSitesWidget::Existing()->GetWidget()->findChildren<QAction*>(
-        QString(), Qt::FindDirectChildrenOnly);
+    const QList<QAction*> actions =
+        UiCustomizeSitesWidget::Existing()->GetWidget()->findChildren<QAction*>(
+            QString(), Qt::FindDirectChildrenOnly);
     QCOMPARE(actions.size(), 43);
     for (int i = 0; i < actions.size(); ++i) {
         QCOMPARE(actions.at(i)->text(), QLatin1String(SitesActionTexts()[i].text));
@@ -140,13 +148,15 @@ void CustomizeDialogTest::everyButtonShowsItsAction()
         auto* button = dialog.Find<QToolButton>(entry.object_name);
         QVERIFY2(button, entry.object_name);
         QVERIFY(button->defaultAction());
-        QCOMPARE(button->defaultAction()->text(), QLatin1String(SitesActionTexts()[int(entry.action)].text));
+        QCOMPARE(button->defaultAction()->text(),
+                 QLatin1String(SitesActionTexts()[int(entry.action)].text));
     }
 }
 
 void CustomizeDialogTest::everyOfferNamesButtonsOfItsTree()
 {
-    for (SitesTree tree : {SitesTree::Ribbon, SitesTree::Qab, SitesTree::Toolbars, SitesTree::Menus}) {
+    for (SitesTree tree :
+         {SitesTree::Ribbon, SitesTree::Qab, SitesTree::Toolbars, SitesTree::Menus}) {
         const SitesOffer* none = FindSitesOffer(tree, SitesSelection::None);
         QVERIFY(none);
         QCOMPARE(none->buttons.size(), size_t(1));
@@ -170,8 +180,8 @@ void CustomizeDialogTest::okSavesAndWakesTheShortcuts()
     QCOMPARE(dialog.blocked, (QList<bool>{true, false}));
     UiProfile saved;
     QVERIFY(dialog.host.Profiles().Load(saved));
-    QCOMPARE(dynamic_cast<UiStateRibbon*>(saved.GetLayout(QStringLiteral("Model"))
-                                              ->GetState(UiStateRibbon::GetSuiteName()))
+    QCOMPARE(dynamic_cast<UiStateRibbon*>(
+                 saved.GetLayout(QStringLiteral("Model"))->GetState(UiStateRibbon::GetSuiteName()))
                  ->GetChildCount(),
              pages);
     QCOMPARE(dialog.Model()->rowCount(), 0);
@@ -278,7 +288,8 @@ void CustomizeDialogTest::buttonsFollowTheSelection()
     QVERIFY(shown().contains(QStringLiteral("mp_ribbon_button_page_add_group")));
     QCOMPARE(shown().size(), 4);
     auto* page = dialog.Ribbon()->GetPage(0);
-    QCOMPARE(dialog.Find<QToolButton>("mp_ribbon_button_page_delete")->isEnabled(), page->IsDeleteable());
+    QCOMPARE(dialog.Find<QToolButton>("mp_ribbon_button_page_delete")->isEnabled(),
+             page->IsDeleteable());
     const QModelIndex group = dialog.Model()->index(0, 0, dialog.Model()->index(0, 0));
     view->setCurrentIndex(group);
     QVERIFY(shown().contains(QStringLiteral("mp_ribbon_button_group_delete")));
@@ -374,8 +385,10 @@ void CustomizeDialogTest::deleteItemsTakesWholeBranches()
     auto* view = dialog.Find<QTreeView>("mp_view_ribbon");
     view->clearSelection();
     const QModelIndex page = dialog.Model()->index(0, 0);
-    for (const QModelIndex& index : {page, dialog.Model()->index(1, 0, page), dialog.Model()->index(1, 0)})
-        view->selectionModel()->select(index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    for (const QModelIndex& index :
+         {page, dialog.Model()->index(1, 0, page), dialog.Model()->index(1, 0)})
+        view->selectionModel()->select(index,
+                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
     auto* button = dialog.Find<QToolButton>("mp_ribbon_button_delete_items");
     QVERIFY(button->isEnabled());
     button->click();

@@ -130,7 +130,8 @@ struct LiveSites : SitesHost
             auto* node = PageNode(page);
             QCOMPARE(window->ribbonBar()->pages().at(page), node->GetWidget());
             for (int group = 0; group < node->GetChildCount(); ++group)
-                QCOMPARE(Shown(*GroupNode(page, group)->GetWidget()), Told(*GroupNode(page, group)));
+                QCOMPARE(Shown(*GroupNode(page, group)->GetWidget()),
+                         Told(*GroupNode(page, group)));
         }
         auto* qab_root = dynamic_cast<UiStateCommandSpots*>(qab.GetRootItem());
         QCOMPARE(Shown(*window->ribbonBar()->quickAccessBar()), Told(*qab_root));
@@ -176,96 +177,120 @@ void DropRulesTest::everyRuleActs_data()
     };
     const char* const files = "File.Open - File.Save";
     QTest::newRow("page on the ribbon, to the end")
-        << "ribbon:0" << "ribbon" << -1
+        << "ribbon:0"
+        << "ribbon" << -1
         << "Two(G2()) page.home(group.file(File.Open - File.Save) group.edit(composite.clip))";
     QTest::newRow("page on the ribbon, before another")
-        << "ribbon:1" << "ribbon" << 0
+        << "ribbon:1"
+        << "ribbon" << 0
         << "Two(G2()) page.home(group.file(File.Open - File.Save) group.edit(composite.clip))";
     QTest::newRow("page on a page goes behind it")
-        << "ribbon:0" << "ribbon:1" << -1
+        << "ribbon:0"
+        << "ribbon:1" << -1
         << "Two(G2()) page.home(group.file(File.Open - File.Save) group.edit(composite.clip))";
     QTest::newRow("group on a page")
-        << "ribbon:0/1" << "ribbon:1" << 0
+        << "ribbon:0/1"
+        << "ribbon:1" << 0
         << "page.home(group.file(File.Open - File.Save)) Two(group.edit(composite.clip) G2())";
     QTest::newRow("group on a page, to the end")
-        << "ribbon:0/1" << "ribbon:1" << -1
+        << "ribbon:0/1"
+        << "ribbon:1" << -1
         << "page.home(group.file(File.Open - File.Save)) Two(G2() group.edit(composite.clip))";
     QTest::newRow("group on a group goes behind it")
-        << "ribbon:0/0" << "ribbon:0/1" << -1
+        << "ribbon:0/0"
+        << "ribbon:0/1" << -1
         << "page.home(group.edit(composite.clip) group.file(File.Open - File.Save)) Two(G2())";
     QTest::newRow("commands on a group come in reverse")
-        << "commands:File.Open,Edit.Copy,View.Zoom" << "ribbon:1/0" << -1
+        << "commands:File.Open,Edit.Copy,View.Zoom"
+        << "ribbon:1/0" << -1
         << ribbon(files, "composite.clip", "G2(View.Zoom Edit.Copy File.Open)");
     QTest::newRow("commands into a group, at a row")
-        << "commands:Edit.Copy" << "ribbon:0/0" << 1
-        << ribbon("File.Open Edit.Copy - File.Save", "composite.clip", "G2()");
+        << "commands:Edit.Copy"
+        << "ribbon:0/0" << 1 << ribbon("File.Open Edit.Copy - File.Save", "composite.clip", "G2()");
     QTest::newRow("spots on a group keep their order")
-        << "ribbon:0/0/0,0/0/1" << "ribbon:1/0" << -1
-        << ribbon("File.Save", "composite.clip", "G2(File.Open -)");
+        << "ribbon:0/0/0,0/0/1"
+        << "ribbon:1/0" << -1 << ribbon("File.Save", "composite.clip", "G2(File.Open -)");
     QTest::newRow("composite on a group")
-        << "composites:1" << "ribbon:0/0" << 0
+        << "composites:1"
+        << "ribbon:0/0" << 0
         << ribbon("composite.save File.Open - File.Save", "composite.clip", "G2()");
     QTest::newRow("commands on a spot go behind it")
-        << "commands:Edit.Copy" << "ribbon:0/0/0" << -1
+        << "commands:Edit.Copy"
+        << "ribbon:0/0/0" << -1
         << ribbon("File.Open Edit.Copy - File.Save", "composite.clip", "G2()");
     QTest::newRow("spot on a spot goes behind it")
-        << "ribbon:0/0/0" << "ribbon:0/0/2" << -1
-        << ribbon("- File.Save File.Open", "composite.clip", "G2()");
+        << "ribbon:0/0/0"
+        << "ribbon:0/0/2" << -1 << ribbon("- File.Save File.Open", "composite.clip", "G2()");
     QTest::newRow("composite on a spot goes behind it")
-        << "composites:1" << "ribbon:0/0/2" << -1
+        << "composites:1"
+        << "ribbon:0/0/2" << -1
         << ribbon("File.Open - File.Save composite.save", "composite.clip", "G2()");
 
     QTest::newRow("commands on the quick access bar")
-        << "commands:File.Open,Edit.Copy" << "qab" << -1 << "File.Save Edit.Copy File.Open";
+        << "commands:File.Open,Edit.Copy"
+        << "qab" << -1 << "File.Save Edit.Copy File.Open";
     QTest::newRow("commands before others of the quick access bar")
-        << "commands:File.Open" << "qab" << 0 << "File.Open File.Save";
-    QTest::newRow("composite on the quick access bar")
-        << "composites:0" << "qab" << -1 << "File.Save composite.clip";
+        << "commands:File.Open"
+        << "qab" << 0 << "File.Open File.Save";
+    QTest::newRow("composite on the quick access bar") << "composites:0"
+                                                       << "qab" << -1 << "File.Save composite.clip";
     QTest::newRow("commands on a spot of the quick access bar")
-        << "commands:File.Open" << "qab:0" << -1 << "File.Save File.Open";
+        << "commands:File.Open"
+        << "qab:0" << -1 << "File.Save File.Open";
     QTest::newRow("composite on a spot of the quick access bar")
-        << "composites:0" << "qab:0" << -1 << "File.Save composite.clip";
+        << "composites:0"
+        << "qab:0" << -1 << "File.Save composite.clip";
 
-    QTest::newRow("toolbar among toolbars")
-        << "toolbars:1" << "toolbars" << 0 << "Bar() toolbar.view(View.Zoom)";
+    QTest::newRow("toolbar among toolbars") << "toolbars:1"
+                                            << "toolbars" << 0 << "Bar() toolbar.view(View.Zoom)";
     QTest::newRow("toolbar on a toolbar goes behind it")
-        << "toolbars:0" << "toolbars:1" << -1 << "Bar() toolbar.view(View.Zoom)";
+        << "toolbars:0"
+        << "toolbars:1" << -1 << "Bar() toolbar.view(View.Zoom)";
     QTest::newRow("commands on a toolbar")
-        << "commands:File.Open" << "toolbars:1" << -1 << "toolbar.view(View.Zoom) Bar(File.Open)";
-    QTest::newRow("spot on a toolbar")
-        << "toolbars:0/0" << "toolbars:1" << -1 << "toolbar.view() Bar(View.Zoom)";
+        << "commands:File.Open"
+        << "toolbars:1" << -1 << "toolbar.view(View.Zoom) Bar(File.Open)";
+    QTest::newRow("spot on a toolbar") << "toolbars:0/0"
+                                       << "toolbars:1" << -1 << "toolbar.view() Bar(View.Zoom)";
     QTest::newRow("composite on a toolbar")
-        << "composites:0" << "toolbars:0" << 0 << "toolbar.view(composite.clip View.Zoom) Bar()";
+        << "composites:0"
+        << "toolbars:0" << 0 << "toolbar.view(composite.clip View.Zoom) Bar()";
     QTest::newRow("commands on a spot of a toolbar")
-        << "commands:File.Open" << "toolbars:0/0" << -1
-        << "toolbar.view(View.Zoom File.Open) Bar()";
+        << "commands:File.Open"
+        << "toolbars:0/0" << -1 << "toolbar.view(View.Zoom File.Open) Bar()";
     QTest::newRow("composite on a spot of a toolbar")
-        << "composites:0" << "toolbars:0/0" << -1
-        << "toolbar.view(View.Zoom composite.clip) Bar()";
+        << "composites:0"
+        << "toolbars:0/0" << -1 << "toolbar.view(View.Zoom composite.clip) Bar()";
 
-    QTest::newRow("commands on a menu")
-        << "commands:File.Open" << "menus:0" << 0 << "menu.main(File.Open Edit.Copy) M2()";
-    QTest::newRow("spot on a menu")
-        << "menus:0/0" << "menus:1" << -1 << "menu.main() M2(Edit.Copy)";
+    QTest::newRow("commands on a menu") << "commands:File.Open"
+                                        << "menus:0" << 0 << "menu.main(File.Open Edit.Copy) M2()";
+    QTest::newRow("spot on a menu") << "menus:0/0"
+                                    << "menus:1" << -1 << "menu.main() M2(Edit.Copy)";
     QTest::newRow("commands on a spot of a menu")
-        << "commands:File.Open" << "menus:0/0" << -1 << "menu.main(Edit.Copy File.Open) M2()";
+        << "commands:File.Open"
+        << "menus:0/0" << -1 << "menu.main(Edit.Copy File.Open) M2()";
 
     QTest::newRow("composite on a composite: they change places")
-        << "composites:0" << "composites:2" << -1
+        << "composites:0"
+        << "composites:2" << -1
         << "C3() composite.save(File.Save File.Open) composite.clip(Edit.Copy Edit.Paste)";
     QTest::newRow("item on a composite")
-        << "composites:0/0" << "composites:2" << -1
+        << "composites:0/0"
+        << "composites:2" << -1
         << "composite.clip(Edit.Paste) composite.save(File.Save File.Open) C3(Edit.Copy)";
     QTest::newRow("commands on a composite")
-        << "commands:File.Open,Edit.Copy" << "composites:2" << -1
+        << "commands:File.Open,Edit.Copy"
+        << "composites:2" << -1
         << "composite.clip(Edit.Copy Edit.Paste) composite.save(File.Save File.Open) "
            "C3(Edit.Copy File.Open)";
     QTest::newRow("item on an item goes behind it")
-        << "composites:0/0" << "composites:1/0" << -1
+        << "composites:0/0"
+        << "composites:1/0" << -1
         << "composite.clip(Edit.Paste) composite.save(File.Save Edit.Copy File.Open) C3()";
     QTest::newRow("commands on an item go behind it")
-        << "commands:View.Zoom" << "composites:0/0" << -1
-        << "composite.clip(Edit.Copy View.Zoom Edit.Paste) composite.save(File.Save File.Open) C3()";
+        << "commands:View.Zoom"
+        << "composites:0/0" << -1
+        << "composite.clip(Edit.Copy View.Zoom Edit.Paste) composite.save(File.Save File.Open) "
+           "C3()";
 }
 
 void DropRulesTest::everyRuleActs()
@@ -310,9 +335,9 @@ void DropRulesTest::whatNoRuleNamesIsRefused_data()
           "composites:0"}},
         {"composites:1/0", {"composites:0", "composites:0/0"}},
     };
-    const QStringList targets = {"ribbon",       "ribbon:0", "ribbon:0/0", "ribbon:0/0/0",
-                                 "qab",          "qab:0",    "toolbars",   "toolbars:0",
-                                 "toolbars:0/0", "menus",    "menus:0",    "menus:0/0",
+    const QStringList targets = {"ribbon",       "ribbon:0",     "ribbon:0/0",    "ribbon:0/0/0",
+                                 "qab",          "qab:0",        "toolbars",      "toolbars:0",
+                                 "toolbars:0/0", "menus",        "menus:0",       "menus:0/0",
                                  "composites",   "composites:0", "composites:0/0"};
     for (const Row& row : rows) {
         for (const QString& target : targets) {
@@ -348,20 +373,34 @@ void DropRulesTest::refusalsByRoomAndLocks_data()
     QTest::addColumn<int>("filled");
     QTest::addColumn<bool>("locked");
     QTest::addColumn<bool>("allowed");
-    QTest::newRow("the 128th spot of a group") << "commands:View.Zoom" << "ribbon:0/0" << 127 << false << true;
-    QTest::newRow("the 129th") << "commands:View.Zoom" << "ribbon:0/0" << 128 << false << false;
-    QTest::newRow("two for one place") << "commands:View.Zoom,Edit.Copy" << "ribbon:0/0" << 127 << false << false;
-    QTest::newRow("a composite into a full group") << "composites:1" << "ribbon:0/0" << 128 << false << false;
-    QTest::newRow("a move inside a full group") << "ribbon:0/0/0,0/0/1" << "ribbon:0/0" << 128 << false << true;
-    QTest::newRow("the 129th of the quick access bar") << "commands:View.Zoom" << "qab" << 128 << false << false;
-    QTest::newRow("the 64th of a toolbar") << "commands:File.Open" << "toolbars:0" << 63 << false << true;
-    QTest::newRow("the 65th of a toolbar") << "commands:File.Open" << "toolbars:0" << 64 << false << false;
-    QTest::newRow("the 12th of a menu") << "commands:File.Open" << "menus:0" << 11 << false << true;
-    QTest::newRow("the 13th of a menu") << "commands:File.Open" << "menus:0" << 12 << false << false;
-    QTest::newRow("a locked group") << "commands:View.Zoom" << "ribbon:0/0" << 0 << true << false;
-    QTest::newRow("a group on a locked group") << "ribbon:1/0" << "ribbon:0/0" << 0 << true << false;
-    QTest::newRow("a locked toolbar") << "commands:File.Open" << "toolbars:0" << 0 << true << false;
-    QTest::newRow("a locked menu takes commands") << "commands:File.Open" << "menus:0" << 0 << true << true;
+    QTest::newRow("the 128th spot of a group") << "commands:View.Zoom"
+                                               << "ribbon:0/0" << 127 << false << true;
+    QTest::newRow("the 129th") << "commands:View.Zoom"
+                               << "ribbon:0/0" << 128 << false << false;
+    QTest::newRow("two for one place") << "commands:View.Zoom,Edit.Copy"
+                                       << "ribbon:0/0" << 127 << false << false;
+    QTest::newRow("a composite into a full group") << "composites:1"
+                                                   << "ribbon:0/0" << 128 << false << false;
+    QTest::newRow("a move inside a full group") << "ribbon:0/0/0,0/0/1"
+                                                << "ribbon:0/0" << 128 << false << true;
+    QTest::newRow("the 129th of the quick access bar") << "commands:View.Zoom"
+                                                       << "qab" << 128 << false << false;
+    QTest::newRow("the 64th of a toolbar") << "commands:File.Open"
+                                           << "toolbars:0" << 63 << false << true;
+    QTest::newRow("the 65th of a toolbar") << "commands:File.Open"
+                                           << "toolbars:0" << 64 << false << false;
+    QTest::newRow("the 12th of a menu") << "commands:File.Open"
+                                        << "menus:0" << 11 << false << true;
+    QTest::newRow("the 13th of a menu") << "commands:File.Open"
+                                        << "menus:0" << 12 << false << false;
+    QTest::newRow("a locked group") << "commands:View.Zoom"
+                                    << "ribbon:0/0" << 0 << true << false;
+    QTest::newRow("a group on a locked group") << "ribbon:1/0"
+                                               << "ribbon:0/0" << 0 << true << false;
+    QTest::newRow("a locked toolbar") << "commands:File.Open"
+                                      << "toolbars:0" << 0 << true << false;
+    QTest::newRow("a locked menu takes commands") << "commands:File.Open"
+                                                  << "menus:0" << 0 << true << true;
 }
 
 void DropRulesTest::refusalsByRoomAndLocks()

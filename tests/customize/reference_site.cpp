@@ -138,8 +138,7 @@ bool ReferenceSite::MayDrop(const RefDrag& drag, const void* target_id, int,
     if (drag.is_commands) {
         const int count = drag.commands.size();
         if (composites) {
-            const RefNode* composite =
-                target.kind == NodeKind::CompositeItem ? parent : &target;
+            const RefNode* composite = target.kind == NodeKind::CompositeItem ? parent : &target;
             return composite->kind == NodeKind::Composite &&
                    composite->children.size() + count <= m_max_items;
         }

@@ -17,7 +17,7 @@ struct RefNode
     const void* id = nullptr; ///< the live node; null for one that a drop made
     QString name;
     ovk::NodeKind kind = ovk::NodeKind::None;
-    bool offered = true; ///< resolves in this product
+    bool offered = true;  ///< resolves in this product
     bool command = false; ///< a spot with a command
     bool fixed = false;
     bool menu_type = false; ///< of two kinds of composites
@@ -39,7 +39,8 @@ public:
     ReferenceSite(const ovk::ITreeItem& root, int max_items);
 
     /// Whether the rules let `drag` be dropped on the node at `row` of what is shown of it.
-    bool MayDrop(const RefDrag& drag, const void* target, int row, const ReferenceSite* source) const;
+    bool MayDrop(const RefDrag& drag, const void* target, int row,
+                 const ReferenceSite* source) const;
     /// Carries the drop out on the lists. `source` holds the dragged nodes: this one or, for
     /// composites, another.
     void Drop(const RefDrag& drag, const void* target, int row, const ReferenceSite* source);

@@ -52,7 +52,8 @@ void SiteModelsTest::buttonStylesAreNamedByTheirNumber()
 void SiteModelsTest::theDragTypeIsOursAndItsPayloadEmpty()
 {
     SitesHost sites;
-    QCOMPARE(sites.ribbon.mimeTypes(), QStringList{QStringLiteral("corvantique/ovk.commands.customize")});
+    QCOMPARE(sites.ribbon.mimeTypes(),
+             QStringList{QStringLiteral("corvantique/ovk.commands.customize")});
     const std::unique_ptr<QMimeData> data(sites.ribbon.mimeData({sites.Page(0)}));
     QVERIFY(data->hasFormat(QStringLiteral("corvantique/ovk.commands.customize")));
     QVERIFY(data->data(QStringLiteral("corvantique/ovk.commands.customize")).isEmpty());

@@ -18,10 +18,7 @@ namespace {
 class Player
 {
 public:
-    explicit Player(quint32 seed) : m_random(seed)
-    {
-        GrowTrees();
-    }
+    explicit Player(quint32 seed) : m_random(seed) { GrowTrees(); }
 
     SitesHost& Sites() { return m_sites; }
     int Bounded(int end) { return m_random.bounded(end); }
@@ -64,10 +61,10 @@ public:
         if (first.isValid())
             rows.append(first);
         for (int i = Bounded(3); first.isValid() && i > 0; --i) {
-            const QModelIndex more = Bounded(2) == 0
-                                         ? AnyIndex(*source)
-                                         : source->index(Bounded(source->rowCount(first.parent())), 0,
-                                                         first.parent());
+            const QModelIndex more =
+                Bounded(2) == 0
+                    ? AnyIndex(*source)
+                    : source->index(Bounded(source->rowCount(first.parent())), 0, first.parent());
             if (more.isValid() && !rows.contains(more))
                 rows.append(more);
         }
@@ -86,9 +83,15 @@ public:
     {
         const int page = Bounded(qMax(1, m_sites.ribbon.rowCount()));
         switch (Bounded(6)) {
-        case 0: m_sites.ribbon.AddPage(Bounded(m_sites.ribbon.rowCount() + 1)); break;
-        case 1: m_sites.ribbon.AddGroup(m_sites.Page(page), -1); break;
-        case 2: m_sites.toolbars.AddToolbar(-1); break;
+        case 0:
+            m_sites.ribbon.AddPage(Bounded(m_sites.ribbon.rowCount() + 1));
+            break;
+        case 1:
+            m_sites.ribbon.AddGroup(m_sites.Page(page), -1);
+            break;
+        case 2:
+            m_sites.toolbars.AddToolbar(-1);
+            break;
         case 3:
             if (m_sites.menus.rowCount() < 6)
                 m_sites.menus.AddMenu(0);
@@ -109,7 +112,9 @@ private:
     {
         for (int i = 0; i < count; ++i) {
             switch (Bounded(4)) {
-            case 0: spots.AddSpot(spots.CreateSeparatorSpot()); break;
+            case 0:
+                spots.AddSpot(spots.CreateSeparatorSpot());
+                break;
             case 1: {
                 UiSpotCommand* spot = UiStateCommandSpots::CreateCommandSpot(
                     QStringLiteral("Unknown.%1").arg(++m_unknown));
@@ -247,7 +252,9 @@ void SiteRandomDragsTest::everyDragDoesWhatPlainListsDo()
         if (&model == &sites.composites && SiteTreeModel::KindOf(node) == NodeKind::Composite &&
             !drag.nodes.isEmpty() && source == &model &&
             model.GetItem(dynamic_cast<DragSource<QModelIndexList>*>(GetDragSource())
-                              ->GetPayload()->first())->GetParent() == model.GetRootItem())
+                              ->GetPayload()
+                              ->first())
+                    ->GetParent() == model.GetRootItem())
             continue;
         ReferenceSite expected = Reference(model);
         const ReferenceSite from = Reference(*source);
@@ -256,12 +263,12 @@ void SiteRandomDragsTest::everyDragDoesWhatPlainListsDo()
         QStringList dragged = drag.commands;
         for (const void* id : drag.nodes)
             dragged.append(origin->Find(id)->name);
-        const QString context = QStringLiteral("step %1 of seed %2: %3 on %4 at %5")
-                                    .arg(step)
-                                    .arg(seed)
-                                    .arg(dragged.join(QStringLiteral(", ")),
-                                         expected.Find(node)->name)
-                                    .arg(row);
+        const QString context =
+            QStringLiteral("step %1 of seed %2: %3 on %4 at %5")
+                .arg(step)
+                .arg(seed)
+                .arg(dragged.join(QStringLiteral(", ")), expected.Find(node)->name)
+                .arg(row);
         QVERIFY2(sites.CanDrop(model, target, row) == allowed, qPrintable(context));
         if (!allowed) {
             ++refused;

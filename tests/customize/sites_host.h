@@ -51,7 +51,10 @@ struct SitesHost
 
     QModelIndex Page(int page) const { return ribbon.index(page, 0); }
     QModelIndex Group(int page, int group) const { return ribbon.index(group, 0, Page(page)); }
-    ovk::UiStateRibbon* Root() const { return dynamic_cast<ovk::UiStateRibbon*>(ribbon.GetRootItem()); }
+    ovk::UiStateRibbon* Root() const
+    {
+        return dynamic_cast<ovk::UiStateRibbon*>(ribbon.GetRootItem());
+    }
     ovk::UiStateRibbonPage* PageNode(int page) const
     {
         return dynamic_cast<ovk::UiStateRibbonPage*>(ribbon.GetItem(Page(page)));
@@ -71,7 +74,9 @@ struct SitesHost
     {
         QStringList names;
         for (int row = 0; row < ribbon.rowCount(group); ++row)
-            names.append(dynamic_cast<ovk::UiProfileItem*>(ribbon.GetItem(ribbon.index(row, 0, group)))->GetName());
+            names.append(
+                dynamic_cast<ovk::UiProfileItem*>(ribbon.GetItem(ribbon.index(row, 0, group)))
+                    ->GetName());
         return names;
     }
 
@@ -82,7 +87,10 @@ struct SitesHost
             indexes.append(commands.index(row, 0));
         delete commands.mimeData(indexes);
     }
-    void Drag(ovk::SiteTreeModel& model, const QModelIndexList& indexes) { delete model.mimeData(indexes); }
+    void Drag(ovk::SiteTreeModel& model, const QModelIndexList& indexes)
+    {
+        delete model.mimeData(indexes);
+    }
     bool IsCompositeDrag() const
     {
         auto* source = dynamic_cast<ovk::DragSource<QModelIndexList>*>(ovk::GetDragSource());

@@ -29,10 +29,10 @@ QJsonObject ProfileWithPanels()
     QJsonObject states = layout.value(QStringLiteral("states")).toObject();
     states.insert(QStringLiteral("docking"),
                   Docking({{QStringLiteral("left"),
-                            {Panel(QStringLiteral("parts"), {QStringLiteral("Page.One"),
-                                                             QStringLiteral("Page.Two")}),
-                             Panel(QStringLiteral("away"), {QStringLiteral("Away.One"),
-                                                            QStringLiteral("Away.Two")})}}},
+                            {Panel(QStringLiteral("parts"),
+                                   {QStringLiteral("Page.One"), QStringLiteral("Page.Two")}),
+                             Panel(QStringLiteral("away"),
+                                   {QStringLiteral("Away.One"), QStringLiteral("Away.Two")})}}},
                           {Panel(QStringLiteral("tools"), {QStringLiteral("Page.Tools")},
                                  QRect(300, 300, 200, 150))}));
     layout.insert(QStringLiteral("states"), states);
@@ -83,8 +83,8 @@ struct ToolPages
     }
     bool Check(const QString& path, bool checked)
     {
-        const bool done = Model().setData(At(path), checked ? Qt::Checked : Qt::Unchecked,
-                                          Qt::CheckStateRole);
+        const bool done =
+            Model().setData(At(path), checked ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
         DockFixture::Settle();
         return done;
     }
@@ -96,8 +96,7 @@ struct ToolPages
         }
         return nullptr;
     }
-    template <class Widget>
-    Widget& Of(const char* name) const
+    template <class Widget> Widget& Of(const char* name) const
     {
         return *page->GetWidget()->findChild<Widget*>(QLatin1String(name));
     }
@@ -140,7 +139,8 @@ void ToolpagesPageTest::theFormHasItsWidgets()
 {
     ToolPages tools;
     QVERIFY(tools.Of<QTreeView>("mp_pages_view").isHeaderHidden());
-    QCOMPARE(tools.Of<QPushButton>("mp_btn_restore").text(), QStringLiteral("Restore\nPages\nLayout"));
+    QCOMPARE(tools.Of<QPushButton>("mp_btn_restore").text(),
+             QStringLiteral("Restore\nPages\nLayout"));
     QCOMPARE(tools.Of<QPushButton>("mp_btn_restore").toolTip(),
              QStringLiteral("Restore default toolsheets layout"));
     QCOMPARE(tools.Of<QGroupBox>("groupBox").title(), QStringLiteral("Docking preferences"));
@@ -169,7 +169,8 @@ void ToolpagesPageTest::theModelKeepsItsContract()
     ToolPages tools;
     QAbstractItemModelTester tester(&tools.Model(),
                                     QAbstractItemModelTester::FailureReportingMode::QtTest);
-    QCOMPARE(tools.At(QStringLiteral("parts/Page.Two")).parent(), tools.At(QStringLiteral("parts")));
+    QCOMPARE(tools.At(QStringLiteral("parts/Page.Two")).parent(),
+             tools.At(QStringLiteral("parts")));
     QVERIFY(!tools.At(QStringLiteral("tools")).parent().isValid());
     QCOMPARE(tools.At(QStringLiteral("tools")).row(), 2);
     tools.page->Clear();

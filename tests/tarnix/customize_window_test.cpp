@@ -56,7 +56,8 @@ private:
         const auto stands = [&] {
             const QJsonObject dialog = m_program->Named("UiCustomizeDialog");
             const QRect now = Program::RectOf(dialog);
-            const bool still = !dialog.isEmpty() && now == at && !Cells("mp_view_commands").isEmpty();
+            const bool still =
+                !dialog.isEmpty() && now == at && !Cells("mp_view_commands").isEmpty();
             at = now;
             return still;
         };
@@ -75,8 +76,8 @@ private:
     {
         const auto button = [&] {
             return m_program->FindIn("UiCustomizeDialog", [&](const QJsonObject& node) {
-                return node["class"].toString() == "QPushButton" && node["text"].toString() == text &&
-                       node["enabled"].toBool();
+                return node["class"].toString() == "QPushButton" &&
+                       node["text"].toString() == text && node["enabled"].toBool();
             });
         };
         return QTest::qWaitFor([&] { return !button().isEmpty(); }, k_patience_ms) &&
@@ -150,8 +151,8 @@ private:
     {
         return Press("mp_ed_search_basic") && m_screen->Key("ctrl+a") &&
                m_screen->Tool({"type", text}) &&
-               QTest::qWaitFor(
-                   [&] { return m_program->Text("mp_ed_search_basic") == text; }, k_patience_ms);
+               QTest::qWaitFor([&] { return m_program->Text("mp_ed_search_basic") == text; },
+                               k_patience_ms);
     }
     /// Types into the edit of a cell that has opened, and ends it.
     bool TypeName(const QString& name) const
@@ -194,9 +195,8 @@ void CustomizeWindowTest::theRibbonIsChangedByDragAndDrop()
     QVERIFY(m_screen->Drag(At("mp_view_commands", "Reload"), At("mp_view_ribbon", "Tools")));
     QTRY_VERIFY_WITH_TIMEOUT(Texts("mp_view_ribbon", 2).contains("Reload"), k_patience_ms);
     QVERIFY(m_screen->Drag(At("mp_view_commands", "Export STL"), At("mp_view_ribbon", "Reload")));
-    QTRY_COMPARE_WITH_TIMEOUT(
-        Texts("mp_view_ribbon", 2).join(", ").section(", ", -2), QString("Reload, Export STL"),
-        k_patience_ms);
+    QTRY_COMPARE_WITH_TIMEOUT(Texts("mp_view_ribbon", 2).join(", ").section(", ", -2),
+                              QString("Reload, Export STL"), k_patience_ms);
     // A group that is fixed takes nothing.
     const QStringList fixed = Texts("mp_view_ribbon", 2);
     QVERIFY(m_screen->Drag(At("mp_view_commands", "New Build"),
@@ -254,9 +254,10 @@ void CustomizeWindowTest::toolbarsAndTheQuickAccessBarAreChangedByDragAndDrop()
     QVERIFY(ShowTab("Quick Access Bar", "mp_view_qab"));
     const QStringList before = Texts("mp_view_qab", 0);
     const QRect list = Program::RectOf(m_program->Named("mp_view_qab"));
-    QVERIFY(m_screen->Drag(At("mp_view_composite", "Align"),
-                           {list.center().x(), list.bottom() - 20}));
-    QTRY_COMPARE_WITH_TIMEOUT(Texts("mp_view_qab", 0), before + QStringList{"Align"}, k_patience_ms);
+    QVERIFY(
+        m_screen->Drag(At("mp_view_composite", "Align"), {list.center().x(), list.bottom() - 20}));
+    QTRY_COMPARE_WITH_TIMEOUT(Texts("mp_view_qab", 0), before + QStringList{"Align"},
+                              k_patience_ms);
     // Several at once are deleted by one button, and go from the bar.
     QVERIFY(!m_program->ButtonIn("quickAccessBar", "File.Open").isEmpty());
     QVERIFY(m_screen->ClickAt(At("mp_view_qab", "Open Build")));
@@ -282,13 +283,16 @@ void CustomizeWindowTest::aTakenKeyIsRefusedWithAHint()
     QVERIFY(Start());
     QVERIFY(Open());
     const auto hint = [&] {
-        return m_program->Find([](const QJsonObject& node) {
-            return node["class"].toString().endsWith("PersistentHint");
-        })["text"].toString();
+        return m_program
+            ->Find([](const QJsonObject& node) {
+                return node["class"].toString().endsWith("PersistentHint");
+            })["text"]
+            .toString();
     };
     QVERIFY(Search("Reload"));
     QVERIFY(m_screen->ClickAt(At("mp_view_commands", "Reload")));
-    QTRY_VERIFY_WITH_TIMEOUT(Cell("mp_view_commands", "Reload")["selected"].toBool(), k_patience_ms);
+    QTRY_VERIFY_WITH_TIMEOUT(Cell("mp_view_commands", "Reload")["selected"].toBool(),
+                             k_patience_ms);
     QVERIFY(m_screen->Key("F2"));
     const auto editor = [&] {
         return m_program->FindIn("mp_view_commands", [](const QJsonObject& node) {
@@ -388,7 +392,8 @@ void CustomizeWindowTest::twoHundredActionsAndACancelLeaveNothing()
     QVERIFY(Start());
     QVERIFY(Open());
     const QStringList tabs = {"Ribbon", "Quick Access Bar", "Toolbars", "Context Menus"};
-    const QStringList views = {"mp_view_ribbon", "mp_view_qab", "mp_view_toolbars", "mp_view_menus"};
+    const QStringList views = {"mp_view_ribbon", "mp_view_qab", "mp_view_toolbars",
+                               "mp_view_menus"};
     int tab = 0;
     const auto any_cell = [&](const QString& view) {
         const QList<QJsonObject> cells = Parts(view, "Cell");
@@ -420,18 +425,24 @@ void CustomizeWindowTest::twoHundredActionsAndACancelLeaveNothing()
                     good = m_screen->ClickAt(Program::RectOf(part).center());
             }
             break;
-        case 1: good = m_screen->ClickAt(any_source()); break;
+        case 1:
+            good = m_screen->ClickAt(any_source());
+            break;
         case 2: {
             const char* const held = random.bounded(2) ? "ctrl" : "shift";
-            good = m_screen->Tool({"keydown", held}) && m_screen->ClickAt(any_cell(views.at(tab))) &&
-                   m_screen->Tool({"keyup", held});
+            good = m_screen->Tool({"keydown", held}) &&
+                   m_screen->ClickAt(any_cell(views.at(tab))) && m_screen->Tool({"keyup", held});
             break;
         }
         case 3:
         case 4:
         case 5:
-        case 6: good = m_screen->Drag(any_source(), any_cell(views.at(tab))); break;
-        case 7: good = m_screen->Drag(any_source(), any_cell("mp_view_composite")); break;
+        case 6:
+            good = m_screen->Drag(any_source(), any_cell(views.at(tab)));
+            break;
+        case 7:
+            good = m_screen->Drag(any_source(), any_cell("mp_view_composite"));
+            break;
         case 8:
         case 9: {
             // A button of the tab that is shown.
@@ -462,8 +473,8 @@ void CustomizeWindowTest::twoHundredActionsAndACancelLeaveNothing()
             break;
         }
         case 11: {
-            static const char* const keys[] = {"Delete",  "F2",     "shift+F2", "ctrl+x",
-                                               "ctrl+v",  "alt+Up", "alt+Down", "space"};
+            static const char* const keys[] = {"Delete", "F2",     "shift+F2", "ctrl+x",
+                                               "ctrl+v", "alt+Up", "alt+Down", "space"};
             good = m_screen->ClickAt(any_cell(views.at(tab))) &&
                    m_screen->Key(keys[random.bounded(int(sizeof(keys) / sizeof(keys[0])))]);
             break;
