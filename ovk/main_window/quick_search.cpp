@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QPointer>
+#include <QScreen>
 #include <QToolBar>
 #include <QWidgetAction>
 
@@ -23,6 +24,49 @@ constexpr int c_edit_width = 200;
 constexpr int c_visible_rows = 20;
 /// Shift+Q as a key code.
 constexpr int c_shortcut = 0x2000051;
+
+/// In average characters: a title with its keys is longer than the edit is wide.
+constexpr int c_list_characters = 44;
+
+/// Keeps the list of matches, which is wider than the edit, at the edit's leading edge and on the
+/// screen. The completer puts it under the edit again at every key.
+class ListPlace : public QObject
+{
+public:
+    ListPlace(QWidget& edit, QWidget& list) : QObject(&list), m_edit(edit), m_list(list)
+    {
+        list.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show || event->type() == QEvent::Move ||
+            event->type() == QEvent::Resize)
+            Place();
+        return false;
+    }
+
+private:
+    void Place()
+    {
+        const QScreen* const screen = m_edit.screen();
+        if (!screen || m_list.width() <= m_edit.width())
+            return;
+        const QRect room = screen->availableGeometry();
+        const QPoint origin = m_edit.mapToGlobal(QPoint(0, 0));
+        // Of the window: a line edit takes the direction of the keyboard.
+        const int leading = m_edit.window()->isRightToLeft()
+                                ? origin.x() + m_edit.width() - m_list.width()
+                                : origin.x();
+        const int x =
+            qBound(room.left(), leading, qMax(room.left(), room.right() + 1 - m_list.width()));
+        if (x != m_list.x())
+            m_list.move(x, m_list.y());
+    }
+
+    QWidget& m_edit;
+    QWidget& m_list;
+};
 
 /// The action with the shortcut: one for the process, gone with the edit that it serves.
 QPointer<QAction>& ShowAction()
@@ -172,15 +216,26 @@ void QuickSearchWidget::focusInEvent(QFocusEvent* event)
         m_model.SetLayout(controller ? controller->GetActiveLayout() : nullptr);
         m_proxy.sort(0, Qt::AscendingOrder);
         m_stale = false;
-        // One line each: without this the list would measure every match at every key.
-        if (auto* list = qobject_cast<QListView*>(m_completer.popup()))
-            list->setUniformItemSizes(true);
+        SetUpList();
     }
     connect(&m_completer, QOverload<const QModelIndex&>::of(&QCompleter::highlighted), this,
             &QuickSearchWidget::OnHighlighted, Qt::UniqueConnection);
     connect(&m_completer, QOverload<const QModelIndex&>::of(&QCompleter::activated), this,
             &QuickSearchWidget::OnActivated, Qt::UniqueConnection);
     QLineEdit::focusInEvent(event);
+}
+
+void QuickSearchWidget::SetUpList()
+{
+    auto* const list = qobject_cast<QListView*>(m_completer.popup());
+    if (!list)
+        return;
+    // One line each: without this the list would measure every match at every key.
+    list->setUniformItemSizes(true);
+    list->setMinimumWidth(fontMetrics().averageCharWidth() * c_list_characters);
+    if (!m_list_is_placed)
+        new ListPlace(*this, *list); // the list's
+    m_list_is_placed = true;
 }
 
 void QuickSearchWidget::focusOutEvent(QFocusEvent* event)

@@ -109,6 +109,7 @@ private Q_SLOTS:
 private:
     bool Run(const QModelIndex& index);
     void Retranslate();
+    void SetUpList();
     QModelIndex FindFirstEnabled();
 
     QCompleter m_completer;
@@ -121,6 +122,7 @@ private:
     bool m_stale = true;
     bool m_running = false;
     bool m_retired = false;
+    bool m_list_is_placed = false;
     QPointer<QAction> m_action;
 };
 

@@ -9,6 +9,7 @@
 
 #include <qtitan/ribbon.h>
 
+#include <QScreen>
 #include <QAbstractItemModelTester>
 #include <QAbstractItemView>
 
@@ -76,7 +77,27 @@ private Q_SLOTS:
     void theEditSurvivesARebuildOfTheBar();
     void aCommandThatSwitchesTheLayoutMayRunFromTheEdit();
     void theListIsFilledAnewAfterFocusWasLost();
+    void theListIsWideEnoughForTitlesAndKeysAndStartsAtTheEdit();
 };
+
+void QuickSearchTest::theListIsWideEnoughForTitlesAndKeysAndStartsAtTheEdit()
+{
+    Window window;
+    const QuickSearchWidget* edit = window.Edit();
+    window.Type(QStringLiteral("e"));
+    const QWidget* list = edit->completer()->popup();
+    QTRY_VERIFY(list->isVisible());
+    QVERIFY(list->width() > edit->width());
+    const QPoint origin = edit->mapToGlobal(QPoint(0, 0));
+    QCOMPARE(list->x(), origin.x());
+    window.window->setLayoutDirection(Qt::RightToLeft);
+    QCoreApplication::processEvents();
+    window.Type(QStringLiteral("x"));
+    window.Type(QStringLiteral("\b"));
+    QTRY_VERIFY(list->isVisible());
+    const QRect room = edit->screen()->availableGeometry();
+    QVERIFY(list->x() >= room.left() && list->x() + list->width() <= room.right() + 1);
+}
 
 void QuickSearchTest::theModelKeepsTheContract()
 {
