@@ -65,16 +65,16 @@ class Tables:
         block = None
         for line in lines("layouts.txt"):
             word, _, rest = line.strip().partition(" ")
-            if word == "composite":
+            if line.startswith(" "):
+                block.append(line.strip())
+            elif word == "composite":
                 self.composites.append(rest)
             elif word == "shortcut":
                 self.shortcuts.append(rest.split(" ", 1))
             elif word == "all":
                 self.common.append(rest)
-            elif word in ("layout", "part"):
+            else:  # "layout" or "part", whose lines stand below it
                 block = self.blocks.setdefault(rest.strip(), [])
-            else:
-                block.append(line.strip())
 
     def of(self, name):
         for entry in self.common:
