@@ -274,8 +274,8 @@ void DelegatesTest::aMenuKeyThatIsTakenIsNotStored()
         Qt::Key key;
         QString message;
     } rows[] = {
-        {Qt::Key_K, QStringLiteral("Key sequence 'K' is already used for menu '%1'")
-                        .arg(first->GetTitle())},
+        {Qt::Key_K,
+         QStringLiteral("Key sequence 'K' is already used for menu '%1'").arg(first->GetTitle())},
         {Qt::Key_F9, QStringLiteral("Key sequence 'F9' is already used for command '%1'")
                          .arg(sites.host.Command(QStringLiteral("File.Save"))->GetTitle())},
     };
