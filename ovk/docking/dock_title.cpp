@@ -6,6 +6,8 @@
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOption>
+#include <QtWidgets/QStylePainter>
 
 #include <algorithm>
 
@@ -14,6 +16,7 @@ namespace ovk {
 namespace {
 
 constexpr int c_icon_edge = 16;
+constexpr int c_sign_alpha = 210; // a little lighter than the text
 
 QIcon Icon(const char* name)
 {
@@ -38,6 +41,41 @@ QIcon Mirrored(const QIcon& icon)
         mirrored.addPixmap(pixmap);
     }
     return mirrored;
+}
+
+/// A sign in grey, not a picture that a host drew in colours.
+bool IsSign(const QImage& image)
+{
+    constexpr int k_gray = 48;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor color = image.pixelColor(x, y);
+            if (color.alpha() > 128 && color.hsvSaturation() > k_gray)
+                return false;
+        }
+    }
+    return true;
+}
+
+/// The sign in an ink; another icon as it is.
+QIcon Inked(const QIcon& icon, const QColor& ink)
+{
+    QIcon inked;
+    for (const qreal ratio : {1.0, 2.0}) {
+        const QSize size = icon.actualSize(QSize(c_icon_edge, c_icon_edge));
+        QImage image(size * ratio, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        icon.paint(&painter, QRect(QPoint(), size));
+        if (!IsSign(image))
+            return icon;
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(QRect(QPoint(), size), ink);
+        painter.end();
+        inked.addPixmap(QPixmap::fromImage(image));
+    }
+    return inked;
 }
 
 /// Hidden for itself, not only as long as its title is.
@@ -227,6 +265,31 @@ void DockButton::keyPressEvent(QKeyEvent* event)
         click();
     else
         QToolButton::keyPressEvent(event);
+}
+
+const QIcon& DockButton::SeenIcon(const QColor& ink)
+{
+    if (m_seen_of != icon().cacheKey() || m_seen_ink != ink.rgba()) {
+        m_seen_of = icon().cacheKey();
+        m_seen_ink = ink.rgba();
+        m_seen = Inked(icon(), ink);
+    }
+    return m_seen;
+}
+
+void DockButton::paintEvent(QPaintEvent*)
+{
+    QStylePainter painter(this);
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    // The sign has the ink of the title beside it, be the strip light or dark. A disabled one is
+    // left to the style, and so is one on the ground of a button under the pointer.
+    if (isEnabled() && !isDown() && !underMouse() && parentWidget() && !option.icon.isNull()) {
+        QColor ink = parentWidget()->palette().color(QPalette::WindowText);
+        ink.setAlpha(c_sign_alpha);
+        option.icon = SeenIcon(ink);
+    }
+    painter.drawComplexControl(QStyle::CC_ToolButton, option);
 }
 
 void DockButton::focusInEvent(QFocusEvent* event)

@@ -3,6 +3,7 @@
 #include <QtCore/QList>
 #include <QtCore/QPointer>
 #include <QtCore/QString>
+#include <QtGui/QIcon>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QWidget>
 
@@ -71,6 +72,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
     /// Loads the icon anew, for a style or a direction that has changed.
     virtual void RefreshIcon() = 0;
@@ -79,6 +81,12 @@ protected:
 
 private:
     void TakeSizeOfStyle();
+    const QIcon& SeenIcon(const QColor& ink);
+
+    /// The icon in the ink of the title, and what it was made of.
+    QIcon m_seen;
+    qint64 m_seen_of = 0;
+    QRgb m_seen_ink = 0;
 };
 
 /// Folds and opens a panel.
