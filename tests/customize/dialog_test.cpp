@@ -22,6 +22,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QJsonDocument>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -123,6 +124,11 @@ void CustomizeDialogTest::theFormHasItsWidgets()
     for (const char* name : {"mp_view_composite", "mp_view_ribbon", "mp_view_qab",
                              "mp_view_toolbars", "mp_view_menus"})
         QCOMPARE(dialog.Find<QTreeView>(name)->metaObject()->className(), "QTreeViewFixed");
+    // What a screen reader calls the lists.
+    QCOMPARE(dialog.Find<QLabel>("mp_lbl_basic")->buddy(),
+             dialog.Find<QWidget>("mp_view_commands"));
+    QCOMPARE(dialog.Find<QLabel>("mp_lbl_composite")->buddy(),
+             dialog.Find<QWidget>("mp_view_composite"));
     QCOMPARE(dialog.Find<QLineEdit>("mp_ed_search_basic")->placeholderText(),
              QStringLiteral("<enter text to search>"));
 }
