@@ -20,6 +20,7 @@ private Q_SLOTS:
     void noTitleMeansNoFolding();
     void theButtonsWork();
     void theButtonsFollowTheState();
+    void theSignsHaveTheInkOfTheTitle();
     void theMenuTogglesPages();
     void theMenuCanBeTakenAway();
     void aDoubleClickFoldsThePanel();
@@ -156,6 +157,12 @@ void DockFoldTest::theButtonsFollowTheState()
     DockFixture::Settle();
     QVERIFY(title->GetCloseButton()->isHidden());
     QVERIFY(title->GetCollapsibleButton()->isHidden());
+    // A button that stays takes the place of one that went: the grip ends before it.
+    panel->SetClosable(true);
+    DockFixture::Settle();
+    const int margin =
+        title->style()->pixelMetric(QStyle::PM_DockWidgetTitleMargin, nullptr, title);
+    QCOMPARE(title->GetCloseButton()->geometry().right() + 1, title->width() - margin);
     panel->_Impl()->SetExpandAvailable(false);
     DockFixture::Settle();
     QVERIFY(!title->GetMinimizeButton()->isEnabled());
@@ -237,6 +244,30 @@ void DockFoldTest::aPageMayDeleteItsPanelWhenItBecomesActive()
     DockFixture::Settle();
     QVERIFY(panel.isNull());
     QCOMPARE(second->parentWidget(), static_cast<QWidget*>(fixture.manager));
+}
+
+void DockFoldTest::theSignsHaveTheInkOfTheTitle()
+{
+    DockFixture fixture;
+    DockWidget* const panel = fixture.Panel("a");
+    fixture.Left()->AddWidget(panel);
+    DockFixture::Settle();
+    auto* const title = qobject_cast<DockWidgetTitle*>(panel->_Impl()->title.data());
+    QPalette palette = title->palette();
+    palette.setColor(QPalette::WindowText, QColor(0, 200, 0));
+    title->setPalette(palette);
+    for (QWidget* button : {static_cast<QWidget*>(title->GetMinimizeButton()),
+                            static_cast<QWidget*>(title->GetCollapsibleButton())}) {
+        const QImage image = button->grab().toImage();
+        int green = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor color = image.pixelColor(x, y);
+                green += color.green() > color.red() + 60;
+            }
+        }
+        QVERIFY(green > 5);
+    }
 }
 
 OVK_TEST_CLASS(DockFoldTest)

@@ -94,9 +94,9 @@ void DockX11RestartTest::theArrangementIsFoundAsItWasLeft()
         m_hand->Release();
         QTRY_VERIFY(!host.Manager()._Impl()->controller->IsDragging());
         QVERIFY(d->IsFloated());
-        QVERIFY(m_hand->HoverTill([&] { return d->geometry().bottomRight() - QPoint(1, 0); }, [&] {
-            return d->_Impl()->resize_edge == ResizeEdge::BottomRight;
-        }));
+        QVERIFY(
+            m_hand->HoverTill([&] { return d->geometry().bottomRight() - QPoint(1, 0); },
+                              [&] { return d->_Impl()->resize_edge == ResizeEdge::BottomRight; }));
         m_hand->Press();
         m_hand->Glide(QCursor::pos() + QPoint(80, 60), 5);
         m_hand->Release();

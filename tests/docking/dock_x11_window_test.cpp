@@ -109,7 +109,8 @@ void DockX11WindowTest::aFloatingPanelIsResizedByItsEdges()
     QTRY_COMPARE(panel->size(), QSize(240, 200));
     const QRect before = panel->geometry();
     const auto border = [&] {
-        const QPoint at(int((before.width() - 1) * place.x()), int((before.height() - 1) * place.y()));
+        const QPoint at(int((before.width() - 1) * place.x()),
+                        int((before.height() - 1) * place.y()));
         return before.topLeft() + at;
     };
     // The trembling hand comes one pixel to the right: from the right edge that is outside.
@@ -363,7 +364,9 @@ void DockX11WindowTest::aNativePageSurvivesFloatingAndDocking()
         const QPoint place = Spot(*fixture.central, 0.5, 0.5);
         panel->SetFloated(place);
         Shown(*panel);
-        QTRY_VERIFY2(seen() == QColor(0, 160, 80), qPrintable(Text(panel->geometry()) + " " + Text(QRect(page->mapToGlobal(QPoint()), page->size()))));
+        QTRY_VERIFY2(seen() == QColor(0, 160, 80),
+                     qPrintable(Text(panel->geometry()) + " " +
+                                Text(QRect(page->mapToGlobal(QPoint()), page->size()))));
         QCOMPARE(panel->pos(), place);
         QCOMPARE(page->window(), static_cast<QWidget*>(panel));
         QVERIFY(fixture.Right()->InsertWidget(0, panel));

@@ -144,8 +144,8 @@ private Q_SLOTS:
         camera.target = {0, 0, 20};
         camera.height = 60;
         PartRenderer renderer;
-        const QImage image = renderer.Draw(parts, camera, state, ViewColors::Light(Qt::blue),
-                                           QSize(120, 120), 1);
+        const QImage image =
+            renderer.Draw(parts, camera, state, ViewColors::Light(Qt::blue), QSize(120, 120), 1);
         const ColorScale scale = ScaleOf(ColorBy::Height, parts);
         for (const double z : {4.0, 20.0, 36.0}) {
             const QColor seen = image.pixelColor(60, int(60 - (z - 20) * 2));
@@ -350,13 +350,14 @@ private Q_SLOTS:
         QStringList texts;
         for (int i = 0; i < list->topLevelItemCount(); ++i)
             texts.append(list->topLevelItem(i)->text(2));
-        QCOMPARE(texts, (QStringList{"a word", "a warning", "a detail", "A step",
-                                     "Undone: A step", "Again: A step"}));
+        QCOMPARE(texts, (QStringList{"a word", "a warning", "a detail", "A step", "Undone: A step",
+                                     "Again: A step"}));
         kind->setCurrentIndex(2);
         QCOMPARE(list->topLevelItemCount(), 2);
         search->setText("DETAIL");
         QCOMPARE(list->topLevelItemCount(), 1);
-        for (QAbstractButton* button : PageOf(*m_host, "Page.Log")->findChildren<QAbstractButton*>()) {
+        for (QAbstractButton* button :
+             PageOf(*m_host, "Page.Log")->findChildren<QAbstractButton*>()) {
             if (button->text() == "Copy")
                 button->click();
         }

@@ -280,9 +280,8 @@ private:
             return;
         const QScrollBar* bar = mp_table->verticalScrollBar();
         const bool at_end = m_to_end.isActive() || bar->value() == bar->maximum();
-        auto* item = new QTreeWidgetItem(
-            mp_table, {entry.time.toString(QStringLiteral("HH:mm:ss")),
-                       EventLog::NameOf(entry.kind), entry.text});
+        auto* item = new QTreeWidgetItem(mp_table, {entry.time.toString(QStringLiteral("HH:mm:ss")),
+                                                    EventLog::NameOf(entry.kind), entry.text});
         item->setToolTip(2, entry.text);
         if (entry.kind == EventLog::Kind::Warning)
             item->setIcon(1, style()->standardIcon(QStyle::SP_MessageBoxWarning));
@@ -312,8 +311,8 @@ private:
         int kind = mp_table->fontMetrics().horizontalAdvance(mp_table->headerItem()->text(1));
         for (const EventLog::Kind entry :
              {EventLog::Kind::Step, EventLog::Kind::Message, EventLog::Kind::Warning})
-            kind = std::max(kind,
-                            mp_table->fontMetrics().horizontalAdvance(EventLog::NameOf(entry)));
+            kind =
+                std::max(kind, mp_table->fontMetrics().horizontalAdvance(EventLog::NameOf(entry)));
         mp_table->setColumnWidth(
             0, mp_table->fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + k_room);
         // A warning has a sign before its name.
