@@ -62,10 +62,10 @@ public:
                                             "Align",  "Move",   "Turn",   "Scale", "Measure"};
         static const char* const things[] = {"Part", "Mesh", "Layer", "Support", "Plate",
                                              "View", "Edge", "Hole",  "Shell",   "Section"};
-        const QString title = QStringLiteral("%1 %2 %3")
-                                  .arg(QLatin1String(verbs[index % 10]),
-                                       QLatin1String(things[index / 10 % 10]))
-                                  .arg((index * 7919) % commands_count);
+        const QString title =
+            QStringLiteral("%1 %2 %3")
+                .arg(QLatin1String(verbs[index % 10]), QLatin1String(things[index / 10 % 10]))
+                .arg((index * 7919) % commands_count);
         SetStrings(title, title, title, false, false, false);
         if (index % 50 == 0)
             setShortcut(QKeySequence(Qt::CTRL + Qt::Key_A + index / 50 % 26));

@@ -82,10 +82,7 @@ UiCommand* CommandAt(const QModelIndex& index)
 
 } // namespace
 
-QSCommandModel::QSCommandModel(QObject* parent)
-    : QAbstractTableModel(parent)
-{
-}
+QSCommandModel::QSCommandModel(QObject* parent) : QAbstractTableModel(parent) {}
 
 QSCommandModel::~QSCommandModel() = default;
 
@@ -161,8 +158,7 @@ bool QSSortProxy::lessThan(const QModelIndex& left, const QModelIndex& right) co
     return model->DisplayText(left.row()) < model->DisplayText(right.row());
 }
 
-QuickSearchWidget::QuickSearchWidget(QWidget* parent)
-    : QLineEdit(parent)
+QuickSearchWidget::QuickSearchWidget(QWidget* parent) : QLineEdit(parent)
 {
     setAccessibleName(QStringLiteral("QuickSearchWidget"));
     Retranslate();
@@ -194,7 +190,8 @@ QuickSearchWidget::~QuickSearchWidget()
 
 bool QuickSearchWidget::event(QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+    if (event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
         clearFocus();
     else if (event->type() == QEvent::LanguageChange)
         Retranslate();
@@ -279,7 +276,8 @@ QModelIndex QuickSearchWidget::FindFirstEnabled()
 
 void QuickSearchWidget::OnReturnPressed()
 {
-    // The completer's own activation runs a highlighted row; running it here too would run it twice.
+    // The completer's own activation runs a highlighted row; running it here too would run it
+    // twice.
     if (m_highlighted) {
         m_highlighted = false;
         return;
@@ -312,8 +310,9 @@ void RemoveQuickSearch(QToolBar& bar)
 {
     for (QAction* action : bar.actions()) {
         auto* widget_action = qobject_cast<QWidgetAction*>(action);
-        auto* edit = widget_action ? qobject_cast<QuickSearchWidget*>(widget_action->defaultWidget())
-                                   : nullptr;
+        auto* edit = widget_action
+                         ? qobject_cast<QuickSearchWidget*>(widget_action->defaultWidget())
+                         : nullptr;
         if (!edit)
             continue;
         delete ShowAction();

@@ -20,7 +20,8 @@ namespace {
 struct WindowHost
 {
     RibbonStyleScope style;
-    LiveHost host{CatalogueWith(WindowCommands() + QStringList(QStringLiteral("View.QuickSearch")))};
+    LiveHost host{
+        CatalogueWith(WindowCommands() + QStringList(QStringLiteral("View.QuickSearch")))};
 
     WindowHost() { host.Activate(QStringLiteral("Model")); }
 };

@@ -80,7 +80,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, layout);
         QSet<QString> keys, ids;
-        for (const QJsonValue& binding : m_states.value(layout).value("shortcuts")["bindings"].toArray()) {
+        for (const QJsonValue& binding :
+             m_states.value(layout).value("shortcuts")["bindings"].toArray()) {
             const QString key = binding["key sequence"].toString();
             QVERIFY2(!keys.contains(key), qPrintable(key));
             QVERIFY2(!QKeySequence::fromString(key, QKeySequence::PortableText).isEmpty(),

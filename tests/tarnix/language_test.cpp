@@ -108,8 +108,7 @@ private:
         if (view && view->model() && !qobject_cast<QHeaderView*>(view)) {
             AddModel(place, *view->model(), QModelIndex());
             for (int i = 0; i < view->model()->columnCount(); ++i)
-                Add(place + " header",
-                    view->model()->headerData(i, Qt::Horizontal).toString());
+                Add(place + " header", view->model()->headerData(i, Qt::Horizontal).toString());
         }
     }
 
@@ -161,9 +160,8 @@ struct Sources
             return false; // one word is both
         if (plain.contains(text))
             return true;
-        return std::any_of(patterns.begin(), patterns.end(), [&text](const auto& pattern) {
-            return pattern.match(text).hasMatch();
-        });
+        return std::any_of(patterns.begin(), patterns.end(),
+                           [&text](const auto& pattern) { return pattern.match(text).hasMatch(); });
     }
 };
 

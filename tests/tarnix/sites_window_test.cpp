@@ -210,7 +210,9 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(redo(), k_patience_ms);
         // In Slice it goes up one layer, and changes no part.
         QVERIFY(m_screen->Key("ctrl+F4"));
-        const auto layer = [&] { return m_program->Text("statusLayer").section(' ', 1, 1).toInt(); };
+        const auto layer = [&] {
+            return m_program->Text("statusLayer").section(' ', 1, 1).toInt();
+        };
         QTRY_VERIFY_WITH_TIMEOUT(layer() > 0, k_patience_ms);
         const int before = layer();
         QVERIFY(m_screen->Key("Prior"));
@@ -280,8 +282,8 @@ private Q_SLOTS:
         };
         QVERIFY(open());
         const QPoint first = place();
-        QVERIFY(m_screen->Tool({"search", "--sync", "--all", "--onlyvisible", "--name", "^Help", "windowmove",
-                                "700", "240"}));
+        QVERIFY(m_screen->Tool({"search", "--sync", "--all", "--onlyvisible", "--name", "^Help",
+                                "windowmove", "700", "240"}));
         QTRY_VERIFY_WITH_TIMEOUT((place() - QPoint(700, 240)).manhattanLength() < 60,
                                  k_patience_ms);
         const QPoint moved = place();

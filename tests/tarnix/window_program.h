@@ -172,16 +172,15 @@ public:
     /// The button or menu item of a command inside a widget.
     QJsonObject ButtonIn(const QString& name, const QString& command) const
     {
-        return FindIn(name,
-                      [&](const QJsonObject& node) { return node["command"].toString() == command; });
+        return FindIn(
+            name, [&](const QJsonObject& node) { return node["command"].toString() == command; });
     }
 
     /// The item of a menu that is open.
     QJsonObject MenuItem(const QString& command) const
     {
         return Find([&](const QJsonObject& node) {
-            return node["class"].toString() == "MenuItem" &&
-                   node["command"].toString() == command;
+            return node["class"].toString() == "MenuItem" && node["command"].toString() == command;
         });
     }
 
@@ -211,9 +210,8 @@ public:
         // A floating panel is a window of the program, too.
         if (!m_screen.Tool({"search", "--sync", "--all", "--onlyvisible", "--pid",
                             QString::number(m_process.processId()), "--name",
-                            "^(New build|Neues Projekt)",
-                            "windowactivate", "windowmove", QString::number(k_place),
-                            QString::number(k_place)}))
+                            "^(New build|Neues Projekt)", "windowactivate", "windowmove",
+                            QString::number(k_place), QString::number(k_place)}))
             return false;
         const auto placed = [this] {
             const QJsonObject window = Named("tarnixWindow");

@@ -100,8 +100,7 @@ private Q_SLOTS:
             for (const QString& form : message.forms) {
                 QVERIFY2(!form.trimmed().isEmpty(), qPrintable(where));
                 QVERIFY2(PlacesOf(form) == PlacesOf(message.source), qPrintable(where));
-                QVERIFY2(form.startsWith(' ') == message.source.startsWith(' '),
-                         qPrintable(where));
+                QVERIFY2(form.startsWith(' ') == message.source.startsWith(' '), qPrintable(where));
                 QVERIFY2(form.endsWith(':') == message.source.endsWith(':'), qPrintable(where));
                 QVERIFY2(form.endsWith('.') == message.source.endsWith('.'), qPrintable(where));
                 QVERIFY2(form.startsWith("*.") == message.source.startsWith("*."),
@@ -122,9 +121,9 @@ private Q_SLOTS:
         QTranslator translator;
         QVERIFY(translator.load(base, ":/" + family + "/translations"));
         for (const Message& message : MessagesOf(OVK_TRANSLATIONS "/" + file)) {
-            const QString answer = translator.translate(
-                message.context.toUtf8(), message.source.toUtf8(), message.comment.toUtf8(),
-                message.forms.size() > 1 ? 1 : -1);
+            const QString answer =
+                translator.translate(message.context.toUtf8(), message.source.toUtf8(),
+                                     message.comment.toUtf8(), message.forms.size() > 1 ? 1 : -1);
             QCOMPARE(answer, message.forms.front());
         }
     }

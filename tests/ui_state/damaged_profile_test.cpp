@@ -43,29 +43,29 @@ QJsonObject States(const QJsonObject& damaged)
         return object;
     };
     QJsonObject states = damaged;
-    states["ribbon"] =
-        suite("ribbon", "pages",
-              With(own("ribbon", "pages"),
-                   Json("{'id': 'good.page', 'title': 'Good', 'groups': [{'id': 'good.group', "
-                        "'title': 'Good', 'spots': [{'id': 'Big.0', 'style': 2}, "
-                        "{'id': 'good.composite', 'style': 2}, {'id': 'Not.There', 'style': 2}]}]}")));
-    states["toolbars"] = suite("toolbars", "subitems",
-                               With(own("toolbars", "subitems"),
-                                    Json("{'id': 'good.bar', 'title': 'Good', 'area': 4, "
-                                         "'spots': [{'id': 'Big.1'}]}")));
+    states["ribbon"] = suite(
+        "ribbon", "pages",
+        With(own("ribbon", "pages"),
+             Json("{'id': 'good.page', 'title': 'Good', 'groups': [{'id': 'good.group', "
+                  "'title': 'Good', 'spots': [{'id': 'Big.0', 'style': 2}, "
+                  "{'id': 'good.composite', 'style': 2}, {'id': 'Not.There', 'style': 2}]}]}")));
+    states["toolbars"] = suite(
+        "toolbars", "subitems",
+        With(own("toolbars", "subitems"), Json("{'id': 'good.bar', 'title': 'Good', 'area': 4, "
+                                               "'spots': [{'id': 'Big.1'}]}")));
     states["shortcuts"] =
         suite("shortcuts", "bindings",
               With(With(own("shortcuts", "bindings"),
                         Json("{'id': 'Not.There', 'key sequence': 'Ctrl+Shift+9'}")),
                    Json("{'id': 'Big.2', 'key sequence': 'Ctrl+Shift+8'}")));
-    states["composite"] = suite("composite", "subitems",
-                                With(own("composite", "subitems"),
-                                     Json("{'id': 'good.composite', 'type': 'menu', 'title': "
-                                          "'Good', 'items': ['Not.There', 'Big.3']}")));
-    states["menus"] = suite("menus", "subitems",
-                            With(own("menus", "subitems"),
-                                 Json("{'id': 'good.menu', 'title': 'Good', 'key': 65, "
-                                      "'spots': [{'id': 'Big.4'}]}")));
+    states["composite"] = suite(
+        "composite", "subitems",
+        With(own("composite", "subitems"), Json("{'id': 'good.composite', 'type': 'menu', 'title': "
+                                                "'Good', 'items': ['Not.There', 'Big.3']}")));
+    states["menus"] =
+        suite("menus", "subitems",
+              With(own("menus", "subitems"), Json("{'id': 'good.menu', 'title': 'Good', 'key': 65, "
+                                                  "'spots': [{'id': 'Big.4'}]}")));
     return states;
 }
 
@@ -99,7 +99,8 @@ QJsonObject ChildOf(const QJsonObject& profile, const char* suite, const char* t
 } // namespace
 
 /// Profiles that no program wrote: damaged on a disk, edited by hand, or made to do harm. Nothing
-/// crashes or hangs, what is good in them works, and what is only not known today stays in the file.
+/// crashes or hangs, what is good in them works, and what is only not known today stays in the
+/// file.
 class DamagedProfileTest : public QObject
 {
     Q_OBJECT
@@ -126,11 +127,11 @@ private Q_SLOTS:
                     "'height': -1, 'pages': [{'id': 'Page.Parts'}]}]}]}]}]}, {'id': 'floated', "
                     "'subitems': [{'id': 'f', 'width': -10, 'height': -2000000000, 'left': "
                     "2000000000, 'top': -2000000000, 'pages': []}]}]}}");
-        QTest::newRow("numbers that are too large")
-            << Json("{'toolbars': {'subitems': [{'id': 'a', 'area': 1e300, 'persistence': 1e300}]}, "
-                    "'dialog data': {'dialog': [{'id': 'd', 'l': 2147483647, 't': 2147483647, "
-                    "'w': 2147483647, 'h': 2147483647}]}, 'menus': {'subitems': [{'id': 'm', "
-                    "'key': 1e300}]}}");
+        QTest::newRow("numbers that are too large") << Json(
+            "{'toolbars': {'subitems': [{'id': 'a', 'area': 1e300, 'persistence': 1e300}]}, "
+            "'dialog data': {'dialog': [{'id': 'd', 'l': 2147483647, 't': 2147483647, "
+            "'w': 2147483647, 'h': 2147483647}]}, 'menus': {'subitems': [{'id': 'm', "
+            "'key': 1e300}]}}");
         QTest::newRow("a window state that is not base64")
             << Json("{'toolbars': {'state': '\\u00e9!! this is no base64 ==='}}");
         QTest::newRow("a window state of nonsense")
@@ -167,13 +168,13 @@ private Q_SLOTS:
                     "{'id': 'Big.8', 'key sequence': '+++,,,'}, {'id': 'Big.9', 'key sequence': "
                     "'A, B, C, D, E, F'}, {'id': 'Big.10', 'key sequence': 12}, {'id': 'Big.11', "
                     "'key sequence': ['Ctrl+A']}]}}");
-        QTest::newRow("values of other types")
-            << Json("{'ribbon': {'pages': [5, 'x', null, [], {'id': 7, 'title': [], 'visible': "
-                    "'yes', 'persistence': 'much', 'groups': {'a': 1}}]}, 'toolbars': {'state': 5, "
-                    "'subitems': [true, {'id': 'a', 'break': 7, 'movable': 'no', 'spots': 'all'}]}, "
-                    "'composite': {'subitems': [{'id': 'c', 'type': 9, 'title': {}, 'icon': [], "
-                    "'items': [1, null, {}, 'Big.5']}]}, 'menus': {'autosize': 'perhaps', "
-                    "'subitems': [[]]}, 'quick access bar': {'spots': 'none'}, 'docking': 5}");
+        QTest::newRow("values of other types") << Json(
+            "{'ribbon': {'pages': [5, 'x', null, [], {'id': 7, 'title': [], 'visible': "
+            "'yes', 'persistence': 'much', 'groups': {'a': 1}}]}, 'toolbars': {'state': 5, "
+            "'subitems': [true, {'id': 'a', 'break': 7, 'movable': 'no', 'spots': 'all'}]}, "
+            "'composite': {'subitems': [{'id': 'c', 'type': 9, 'title': {}, 'icon': [], "
+            "'items': [1, null, {}, 'Big.5']}]}, 'menus': {'autosize': 'perhaps', "
+            "'subitems': [[]]}, 'quick access bar': {'spots': 'none'}, 'docking': 5}");
         QTest::newRow("styles and kinds that are none")
             << Json("{'quick access bar': {'spots': [{'id': 'Big.5', 'style': -4}, {'id': 'Big.6', "
                     "'style': 1e300}, {'id': 's', 'type': 'separator', 'style': 3}]}}");
@@ -213,11 +214,12 @@ private Q_SLOTS:
 
     void compositesThatHoldEachOtherShowWhatTheyCan()
     {
-        Load(ProfileWith(Json("{'composite': {'subitems': [{'id': 'c', 'type': 'menu', 'title': 'C', "
-                              "'items': ['d', 'Big.5']}, {'id': 'd', 'type': 'menu', 'title': 'D', "
-                              "'items': ['c']}, {'id': 'self', 'type': 'menu', 'title': 'Self', "
-                              "'items': ['self']}]}, 'quick access bar': {'spots': [{'id': 'c'}, "
-                              "{'id': 'd'}, {'id': 'self'}, {'id': 'Big.6'}]}}")));
+        Load(ProfileWith(
+            Json("{'composite': {'subitems': [{'id': 'c', 'type': 'menu', 'title': 'C', "
+                 "'items': ['d', 'Big.5']}, {'id': 'd', 'type': 'menu', 'title': 'D', "
+                 "'items': ['c']}, {'id': 'self', 'type': 'menu', 'title': 'Self', "
+                 "'items': ['self']}]}, 'quick access bar': {'spots': [{'id': 'c'}, "
+                 "{'id': 'd'}, {'id': 'self'}, {'id': 'Big.6'}]}}")));
         // The one that holds nothing but itself cannot be shown, and stays in the file.
         QCOMPARE(Shown(mp_host->QuickAccess()), QStringList({"C", "D", "Big.6"}));
         const QJsonObject saved = mp_host->Controller().GetActualProfile()->ToJson();
@@ -245,9 +247,15 @@ private Q_SLOTS:
     {
         Load(ProfileWith({}));
         mp_host->Controller().GetActualProfile();
-        const QByteArray state = QByteArray::fromBase64(
-            mp_host->Profile().ToJson()["layouts"].toArray().at(0).toObject()["states"]
-                .toObject()["toolbars"].toObject()["state"].toString().toLatin1());
+        const QByteArray state = QByteArray::fromBase64(mp_host->Profile()
+                                                            .ToJson()["layouts"]
+                                                            .toArray()
+                                                            .at(0)
+                                                            .toObject()["states"]
+                                                            .toObject()["toolbars"]
+                                                            .toObject()["state"]
+                                                            .toString()
+                                                            .toLatin1());
         QVERIFY(state.size() > 20);
         constexpr quint32 c_seed = 20260117;
         QRandomGenerator random(c_seed);
@@ -256,8 +264,8 @@ private Q_SLOTS:
             for (int flips = 0; flips < round % 4; ++flips)
                 damaged[random.bounded(damaged.size())] = char(random.bounded(256));
             const QByteArray text = damaged.toBase64();
-            Load(ProfileWith(QJsonObject{
-                {"toolbars", QJsonObject{{"state", QString::fromLatin1(text)}}}}));
+            Load(ProfileWith(
+                QJsonObject{{"toolbars", QJsonObject{{"state", QString::fromLatin1(text)}}}}));
             QVERIFY2(Bar("good.bar"), qPrintable(QStringLiteral("seed %1").arg(c_seed)));
             QCOMPARE(Shown(*Bar("good.bar")), QStringList("Big.1"));
         }
@@ -283,20 +291,25 @@ private Q_SLOTS:
         constexpr int c_many = 10000;
         QJsonArray bindings;
         for (int i = 0; i < c_many; ++i) {
-            bindings.append(QJsonObject{
-                {"id", i % 500 == 0 ? QStringLiteral("Big.%1").arg(i / 500)
-                                    : QStringLiteral("Unknown.%1").arg(i)},
-                {"key sequence", QStringLiteral("Ctrl+Alt+%1, %2")
-                                     .arg(QChar('A' + i % 26))
-                                     .arg(QChar('A' + i / 26 % 26))}});
+            bindings.append(QJsonObject{{"id", i % 500 == 0 ? QStringLiteral("Big.%1").arg(i / 500)
+                                                            : QStringLiteral("Unknown.%1").arg(i)},
+                                        {"key sequence", QStringLiteral("Ctrl+Alt+%1, %2")
+                                                             .arg(QChar('A' + i % 26))
+                                                             .arg(QChar('A' + i / 26 % 26))}});
         }
         Load(ProfileWith(QJsonObject{{"shortcuts", QJsonObject{{"bindings", bindings}}}}));
         auto& suite = SuiteOf<UiStateShortcuts>(*mp_host->Layout("Big"));
         QCOMPARE(suite.GetCount(), c_many + 2);
         QCOMPARE(mp_host->Command("Big.19")->shortcut().isEmpty(), false);
         const QJsonObject saved = mp_host->Controller().GetActualProfile()->ToJson();
-        QCOMPARE(saved["layouts"].toArray().at(0).toObject()["states"].toObject()["shortcuts"]
-                     .toObject()["bindings"].toArray().size(),
+        QCOMPARE(saved["layouts"]
+                     .toArray()
+                     .at(0)
+                     .toObject()["states"]
+                     .toObject()["shortcuts"]
+                     .toObject()["bindings"]
+                     .toArray()
+                     .size(),
                  c_many + 2);
         // A merge drops what has no command, and nothing else.
         UiStateShortcuts other;
@@ -361,8 +374,13 @@ private:
                  QString("Ctrl+Shift+9"));
         QCOMPARE(ChildOf(saved, "composite", "subitems", "good.composite")["items"].toArray(),
                  (QJsonArray{"Not.There", "Big.3"}));
-        const QJsonArray pages = saved["layouts"].toArray().at(0).toObject()["states"]
-                                     .toObject()["ribbon"].toObject()["pages"].toArray();
+        const QJsonArray pages = saved["layouts"]
+                                     .toArray()
+                                     .at(0)
+                                     .toObject()["states"]
+                                     .toObject()["ribbon"]
+                                     .toObject()["pages"]
+                                     .toArray();
         const QJsonArray groups = pages.last().toObject()["groups"].toArray();
         QCOMPARE(groups.last().toObject()["spots"].toArray().at(2).toObject()["id"].toString(),
                  QString("Not.There"));

@@ -125,7 +125,7 @@ protected:
         if (findings.size() > k_most)
             text += QStringLiteral("<p>") +
                     Texts::tr("More findings: %n", nullptr,
-                                                static_cast<int>(findings.size() - k_most)) +
+                              static_cast<int>(findings.size() - k_most)) +
                     QStringLiteral("</p>");
         mp_findings->setText(text);
     }
@@ -202,7 +202,8 @@ private:
 class ExportPage : public HostBackstagePage
 {
 public:
-    ExportPage(Host& host, QWidget* parent) : HostBackstagePage(host, parent, Texts::Later("Export"))
+    ExportPage(Host& host, QWidget* parent)
+        : HostBackstagePage(host, parent, Texts::Later("Export"))
     {
         setWindowIcon(ovk::IconsController::Load(QStringLiteral("Group.Export")));
         AddButtons({QStringLiteral("File.ExportStl"), QStringLiteral("File.ExportAscii"),

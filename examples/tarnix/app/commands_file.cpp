@@ -97,8 +97,7 @@ void Reload(Host& host)
         }
         return count > 0;
     });
-    host.Tell(Texts::tr("Parts read again: %n", nullptr,
-                                          count));
+    host.Tell(Texts::tr("Parts read again: %n", nullptr, count));
     if (!errors.isEmpty())
         host.Warn(Texts::tr("Some parts could not be read again; they stay as they were."), errors);
 }
@@ -129,8 +128,7 @@ void ExportEach(Host& host)
                            StlWriter::Binary(part.PlacedMesh(), part.name)))
                 return;
         }
-        host.Tell(Texts::tr("Parts exported: %n", nullptr,
-                                              used.size()));
+        host.Tell(Texts::tr("Parts exported: %n", nullptr, used.size()));
     });
 }
 
@@ -142,9 +140,11 @@ void ExportPicture(Host& host)
                     QByteArray bytes;
                     QBuffer buffer(&bytes);
                     buffer.open(QIODevice::WriteOnly);
-                    host.view->Picture({host.settings.picture_width, host.settings.picture_height}).save(&buffer, "PNG");
+                    host.view->Picture({host.settings.picture_width, host.settings.picture_height})
+                        .save(&buffer, "PNG");
                     if (WriteFile(host, path, bytes))
-                        host.Tell(Texts::tr("Picture saved as %1.").arg(QFileInfo(path).fileName()));
+                        host.Tell(
+                            Texts::tr("Picture saved as %1.").arg(QFileInfo(path).fileName()));
                 });
 }
 
@@ -160,7 +160,8 @@ void PrintReport(Host& host)
                 FileNameOf(host.workspace.BuildName()) + QStringLiteral(".pdf"),
                 [&host](const QString& path) {
                     if (WriteFile(host, path, ReportPdf(host)))
-                        host.Tell(Texts::tr("Report written to %1.").arg(QFileInfo(path).fileName()));
+                        host.Tell(
+                            Texts::tr("Report written to %1.").arg(QFileInfo(path).fileName()));
                 });
 }
 

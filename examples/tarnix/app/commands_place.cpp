@@ -75,8 +75,8 @@ template <int Axis, int Sign> void QuarterTurn(Host& host)
 
 template <int Sign> void TurnStep(Host& host)
 {
-    ApplyAboutCenter(host, Texts::Step("Turn"), Transform::Rotation(2, host.workspace.turn_step * Sign),
-                     MergeTurn);
+    ApplyAboutCenter(host, Texts::Step("Turn"),
+                     Transform::Rotation(2, host.workspace.turn_step * Sign), MergeTurn);
 }
 
 void ScaleAll(Host& host, const Phrase& title, double factor, int merge = 0)
@@ -132,7 +132,8 @@ double Stepped(const Host& host, double degrees)
 Transform MapOf(const Host& host, const MoveTurn& move)
 {
     return Transform::Translation(move.shift) *
-           Transform::About(SelectionCenter(host), Transform::Rotation(2, Stepped(host, move.degrees)));
+           Transform::About(SelectionCenter(host),
+                            Transform::Rotation(2, Stepped(host, move.degrees)));
 }
 
 bool StaysInside(const Host& host, const MoveTurn& move)
@@ -145,7 +146,8 @@ bool StaysInside(const Host& host, const MoveTurn& move)
             continue;
         const Box box = MappedBounds(*part->GetMesh(), map * part->GetPlacement());
         for (int axis = 0; axis < 3; ++axis) {
-            if (box.low[axis] < room.low[axis] - k_tolerance || box.high[axis] > room.high[axis] + k_tolerance)
+            if (box.low[axis] < room.low[axis] - k_tolerance ||
+                box.high[axis] > room.high[axis] + k_tolerance)
                 return false;
         }
     }
@@ -167,31 +169,32 @@ void AskMove(Host& host)
 
 void AskTurn(Host& host)
 {
-    NumberDialog::Ask(host.window, Texts::tr("Turn By"),
-                      Texts::tr("Turns about the middle of the selection: first about X, then Y, then Z."),
-                      {{Texts::tr("About X:"), 0, -360, 360, NumberField::Degrees},
-                       {Texts::tr("About Y:"), 0, -360, 360, NumberField::Degrees},
-                       {Texts::tr("About Z:"), 0, -360, 360, NumberField::Degrees}},
-                      host.workspace.Format(), [&host](const std::vector<double>& v) {
-                          ApplyAboutCenter(host, Texts::Step("Turn"),
-                                           Transform::Rotation(2, Stepped(host, v[2])) *
-                                               Transform::Rotation(1, Stepped(host, v[1])) *
-                                               Transform::Rotation(0, Stepped(host, v[0])));
-                      });
+    NumberDialog::Ask(
+        host.window, Texts::tr("Turn By"),
+        Texts::tr("Turns about the middle of the selection: first about X, then Y, then Z."),
+        {{Texts::tr("About X:"), 0, -360, 360, NumberField::Degrees},
+         {Texts::tr("About Y:"), 0, -360, 360, NumberField::Degrees},
+         {Texts::tr("About Z:"), 0, -360, 360, NumberField::Degrees}},
+        host.workspace.Format(), [&host](const std::vector<double>& v) {
+            ApplyAboutCenter(host, Texts::Step("Turn"),
+                             Transform::Rotation(2, Stepped(host, v[2])) *
+                                 Transform::Rotation(1, Stepped(host, v[1])) *
+                                 Transform::Rotation(0, Stepped(host, v[0])));
+        });
 }
 
 void AskScale(Host& host)
 {
-    NumberDialog::Ask(host.window, Texts::tr("Scale By"),
-                      Texts::tr("Factors about the middle of the selection; 100 % is the present size."),
-                      {{Texts::tr("Along X:"), 100, 0.1, 10000, NumberField::Percent},
-                       {Texts::tr("Along Y:"), 100, 0.1, 10000, NumberField::Percent},
-                       {Texts::tr("Along Z:"), 100, 0.1, 10000, NumberField::Percent}},
-                      host.workspace.Format(), [&host](const std::vector<double>& v) {
-                          ApplyAboutCenter(
-                              host, Texts::Step("Scale"),
-                              Transform::Scaling({v[0] / 100, v[1] / 100, v[2] / 100}));
-                      });
+    NumberDialog::Ask(
+        host.window, Texts::tr("Scale By"),
+        Texts::tr("Factors about the middle of the selection; 100 % is the present size."),
+        {{Texts::tr("Along X:"), 100, 0.1, 10000, NumberField::Percent},
+         {Texts::tr("Along Y:"), 100, 0.1, 10000, NumberField::Percent},
+         {Texts::tr("Along Z:"), 100, 0.1, 10000, NumberField::Percent}},
+        host.workspace.Format(), [&host](const std::vector<double>& v) {
+            ApplyAboutCenter(host, Texts::Step("Scale"),
+                             Transform::Scaling({v[0] / 100, v[1] / 100, v[2] / 100}));
+        });
 }
 
 void LayFlat(Host& host)
@@ -251,7 +254,8 @@ void FillPlate(Host& host)
     const Transform map = Transform::Translation({0, 0, size.z * factor / 2.0}) *
                           Transform::Scaling({factor, factor, factor}) *
                           Transform::Translation(-box.Center());
-    host.GetScene().EditSelected(Texts::Step("Fill the Plate"), [&map](Part& part) { part.Apply(map); });
+    host.GetScene().EditSelected(Texts::Step("Fill the Plate"),
+                                 [&map](Part& part) { part.Apply(map); });
 }
 
 template <int Axis, AlignTo Where> void Align(Host& host)
@@ -342,14 +346,18 @@ const CommandSpec k_turn_scale_rows[] = {
     {"Turn.By", Need::Editable, AskTurn},
     {"Turn.LayFlat", Need::Editable, LayFlat},
     {"Turn.Over", Need::Editable,
-     [](Host& host) { ApplyAboutCenter(host, Texts::Step("Turn Over"), Transform::Rotation(0, 180.0)); }},
+     [](Host& host) {
+         ApplyAboutCenter(host, Texts::Step("Turn Over"), Transform::Rotation(0, 180.0));
+     }},
     {"Turn.Reset", Need::Editable,
      [](Host& host) { Rebuild(host, Texts::Step("Reset Turn"), WithoutTurn); }},
     {"Scale.By", Need::Editable, AskScale},
-    {"Scale.Up", Need::Editable, [](Host& host) { ScaleAll(host, Texts::Step("Larger"), 1.1, MergeScale); }},
+    {"Scale.Up", Need::Editable,
+     [](Host& host) { ScaleAll(host, Texts::Step("Larger"), 1.1, MergeScale); }},
     {"Scale.Down", Need::Editable,
      [](Host& host) { ScaleAll(host, Texts::Step("Smaller"), 0.9, MergeScale); }},
-    {"Scale.Double", Need::Editable, [](Host& host) { ScaleAll(host, Texts::Step("Double"), 2.0); }},
+    {"Scale.Double", Need::Editable,
+     [](Host& host) { ScaleAll(host, Texts::Step("Double"), 2.0); }},
     {"Scale.Half", Need::Editable, [](Host& host) { ScaleAll(host, Texts::Step("Halve"), 0.5); }},
     {"Scale.ToFit", Need::Editable, FillPlate},
     {"Scale.InchToMm", Need::Editable,

@@ -82,8 +82,7 @@ void ChangeMeshes(Host& host, const Phrase& title, const std::function<Mesh(cons
     size_t triangles = 0;
     for (const Part* part : host.GetScene().Selected())
         triangles += part->GetMesh()->Triangles().size();
-    host.Tell(Texts::tr("Triangles now: %n", nullptr,
-                                          static_cast<int>(triangles)));
+    host.Tell(Texts::tr("Triangles now: %n", nullptr, static_cast<int>(triangles)));
 }
 
 void Subdivide(Host& host)
@@ -102,9 +101,10 @@ void Subdivide(Host& host)
 void AskSimplify(Host& host)
 {
     const Vec3 size = host.GetScene().Selected().front()->GetMesh()->Bounds().Size();
-    NumberDialog::Ask(host.window, Texts::tr("Simplify"), Texts::tr("Details smaller than this are lost."),
-                      {{Texts::tr("Fineness:"), std::max({size.x, size.y, size.z}) / 60.0, 0.01, 100.0,
-                        NumberField::Length}},
+    NumberDialog::Ask(host.window, Texts::tr("Simplify"),
+                      Texts::tr("Details smaller than this are lost."),
+                      {{Texts::tr("Fineness:"), std::max({size.x, size.y, size.z}) / 60.0, 0.01,
+                        100.0, NumberField::Length}},
                       host.workspace.Format(), [&host](const std::vector<double>& v) {
                           ChangeMeshes(host, Texts::Step("Simplify"), [&v](const Part& part) {
                               return Simplify(*part.GetMesh(), v[0]);
@@ -113,8 +113,7 @@ void AskSimplify(Host& host)
 }
 
 /// Replaces each selected part by several, made from its mesh; one piece changes nothing.
-void Replace(Host& host, const Phrase& title,
-             const std::function<PartList(const Part&)>& pieces_of)
+void Replace(Host& host, const Phrase& title, const std::function<PartList(const Part&)>& pieces_of)
 {
     const Busy busy;
     bool changed = false;
@@ -223,7 +222,8 @@ void Cut(Host& host, const Phrase& title, bool keep_below, bool keep_above)
 }
 
 const CommandSpec k_rows[] = {
-    {"Repair.All", Need::Editable, [](Host& host) { Repair(host, Texts::Step("Repair"), RepairAll); }},
+    {"Repair.All", Need::Editable,
+     [](Host& host) { Repair(host, Texts::Step("Repair"), RepairAll); }},
     {"Repair.Join", Need::Editable,
      [](Host& host) {
          Repair(host, Texts::Step("Join Points"), [](const Mesh& mesh, RepairReport& report) {
@@ -255,7 +255,8 @@ const CommandSpec k_rows[] = {
     {"Mesh.Subdivide", Need::Editable, Subdivide},
     {"Mesh.Smooth", Need::Editable,
      [](Host& host) {
-         ChangeMeshes(host, Texts::Step("Smooth"), [](const Part& part) { return Smooth(*part.GetMesh()); });
+         ChangeMeshes(host, Texts::Step("Smooth"),
+                      [](const Part& part) { return Smooth(*part.GetMesh()); });
      }},
     {"Mesh.Simplify", Need::Editable, AskSimplify},
     {"Mesh.CutBelow", Need::SectionThroughPart,

@@ -67,8 +67,8 @@ void SetThickness(Host& host, double thickness)
 void AskThickness(Host& host)
 {
     NumberDialog::Ask(host.window, Texts::tr("Layer Thickness"), QString(),
-                      {{Texts::tr("Thickness:"), host.workspace.GetViewState().layers.thickness, 0.02, 5.0,
-                        NumberField::Length}},
+                      {{Texts::tr("Thickness:"), host.workspace.GetViewState().layers.thickness,
+                        0.02, 5.0, NumberField::Length}},
                       host.workspace.Format(),
                       [&host](const std::vector<double>& v) { SetThickness(host, v[0]); });
 }
@@ -133,13 +133,13 @@ QString LayerName(int layer)
 void ExportLayer(Host& host)
 {
     const int layer = CurrentLayer(host);
-    AskSavePath(
-        host, Texts::tr("Export Layer"), Texts::tr("Drawings (*.svg)"), LayerName(layer),
-        [&host, layer](const QString& path) {
-            if (WriteFile(host, path, LayerDrawing(host, layer)))
-                host.Tell(
-                    Texts::tr("Layer %1 exported to %2.").arg(layer + 1).arg(QFileInfo(path).fileName()));
-        });
+    AskSavePath(host, Texts::tr("Export Layer"), Texts::tr("Drawings (*.svg)"), LayerName(layer),
+                [&host, layer](const QString& path) {
+                    if (WriteFile(host, path, LayerDrawing(host, layer)))
+                        host.Tell(Texts::tr("Layer %1 exported to %2.")
+                                      .arg(layer + 1)
+                                      .arg(QFileInfo(path).fileName()));
+                });
 }
 
 void ExportAll(Host& host)
@@ -152,8 +152,7 @@ void ExportAll(Host& host)
                                             LayerDrawing(host, written)))
             ++written;
         QApplication::restoreOverrideCursor();
-        host.Tell(Texts::tr("Layers exported: %n",
-                                              nullptr, written));
+        host.Tell(Texts::tr("Layers exported: %n", nullptr, written));
     });
 }
 

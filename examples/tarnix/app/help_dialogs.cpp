@@ -93,9 +93,8 @@ private:
 TextWindow::Contents HelpContents()
 {
     // In the language of the program, or in English where nobody has written it yet.
-    for (const QString& name :
-         {QStringLiteral(":/tarnix/help.%1.html").arg(Language::Current()),
-          QStringLiteral(":/tarnix/help.html")}) {
+    for (const QString& name : {QStringLiteral(":/tarnix/help.%1.html").arg(Language::Current()),
+                                QStringLiteral(":/tarnix/help.html")}) {
         QFile page(name);
         if (page.open(QIODevice::ReadOnly))
             return {Texts::tr("Help"), QString::fromUtf8(page.readAll())};

@@ -41,7 +41,8 @@ QDoubleSpinBox* MakeNumberEditor(QWidget* parent, const NumberField& field, cons
 
 NumberDialog::NumberDialog(QWidget* parent, const QString& title, const QString& note,
                            const std::vector<NumberField>& fields, const Formatter& format)
-    : QDialog(parent), m_fields(fields), m_format(format), m_storable(this, QStringLiteral("NumberDialog"))
+    : QDialog(parent), m_fields(fields), m_format(format),
+      m_storable(this, QStringLiteral("NumberDialog"))
 {
     setObjectName(QStringLiteral("numberDialog"));
     setWindowTitle(title);
