@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
     g++ cmake ninja-build ccache mold
-    qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools
+    qtbase5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
     libbenchmark-dev python3
     xvfb xauth x11-utils openbox xdotool at-spi2-core dbus-x11 fonts-dejavu-core
 )
