@@ -30,6 +30,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMimeData>
+#include <QPointer>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolButton>
@@ -126,6 +127,7 @@ void MainWindow::ActivateLayout(const QString& name)
     if (!layout)
         return;
     controller->SetActiveLayout(layout);
+    FindNewPanels();
     m_host.settings.layout.SetData(name);
     // The layout decides what the view is for.
     const bool slicing = name == QLatin1String("Slice");
@@ -141,6 +143,40 @@ void MainWindow::ActivateLayout(const QString& name)
             state.layers.current = std::max(0, m_host.workspace.Layers().Count() * 2 / 3 - 1);
     });
     m_host.RequestUpdate();
+}
+
+void MainWindow::FindNewPanels()
+{
+    // The default profile knows no screen: its floating panels stand in the corner until they are
+    // given a place over the view.
+    const QPoint unplaced(1, 1);
+    m_new_panels.clear();
+    for (ovk::DockWidget* panel : GetDockManager()->GetFloatedWidgets()) {
+        if (panel->pos() == unplaced)
+            m_new_panels.append(panel);
+    }
+    // After the layout is laid out.
+    if (!m_new_panels.isEmpty())
+        QTimer::singleShot(0, this, &MainWindow::PlaceNewPanels);
+}
+
+void MainWindow::PlaceNewPanels()
+{
+    QPoint corner = mp_view->mapToGlobal(mp_view->rect().bottomRight()) - QPoint(12, 12);
+    for (const QPointer<ovk::DockWidget>& panel : qAsConst(m_new_panels)) {
+        if (!panel || !panel->IsFloated())
+            continue;
+        panel->move(corner - QPoint(panel->width(), panel->height()));
+        corner.ry() -= panel->height() + 12;
+    }
+}
+
+void MainWindow::moveEvent(QMoveEvent* event)
+{
+    RibbonWindow::moveEvent(event);
+    // At the start it is the window manager that places the window.
+    if (!m_was_active)
+        PlaceNewPanels();
 }
 
 QString MainWindow::LayoutName() const
@@ -221,7 +257,8 @@ void MainWindow::UpdateColors()
 {
     const Qtitan::RibbonStyle* style = GetStyle();
     const QColor accent = style ? style->accentColor() : QColor(0x2b, 0x7c, 0xd3);
-    ViewColors colors = m_host.IsDark() ? ViewColors::Dark(accent.lighter(125)) : ViewColors::Light(accent);
+    ViewColors colors =
+        m_host.IsDark() ? ViewColors::Dark(accent.lighter(125)) : ViewColors::Light(accent);
     UseOwnColors(colors, m_host.settings);
     mp_view->SetColors(colors);
 }
@@ -341,6 +378,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 void MainWindow::changeEvent(QEvent* event)
 {
     RibbonWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_was_active = true;
     if (event->type() != QEvent::LanguageChange || !mp_unit)
         return;
     // A word about what just happened is old by now, and in the wrong language.
@@ -371,8 +410,8 @@ bool MainWindow::CanDropData(const QMimeData* data)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!m_close_for_good && !m_host.settings.dont_ask_unsaved && m_host.GetScene().IsModified() && m_host.GetScene().Count() > 0 &&
-        !m_host.IsQuiet()) {
+    if (!m_close_for_good && !m_host.settings.dont_ask_unsaved && m_host.GetScene().IsModified() &&
+        m_host.GetScene().Count() > 0 && !m_host.IsQuiet()) {
         event->ignore();
         UnlessUnsaved(m_host, tr("Leave without saving"), [this] { CloseForGood(); });
         return;

@@ -4,9 +4,14 @@
 #include <ovk/main_window/ribbon_window.h>
 
 #include <QPointer>
+#include <QVector>
 
 class QLabel;
 class QToolButton;
+
+namespace ovk {
+class DockWidget;
+}
 
 namespace tarnix {
 
@@ -60,8 +65,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
 
 private:
+    void FindNewPanels();
+    void PlaceNewPanels();
     void BuildStatusBar();
     void Retranslate();
     void UpdateStatusBar();
@@ -80,6 +88,9 @@ private:
     QToolButton* mp_unit = nullptr;
     int m_held_key = 0;
     bool m_close_for_good = false;
+    /// Floating panels of the default profile in the layout of the screen.
+    QVector<QPointer<ovk::DockWidget>> m_new_panels;
+    bool m_was_active = false;
 };
 
 } // namespace tarnix
