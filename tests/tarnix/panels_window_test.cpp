@@ -44,8 +44,8 @@ private Q_SLOTS:
             const QRect notes = rect("panel.notes");
             QVERIFY(!notes.isEmpty());
             QVERIFY(m_screen->Drag(notes.topLeft() + QPoint(90, 12),
-                                   notes.topLeft() + QPoint(90 + 130, 12 + 90)));
-            place = notes.translated(130, 90);
+                                   notes.topLeft() + QPoint(90 - 130, 12 - 90)));
+            place = notes.translated(-130, -90);
             QTRY_VERIFY_WITH_TIMEOUT(IsNear(rect("panel.notes"), place), k_patience_ms);
             // And the properties are folded.
             const QRect title = rect("panel.properties");
