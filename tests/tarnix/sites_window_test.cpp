@@ -47,6 +47,10 @@ private Q_SLOTS:
         // Out of its side into the middle of the view, where it floats.
         QVERIFY(m_screen->Drag(HandleOf("toolbar.select"), area.center()));
         QTRY_VERIFY_WITH_TIMEOUT(IsFloating("toolbar.select"), k_patience_ms);
+        // It floats as soon as it leaves its side, and is still on its way then.
+        QTRY_VERIFY_WITH_TIMEOUT(
+            (Rect("toolbar.select").topLeft() - area.center()).manhattanLength() < 60,
+            k_patience_ms);
         const QRect floating = Rect("toolbar.select");
         QVERIFY(m_program->Leave());
 
