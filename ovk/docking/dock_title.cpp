@@ -2,6 +2,9 @@
 
 #include "ovk/core/icons_controller.h"
 
+#include <QtCore/QCache>
+#include <QtCore/QGlobalStatic>
+#include <QtCore/QPair>
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
@@ -10,6 +13,7 @@
 #include <QtWidgets/QStylePainter>
 
 #include <algorithm>
+#include <memory>
 
 namespace ovk {
 
@@ -75,6 +79,25 @@ QIcon Inked(const QIcon& icon, const QColor& ink)
         painter.end();
         inked.addPixmap(QPixmap::fromImage(image));
     }
+    return inked;
+}
+
+/// Buttons of all panels share a few icons. The key is the icon's and the ink's.
+using InkedIcons = QCache<QPair<qint64, QRgb>, QIcon>;
+constexpr int c_kept_icons = 64;
+Q_GLOBAL_STATIC_WITH_ARGS(InkedIcons, g_inked_icons, (c_kept_icons))
+
+/// As Inked(), made once.
+QIcon InkedOnce(const QIcon& icon, const QColor& ink)
+{
+    // Pixmaps go before the application does.
+    static const bool cleared = (qAddPostRoutine([] { g_inked_icons->clear(); }), true);
+    Q_UNUSED(cleared)
+    const auto key = qMakePair(icon.cacheKey(), ink.rgba());
+    if (const QIcon* const known = g_inked_icons->object(key))
+        return *known;
+    const QIcon inked = Inked(icon, ink);
+    g_inked_icons->insert(key, std::make_unique<QIcon>(inked).release());
     return inked;
 }
 
@@ -272,7 +295,7 @@ const QIcon& DockButton::SeenIcon(const QColor& ink)
     if (m_seen_of != icon().cacheKey() || m_seen_ink != ink.rgba()) {
         m_seen_of = icon().cacheKey();
         m_seen_ink = ink.rgba();
-        m_seen = Inked(icon(), ink);
+        m_seen = InkedOnce(icon(), ink);
     }
     return m_seen;
 }
