@@ -207,11 +207,15 @@ public:
     bool Settle() const
     {
         constexpr int k_place = 60;
-        // A floating panel is a window of the program, too.
-        if (!m_screen.Tool({"search", "--sync", "--all", "--onlyvisible", "--pid",
-                            QString::number(m_process.processId()), "--name",
-                            "^(New build|Neues Projekt)", "windowactivate", "windowmove",
-                            QString::number(k_place), QString::number(k_place)}))
+        // A floating panel is a window of the program, too. The tool ends with an error when a
+        // window goes away while it looks through all of them: it then looks again.
+        const auto found = [this] {
+            return m_screen.Tool({"search", "--sync", "--all", "--onlyvisible", "--pid",
+                                  QString::number(m_process.processId()), "--name",
+                                  "^(New build|Neues Projekt)", "windowactivate", "windowmove",
+                                  QString::number(k_place), QString::number(k_place)});
+        };
+        if (!QTest::qWaitFor(found, k_patience_ms))
             return false;
         const auto placed = [this] {
             const QJsonObject window = Named("tarnixWindow");
