@@ -5,6 +5,8 @@
 //
 // Runs without a display: QT_QPA_PLATFORM=offscreen.
 
+#include "ribbon_layout.h"
+
 #include <benchmark/benchmark.h>
 
 #include <ovk/commands/ui_command.h>
@@ -132,24 +134,7 @@ QJsonObject Catalogue(int commands)
 
 QJsonObject LayoutJson(const QString& name, int spots_a_group)
 {
-    QJsonArray pages;
-    int next = 0;
-    for (int p = 0; next < c_spots; ++p) {
-        QJsonArray groups;
-        for (int g = 0; g < c_groups_a_page && next < c_spots; ++g) {
-            QJsonArray spots;
-            for (int s = 0; s < spots_a_group && next < c_spots; ++s, ++next)
-                spots.append(QJsonObject{{"id", Id(next)}, {"style", s % 3}});
-            groups.append(QJsonObject{{"id", QStringLiteral("group%1.%2").arg(p).arg(g)},
-                                      {"title", QStringLiteral("Group %1").arg(g)},
-                                      {"spots", spots}});
-        }
-        pages.append(QJsonObject{{"id", QStringLiteral("page%1").arg(p)},
-                                 {"title", QStringLiteral("Page %1").arg(p)},
-                                 {"groups", groups}});
-    }
-    const QJsonObject ribbon{{"id", "ribbon"}, {"pages", pages}};
-    return {{"id", name}, {"states", QJsonObject{{"ribbon", ribbon}}}};
+    return bench::LayoutJson(name, {c_spots, c_groups_a_page, spots_a_group, 3}, Id);
 }
 
 class BenchApplication : public ovk::Application

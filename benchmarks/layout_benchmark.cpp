@@ -4,6 +4,8 @@
 //
 // Runs without a display: QT_QPA_PLATFORM=offscreen.
 
+#include "ribbon_layout.h"
+
 #include <benchmark/benchmark.h>
 
 #include <ovk/commands/ui_command.h>
@@ -110,24 +112,7 @@ QJsonObject Catalogue(int count)
 
 QJsonObject LayoutJson(const QString& name, int count)
 {
-    QJsonArray pages;
-    int next = 0;
-    for (int p = 0; next < count; ++p) {
-        QJsonArray groups;
-        for (int g = 0; g < groups_a_page && next < count; ++g) {
-            QJsonArray spots;
-            for (int s = 0; s < buttons_a_group && next < count; ++s, ++next)
-                spots.append(QJsonObject{{"id", Id(next)}, {"style", s % 4}});
-            groups.append(QJsonObject{{"id", QStringLiteral("group%1.%2").arg(p).arg(g)},
-                                      {"title", QStringLiteral("Group %1").arg(g)},
-                                      {"spots", spots}});
-        }
-        pages.append(QJsonObject{{"id", QStringLiteral("page%1").arg(p)},
-                                 {"title", QStringLiteral("Page %1").arg(p)},
-                                 {"groups", groups}});
-    }
-    const QJsonObject ribbon{{"id", "ribbon"}, {"pages", pages}};
-    return {{"id", name}, {"states", QJsonObject{{"ribbon", ribbon}}}};
+    return bench::LayoutJson(name, {count, groups_a_page, buttons_a_group, 4}, Id);
 }
 
 class BenchApplication : public ovk::Application
